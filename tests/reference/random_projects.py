@@ -60,8 +60,8 @@ class Maker:
         rng = self.rng
         self.version = 1 if self.chance(0.15) else 2
         self.S, self.H, self.Z = rng.randint(1, 12), rng.randint(1, 6), rng.randint(1, 6)
-        if self.S < 4 and self.chance(0.6):
-            self.S += 4
+        if self.S < 6 and self.chance(0.75):
+            self.S += 6
         self.A, self.F = rng.randint(1, 6), rng.randint(1, 7)
         levels = self.makeLevels()
         lines = self.makeLines(float(levels.get("conservation-status", "1")))
@@ -78,12 +78,12 @@ class Maker:
         rng, levels = self.rng, {}
         if self.chance(0.9):
             levels["error-margin"] = rng.choice(
-                ("0", "1", "5", "10", "12.5", "20", "20", "35", "50", "75", "100", str(rng.randint(0, 100))))
+                ("0", "0", "1", "3", "5", "10", "10", "12.5", "20", "35", "100", str(rng.randint(0, 100))))
         if self.chance(0.85):
             levels["threat-representation"] = rng.choice(
                 ("0", "0.25", "0.5", "0.6", "0.75", "0.75", "0.9", "1", "1", "1.0"))
         if self.chance(0.6):
-            levels["conservation-status"] = rng.choice(("1", "1", "0.9", "0.8", "0.75", "0.5", "0.5", "0"))
+            levels["conservation-status"] = rng.choice(("1", "1", "1", "0.9", "0.8", "0.75", "0.5", "0"))
         return levels
 
     def makeAnswers(self):
@@ -95,7 +95,7 @@ class Maker:
 
     def makeLines(self, statusLevel):
         S, H, Z, A, F = self.S, self.H, self.Z, self.A, self.F
-        statuses = self.makeStatuses()
+        statuses = self.makeStatuses(statusLevel)
         kept = [s for s in range(S) if self.version == 1 or float(statuses[s]) <= statusLevel] or list(range(S))
         habitatNeeds, zoneNeeds = self.makeThresholds(H), self.makeThresholds(Z)
         activities, urgency = self.names(A), self.many("0112333", A)
@@ -138,9 +138,12 @@ class Maker:
             lines = [line for line in lines if line[0] not in filled]
         return lines
 
-    def makeStatuses(self):
+    def makeStatuses(self, level):
+        """Conservation statuses; seldom are all of them above the level."""
         pool = self.rng.choice((("0", "0.5", "1"), ("1",), ("0.2", "0.4", "0.6", "0.8"), ("0.25", "0.5", "0.75", "1")))
-        return self.many(pool, self.S)
+        low = [text for text in ("0", *pool) if float(text) <= level]
+        lowered = self.rng.choice((0.3, 0.6, 0.9)) if self.chance(0.95) else 0
+        return [self.rng.choice(low) if self.chance(lowered) else text for text in self.many(pool, self.S)]
 
     def makeThresholds(self, count):
         pool = self.rng.choice((("2",), ("2", "3"), ("3",), ("1", "2", "3"), ("1.5", "2.5"), ("0", "1", "3")))

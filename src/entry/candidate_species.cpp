@@ -1,0 +1,223 @@
+// SPDX-FileCopyrightText: 2026 The Brenica developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <array>
+
+#include "entry/modErrorHandling.h"
+#include "entry/modFlexGridUtilities.h"
+#include "project/constant_tables.h"
+#include "project/frmBrenica.h"
+#include "ui/text.h"
+
+using modFlexGridUtilities::UpdateFlexGrid;
+
+namespace {
+
+constexpr std::array RowPerSpecies = {summary::HabitatUse,    summary::JurisUnitUse,  summary::Area,
+                                      summary::Vulnerability, summary::Functionality, summary::SocioEcon};
+constexpr std::array UseColumns = {0, use::Level};
+constexpr std::array ThreatColumns = {
+    0, threat::Urgency, threat::Probability, threat::Severity, threat::Recovery, threat::Proportion};
+
+}  // namespace
+
+void frmBrenica::cmdUpdateSpecies_Click() try {
+    const int added = txtTotalSpecies.Long();
+    const int oldTotal = global_.TotalSpecies;
+    UpdateFlexGrid(flxCandidateSpecies, added, global_.TotalSpecies, true);
+    UpdateOtherSpeciesFlexGrids(added, oldTotal);
+} catch (...) {
+    ReportError(9999, "Brenica.cmdUpdateSpecies_Click", "");
+}
+
+void frmBrenica::UpdateOtherSpeciesFlexGrids(int added, int oldTotal) try {
+    if (global_.TotalSpecies < 1) return;
+    growSpeciesRows(summary::HabitatUse, oldTotal);
+    growSpeciesRows(summary::JurisUnitUse, oldTotal);
+    growSpeciesBlocks(summary::HabitatsBySpecies, global_.TotalHabitatTypes, added, oldTotal, use::UnitName);
+    growSpeciesBlocks(summary::JurisUnitsBySpecies, global_.TotalJurisUnits, added, oldTotal, use::UnitName);
+    flxSummary(summary::Area).Rows(global_.TotalSpecies + 1);
+    growSpeciesRows(summary::Vulnerability, oldTotal);
+    growSpeciesBlocks(summary::ThreatsBySpecies, global_.TotalLandUses, added, oldTotal, threat::Probability);
+    growThreatBlocks(added, oldTotal);
+    for (const int member : {summary::Functionality, summary::SocioEcon, summary::DataQuality}) {
+        flxSummary(member).Rows(global_.TotalSpecies + 1);
+    }
+    for (int i = 0; i < flxScores.Count(); ++i) {
+        UpdateFlexGrid(flxScores(i), added, false);
+        UpdateFlexGrid(flxScoresSort(i), added, false);
+    }
+} catch (...) {
+    ReportError(9999, "Brenica.UpdateOtherSpeciesFlexGrids", "");
+}
+
+/// A wide table: the rows of a calculation's totals go, and the new species' cells start blank.
+void frmBrenica::growSpeciesRows(int member, int oldTotal) {
+    ui::Grid& grid = flxSummary(member);
+    grid.Rows(global_.TotalSpecies + 1);
+    for (int row = oldTotal + 1; row <= grid.Rows() - 1; ++row) {
+        for (int col = 1; col <= grid.Cols() - 1; ++col) grid.TextMatrix(row, col, "");
+    }
+}
+
+/// A long table: a block of units for each new species, with the unit columns of the first species' block. Where there
+/// was no species the lists have made the first block already.
+void frmBrenica::growSpeciesBlocks(int member, int units, int added, int oldTotal, int lastCopiedCol) {
+    ui::Grid& grid = flxSummary(member);
+    if (units == 0) return UpdateFlexGrid(grid, added, false);
+    for (int species = oldTotal == 0 ? 2 : 1; species <= added; ++species) {
+        for (int unit = 1; unit <= units; ++unit) {
+            grid.AddItem("");
+            const int row = grid.Rows() - 1;
+            for (int col = 1; col <= lastCopiedCol; ++col)
+                grid.TextMatrix(row, col, grid.TextMatrix(unit, col));
+        }
+    }
+}
+
+/// The table by threat has a block of species a threat, which grows inside.
+void frmBrenica::growThreatBlocks(int added, int oldTotal) {
+    ui::Grid& grid = flxSummary(summary::SpeciesByThreat);
+    if (global_.TotalLandUses == 0) return UpdateFlexGrid(grid, added, false);
+    const int first = oldTotal == 0 ? 2 : oldTotal + 1;
+    for (int threatNumber = 1; threatNumber <= global_.TotalLandUses; ++threatNumber) {
+        for (int species = first; species <= oldTotal + added; ++species) {
+            grid.AddItem("", blockRow(threatNumber, global_.TotalSpecies, species));
+        }
+    }
+}
+
+void frmBrenica::cmdRemoveSpecies_Click() try { RemoveSpecies(txtRemoveSpeciesIndex.Long()); } catch (...) {
+    ReportError(9999, "Brenica.cmdRemoveSpecies_Click", "");
+}
+
+/// The data quality table is left alone: its rows keep their old positions.
+void frmBrenica::RemoveSpecies(int row) try {
+    const int oldTotal = global_.TotalSpecies;
+    if (row < 1 || row > oldTotal) {
+        txtRemoveSpeciesIndex.Text("0");
+        return;
+    }
+    if (cbxSpeciesName.ListCount() > 0 && !flxCandidateSpecies.TextMatrix(1, list::Name).empty()) {
+        cbxSpeciesName.RemoveItem(row - 1);
+    }
+    modFlexGridUtilities::RemoveGridEntry(flxCandidateSpecies, row, global_.TotalSpecies);
+    for (auto* grids : {&flxScores, &flxScoresSort}) {
+        for (ui::Grid& grid : *grids) grid.RemoveItem(row);
+    }
+    for (int i = 1; i <= global_.TotalSpecies; ++i) {
+        flxScoresSort(0).TextMatrix(i, score::SortKey, ui::toText(i));
+        flxScoresSort(1).TextMatrix(i, score::OriginalSortKey, ui::toText(i));
+    }
+    removeSpeciesBlock(summary::HabitatsBySpecies, global_.TotalHabitatTypes, row, UseColumns);
+    removeSpeciesBlock(summary::JurisUnitsBySpecies, global_.TotalJurisUnits, row, UseColumns);
+    removeSpeciesRows(row);
+    removeSpeciesBlock(summary::ThreatsBySpecies, global_.TotalLandUses, row, ThreatColumns);
+    removeSpeciesFromThreats(row, oldTotal);
+} catch (...) {
+    ReportError(9999, "Brenica.RemoveSpecies", "");
+}
+
+/// The last species' block stays with the names of its units.
+void frmBrenica::removeSpeciesBlock(int member, int units, int row, std::span<const int> clearedColumns) {
+    ui::Grid& grid = flxSummary(member);
+    if (units == 0) return grid.RemoveItem(row);
+    const int first = blockRow(row, units, 1);
+    for (int unit = 1; unit <= units; ++unit) {
+        if (global_.TotalSpecies > 0) {
+            grid.RemoveItem(first);
+        } else {
+            for (const int col : clearedColumns) grid.TextMatrix(unit, col, "");
+        }
+    }
+}
+
+void frmBrenica::removeSpeciesRows(int row) {
+    for (const int member : RowPerSpecies) {
+        if (global_.TotalSpecies > 0) {
+            flxSummary(member).RemoveItem(row);
+        } else {
+            flxSummary(member).Rows(1);
+        }
+    }
+    if (global_.TotalSpecies > 0) return;
+    flxSummary(summary::HabitatUse).Cols(global_.TotalHabitatTypes + 1);
+    flxSummary(summary::JurisUnitUse).Cols(global_.TotalJurisUnits + 1);
+    flxSummary(summary::Vulnerability).Cols(global_.TotalLandUses + vulnerability::ThreatOffset + 1);
+}
+
+/// One row of each threat's block goes; the block's first row keeps the threat's name.
+void frmBrenica::removeSpeciesFromThreats(int row, int oldTotal) {
+    ui::Grid& grid = flxSummary(summary::SpeciesByThreat);
+    if (global_.TotalLandUses == 0) return grid.RemoveItem(row);
+    for (int threatNumber = 1; threatNumber <= global_.TotalLandUses; ++threatNumber) {
+        const int gone = threatNumber - 1;
+        const int removed = blockRow(threatNumber, oldTotal, row) - gone;
+        if (global_.TotalSpecies == 0) {
+            for (int col = 1; col <= 4; ++col) grid.TextMatrix(threatNumber, col, "");
+            continue;
+        }
+        if (row == 1) grid.TextMatrix(removed + 1, 0, grid.TextMatrix(removed, 0));
+        grid.RemoveItem(removed);
+    }
+}
+
+void frmBrenica::cmdSpeciesMove_Click(int index) {
+    moveListRow(flxCandidateSpecies, index, list::ScientificName, "Brenica.cmdSpeciesMove_Click");
+}
+
+void frmBrenica::flxCandidateSpecies_CellChanged(int row, int col) try {
+    if (row <= 0 || col == 0) return;
+    ProjectChanged = true;
+    if (col != list::Name) return;
+    const std::string name = flxCandidateSpecies.TextMatrix(row, col);
+    const std::string shortName(ui::firstCharacters(name, ShortNameLength));
+    for (int i = 0; i < flxScores.Count(); ++i) {
+        flxScores(i).TextMatrix(row, 0, name);
+        flxScoresSort(i).TextMatrix(row, 0, name);
+    }
+    for (int member = 0; member < summary::Count; ++member) writeSpeciesName(member, row, name, shortName);
+} catch (...) {
+    ReportError(9999, "Brenica.flxCandidateSpecies_CellChanged", "");
+}
+
+void frmBrenica::writeSpeciesName(int member, int row, const std::string& name,
+                                  const std::string& shortName) {
+    ui::Grid& grid = flxSummary(member);
+    const auto firstOfBlock = [&](int units) { return units == 0 ? row : blockRow(row, units, 1); };
+    switch (member) {
+        case summary::HabitatUse:
+        case summary::JurisUnitUse: return grid.TextMatrix(row, 0, shortName);
+        case summary::HabitatsBySpecies:
+            return grid.TextMatrix(firstOfBlock(global_.TotalHabitatTypes), 0, shortName);
+        case summary::JurisUnitsBySpecies:
+            return grid.TextMatrix(firstOfBlock(global_.TotalJurisUnits), 0, shortName);
+        case summary::ThreatsBySpecies: return grid.TextMatrix(firstOfBlock(global_.TotalLandUses), 0, name);
+        case summary::SpeciesByThreat:
+            if (global_.TotalLandUses == 0) return grid.TextMatrix(row, 1, name);
+            for (int threatNumber = 1; threatNumber <= global_.TotalLandUses; ++threatNumber) {
+                grid.TextMatrix(blockRow(threatNumber, global_.TotalSpecies, row), 1, name);
+            }
+            return;
+        default: return grid.TextMatrix(row, 0, name);
+    }
+}
+
+/// The choice sticks to the end of the list when it was there, so that newly added species are shown at once.
+void frmBrenica::UpdateSpeciesList() try {
+    const bool hadItems = cbxSpeciesName.ListCount() > 0;
+    const int chosen = hadItems ? cbxSpeciesName.ListIndex() : 0;
+    const bool atEnd = hadItems && chosen == cbxSpeciesName.ListCount() - 1;
+    cbxSpeciesName.Clear();
+    for (int row = 1; row <= global_.TotalSpecies; ++row) {
+        cbxSpeciesName.AddItem(flxCandidateSpecies.TextMatrix(row, list::Name));
+    }
+    const int count = cbxSpeciesName.ListCount();
+    if (count == 0) return;
+    if (chosen >= count || chosen == -1) {
+        cbxSpeciesName.ListIndex(0);
+    } else {
+        cbxSpeciesName.ListIndex(atEnd ? count - 1 : chosen);
+    }
+} catch (...) {
+    ReportError(9999, "Brenica.UpdateSpeciesList", "");
+}

@@ -1,0 +1,67 @@
+// SPDX-FileCopyrightText: 2026 The Brenica developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "entry/modErrorHandling.h"
+
+#include <exception>
+
+#include "ui/numbers.h"
+
+namespace {
+
+constexpr auto ErrorBase = static_cast<std::int32_t>(0x80040000);
+constexpr auto ErrorEnd = static_cast<std::int32_t>(0x80050000);
+constexpr int UnexpectedError = 9999;
+constexpr const char* RunningApplication = "Brenica";
+
+bool isWrapped(const ui::RunTimeError& error) { return error.Number > ErrorBase && error.Number < ErrorEnd; }
+
+std::string unexpectedDescription(const ui::RunTimeError& error, const std::string& source) {
+    return "Unexpected error in Brenica System.\r\n"
+           "Source: " +
+           source +
+           "\r\n"
+           "Internal Error number: " +
+           ui::toText(error.Number) +
+           ".\r\n"
+           "Internal Error description: \"" +
+           error.Description + "\".";
+}
+
+/// Replaces the span from "<" to the ">" after it.
+std::string withExtra(std::string text, const std::string& extra) {
+    const std::size_t open = text.find('<');
+    const std::size_t close = open == std::string::npos ? open : text.find('>', open);
+    if (close == std::string::npos) return text;
+    return text.replace(open, close - open + 1, "'" + extra + "'");
+}
+
+}  // namespace
+
+ui::RunTimeError CurrentError() {
+    try {
+        throw;
+    } catch (const ui::RunTimeError& error) {
+        return error;
+    } catch (const std::bad_alloc&) {
+        constexpr auto number = ui::ErrorNumber::OutOfMemory;
+        return ui::RunTimeError(static_cast<std::int32_t>(number), "", ui::describe(number));
+    }
+}
+
+void SwallowError() { CurrentError(); }
+
+void ReportError(int code, const char* source, const std::string& extra) {
+    const ui::RunTimeError error = CurrentError();
+    if (isWrapped(error)) throw error;
+    const std::string fullSource = std::string(RunningApplication) + "." + source;
+    const std::string description = code == UnexpectedError ? unexpectedDescription(error, fullSource)
+                                                            : withExtra(GetErrorDescription(code), extra);
+    throw ui::RunTimeError(code + ErrorBase, fullSource, description + "\r\n");
+}
+
+std::string GetErrorDescription(int) {
+    // A failed look-up would give this text while an error is current; with no table there is no look-up to fail.
+    [[maybe_unused]] constexpr const char* NoDescription =
+        "[No description as error number not in Tarnwick resource file.]";
+    return "";
+}

@@ -1,0 +1,283 @@
+// SPDX-FileCopyrightText: 2026 The Brenica developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "entry/parameter_lists.h"
+
+#include "entry/modErrorHandling.h"
+#include "entry/modFlexGridUtilities.h"
+#include "project/frmBrenica.h"
+
+using modFlexGridUtilities::UpdateFlexGrid;
+
+namespace {
+
+constexpr const char* DefaultLevelOfUse = "2";
+
+}  // namespace
+
+std::vector<ParameterList> frmBrenica::makeParameterLists() {
+    return {
+        {.Kind = ListKind::HabitatTypes,
+         .Grid = &flxHabitatTypes,
+         .Total = &modGlobal::TotalHabitatTypes,
+         .NewRows = &txtTotalHabitatTypes,
+         .Update = &cmdUpdateHabitatTypes,
+         .RemoveIndex = &txtRemoveHabitatIndex,
+         .Remove = &cmdRemoveHabitatType,
+         .Move = &cmdHabitatMove,
+         .Entry = &flxHabitatHetero,
+         .EntryNumbered = false,
+         .HasLevelOfUse = true,
+         .LastCol = list::LevelOfUse,
+         .WideMember = summary::HabitatUse,
+         .WideOffset = 0,
+         .WideNumbered = true,
+         .LongMember = summary::HabitatsBySpecies,
+         .LastLongCol = use::Level,
+         .UpdateSource = "Brenica.cmdUpdateHabitatTypes_Click",
+         .UpdateOtherSource = "Brenica.UpdateOtherHabitatFlexGrids",
+         .RemoveClickSource = "Brenica.cmdRemoveHabitatType_Click",
+         .RemoveSource = "Brenica.RemoveHabitatType",
+         .MoveSource = "Brenica.cmdHabitatMove_Click"},
+        {.Kind = ListKind::JurisUnits,
+         .Grid = &flxJurisUnits,
+         .Total = &modGlobal::TotalJurisUnits,
+         .NewRows = &txtTotalJurisUnits,
+         .Update = &cmdUpdateJurisUnits,
+         .RemoveIndex = &txtRemoveJurisUnitIndex,
+         .Remove = &cmdRemoveJurisUnit,
+         .Move = &cmdJurisUnitMove,
+         .Entry = &flxJurisUnitHetero,
+         .EntryNumbered = true,
+         .HasLevelOfUse = true,
+         .LastCol = list::LevelOfUse,
+         .WideMember = summary::JurisUnitUse,
+         .WideOffset = 0,
+         .WideNumbered = true,
+         .LongMember = summary::JurisUnitsBySpecies,
+         .LastLongCol = use::Level,
+         .UpdateSource = "Brenica.cmdUpdateJurisUnits_Click",
+         .UpdateOtherSource = "Brenica.UpdateOtherJurisUnitFlexGrids",
+         .RemoveClickSource = "Brenica.cmdRemoveJurisUnit_Click",
+         .RemoveSource = "Brenica.RemoveJurisUnit",
+         .MoveSource = "Brenica.cmdJurisUnitMove_Click"},
+        {.Kind = ListKind::LandUses,
+         .Grid = &flxLandUses,
+         .Total = &modGlobal::TotalLandUses,
+         .NewRows = &txtTotalLandUses,
+         .Update = &cmdUpdateLandUses,
+         .RemoveIndex = &txtRemoveLandUseIndex,
+         .Remove = &cmdRemoveLandUse,
+         .Move = &cmdLandUseMove,
+         .Entry = &flxLandUsesVulnerability,
+         .EntryNumbered = false,
+         .HasLevelOfUse = false,
+         .LastCol = list::Probability,
+         .WideMember = summary::Vulnerability,
+         .WideOffset = vulnerability::ThreatOffset,
+         .WideNumbered = true,
+         .LongMember = summary::ThreatsBySpecies,
+         .LastLongCol = threat::Proportion,
+         .UpdateSource = "Brenica.cmdUpdateLandUses_Click",
+         .UpdateOtherSource = "Brenica.UpdateOtherLandUseFlexGrids",
+         .RemoveClickSource = "Brenica.cmdRemoveLandUse_Click",
+         .RemoveSource = "Brenica.RemoveLandUse",
+         .MoveSource = "Brenica.cmdLandUseMove_Click"},
+        {.Kind = ListKind::Functions,
+         .Grid = &flxFunctions,
+         .Total = &modGlobal::TotalFunctions,
+         .NewRows = &txtTotalFunctions,
+         .Update = &cmdUpdateFunctions,
+         .RemoveIndex = &txtRemoveFunctionIndex,
+         .Remove = &cmdRemoveFunction,
+         .Move = &cmdFunctionMove,
+         .Entry = &flxFunctionality,
+         .EntryNumbered = false,
+         .HasLevelOfUse = false,
+         .LastCol = list::Name,
+         .WideMember = summary::Functionality,
+         .WideOffset = 0,
+         .WideNumbered = false,
+         .LongMember = ParameterList::NoMember,
+         .LastLongCol = 0,
+         .UpdateSource = "Brenica.cmdUpdateFunctions_Click",
+         .UpdateOtherSource = "Brenica.UpdateOtherFunctionFlexGrids",
+         .RemoveClickSource = "Brenica.cmdRemoveFunction_Click",
+         .RemoveSource = "Brenica.RemoveFunction",
+         .MoveSource = "Brenica.cmdFunctionMove_Click"},
+    };
+}
+
+const ParameterList& frmBrenica::parameterList(ListKind kind) const {
+    return parameterLists_[static_cast<std::size_t>(kind)];
+}
+
+void frmBrenica::UpdateOtherHabitatFlexGrids(int added) {
+    updateOtherGrids(parameterList(ListKind::HabitatTypes), added);
+}
+void frmBrenica::UpdateOtherJurisUnitFlexGrids(int added) {
+    updateOtherGrids(parameterList(ListKind::JurisUnits), added);
+}
+void frmBrenica::UpdateOtherLandUseFlexGrids(int added) {
+    updateOtherGrids(parameterList(ListKind::LandUses), added);
+}
+void frmBrenica::UpdateOtherFunctionFlexGrids(int added) {
+    updateOtherGrids(parameterList(ListKind::Functions), added);
+}
+void frmBrenica::RemoveHabitatType(int row) { removeFromList(parameterList(ListKind::HabitatTypes), row); }
+void frmBrenica::RemoveJurisUnit(int row) { removeFromList(parameterList(ListKind::JurisUnits), row); }
+void frmBrenica::RemoveLandUse(int row) { removeFromList(parameterList(ListKind::LandUses), row); }
+void frmBrenica::RemoveFunction(int row) { removeFromList(parameterList(ListKind::Functions), row); }
+
+/// The levels of use start at the last old row, not behind it, so that each addition resets that row's level too.
+void frmBrenica::updateList(const ParameterList& list) try {
+    const int added = list.NewRows->Long();
+    const int oldTotal = global_.*list.Total;
+    UpdateFlexGrid(*list.Grid, added, global_.*list.Total, true);
+    for (int row = std::max(oldTotal, 1); list.HasLevelOfUse && row <= global_.*list.Total; ++row) {
+        list.Grid->TextMatrix(row, list::LevelOfUse, DefaultLevelOfUse);
+    }
+    updateOtherGrids(list, added);
+} catch (...) {
+    ReportError(9999, list.UpdateSource, "");
+}
+
+void frmBrenica::updateOtherGrids(const ParameterList& list, int added) try {
+    if (global_.*list.Total < 1) return;
+    const int oldRows = list.Entry->Rows();
+    UpdateFlexGrid(*list.Entry, added, list.EntryNumbered);
+    growWideTable(list, oldRows);
+    if (list.LongMember != ParameterList::NoMember) growLongTable(list, added, oldRows);
+    if (list.Kind == ListKind::LandUses) growThreatTable(added, oldRows);
+} catch (...) {
+    ReportError(9999, list.UpdateOtherSource, "");
+}
+
+void frmBrenica::growWideTable(const ParameterList& list, int oldRows) {
+    ui::Grid& grid = flxSummary(list.WideMember);
+    const int total = global_.*list.Total;
+    grid.Cols(ui::addLong(total, list.WideOffset + 1));
+    if (!list.WideNumbered) return;
+    for (int i = 1; i <= total; ++i) grid.TextMatrix(0, i + list.WideOffset, ui::toText(i));
+    if (global_.TotalSpecies < 1) return;
+    for (int row = 1; row <= grid.Rows() - 1; ++row) {
+        for (int col = oldRows + list.WideOffset; col <= grid.Cols() - 1; ++col)
+            grid.TextMatrix(row, col, "");
+    }
+}
+
+/// Each species' block grows at its end. A species without units has one row already, the first of its block.
+void frmBrenica::growLongTable(const ParameterList& list, int added, int oldRows) {
+    ui::Grid& grid = flxSummary(list.LongMember);
+    if (global_.TotalSpecies == 0) return UpdateFlexGrid(grid, added, list.EntryNumbered);
+    const int first = oldRows == 1 ? 2 : oldRows;
+    for (int species = 1; species <= global_.TotalSpecies; ++species) {
+        for (int unit = first; unit <= oldRows + added - 1; ++unit) {
+            grid.AddItem("", blockRow(species, global_.*list.Total, unit));
+        }
+    }
+}
+
+/// The table by threat gets a block of species at its end for each new threat.
+void frmBrenica::growThreatTable(int added, int oldRows) {
+    ui::Grid& grid = flxSummary(summary::SpeciesByThreat);
+    if (global_.TotalSpecies == 0) return UpdateFlexGrid(grid, added, false);
+    for (int threatNumber = oldRows == 1 ? 2 : oldRows; threatNumber <= oldRows + added - 1; ++threatNumber) {
+        for (int species = 1; species <= global_.TotalSpecies; ++species) {
+            grid.AddItem("");
+            grid.TextMatrix(grid.Rows() - 1, 1, grid.TextMatrix(species, 1));
+        }
+    }
+}
+
+void frmBrenica::removeListRow(const ParameterList& list) try {
+    removeFromList(list, list.RemoveIndex->Long());
+} catch (...) {
+    ReportError(9999, list.RemoveClickSource, "");
+}
+
+void frmBrenica::removeFromList(const ParameterList& list, int row) try {
+    if (row < 1 || row > global_.*list.Total) {
+        list.RemoveIndex->Text("0");
+        return;
+    }
+    modFlexGridUtilities::RemoveGridEntry(*list.Grid, row, global_.*list.Total);
+    list.Entry->RemoveItem(row);
+    shrinkWideTable(list, row);
+    if (list.LongMember != ParameterList::NoMember) removeFromLongTables(list, row);
+} catch (...) {
+    ReportError(9999, list.RemoveSource, "");
+}
+
+/// Only the headings move up: the species' cells keep their columns and the last column goes.
+void frmBrenica::shrinkWideTable(const ParameterList& list, int row) {
+    ui::Grid& grid = flxSummary(list.WideMember);
+    const int total = global_.*list.Total;
+    for (int i = row; i <= total; ++i) {
+        const int col = i + list.WideOffset;
+        grid.TextMatrix(0, col, grid.TextMatrix(0, col + 1));
+    }
+    grid.Cols(total + list.WideOffset + 1);
+    if (!list.WideNumbered) return;
+    for (int i = 1; i <= total; ++i) grid.TextMatrix(0, i + list.WideOffset, ui::toText(i));
+    if (total == 0) grid.Rows(global_.TotalSpecies + 1);
+}
+
+void frmBrenica::removeFromLongTables(const ParameterList& list, int row) {
+    const bool threats = list.Kind == ListKind::LandUses;
+    if (global_.TotalSpecies == 0) {
+        flxSummary(list.LongMember).RemoveItem(row);
+        if (threats) flxSummary(summary::SpeciesByThreat).RemoveItem(row);
+    } else if (global_.*list.Total == 0) {
+        clearLongTables(list);
+    } else {
+        removeFromBlocks(list, row);
+        if (threats) removeThreatBlock(row);
+    }
+}
+
+/// The last entry goes: each species keeps one row.
+void frmBrenica::clearLongTables(const ParameterList& list) {
+    for (int species = 1; species <= global_.TotalSpecies; ++species) {
+        for (int col = 1; col <= list.LastLongCol; ++col)
+            flxSummary(list.LongMember).TextMatrix(species, col, "");
+        if (list.Kind != ListKind::LandUses) continue;
+        for (const int col : {0, 2, 3, 4}) flxSummary(summary::SpeciesByThreat).TextMatrix(species, col, "");
+    }
+}
+
+/// One row of each species' block goes; the block's first row keeps the species' name.
+void frmBrenica::removeFromBlocks(const ParameterList& list, int row) {
+    ui::Grid& grid = flxSummary(list.LongMember);
+    const int oldTotal = global_.*list.Total + 1;
+    for (int species = 1; species <= global_.TotalSpecies; ++species) {
+        const int gone = species - 1;
+        const int removed = blockRow(species, oldTotal, row) - gone;
+        if (row == 1 && removed + 1 <= grid.Rows() - 1)
+            grid.TextMatrix(removed + 1, 0, grid.TextMatrix(removed, 0));
+        grid.RemoveItem(removed);
+    }
+}
+
+void frmBrenica::removeThreatBlock(int row) {
+    ui::Grid& grid = flxSummary(summary::SpeciesByThreat);
+    const int first = blockRow(row, global_.TotalSpecies, 1);
+    for (int species = 1; species <= global_.TotalSpecies; ++species) grid.RemoveItem(first);
+}
+
+/// Swaps the texts of the current row with its neighbour's, above for index 0 and below for 1. Only the texts of the
+/// list change place; what is held per species stays in its row.
+void frmBrenica::moveListRow(ui::Grid& grid, int index, int lastCol, const char* source) try {
+    const int row = grid.Row();
+    if (row < 1 || grid.Col() < 1 || grid.Col() > lastCol) return;
+    if (index == 0 && row < 2) return;
+    if (index == 1 && row >= grid.Rows() - 1) return;
+    const int neighbour = index == 0 ? row - 1 : row + 1;
+    std::vector<std::string> kept;
+    for (int col = 1; col <= lastCol; ++col) kept.push_back(grid.TextMatrix(row, col));
+    for (int col = 1; col <= lastCol; ++col) grid.TextMatrix(row, col, grid.TextMatrix(neighbour, col));
+    for (int col = 1; col <= lastCol; ++col)
+        grid.TextMatrix(neighbour, col, kept[static_cast<std::size_t>(col) - 1]);
+    grid.Row(neighbour);
+} catch (...) {
+    ReportError(9999, source, "");
+}

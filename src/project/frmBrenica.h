@@ -1,0 +1,298 @@
+// SPDX-FileCopyrightText: 2026 The Brenica developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "entry/number_boxes.h"
+#include "entry/parameter_lists.h"
+#include "project/frmBrenicaControls.h"
+#include "project/modGlobal.h"
+#include "scoring/export_tables.h"
+#include "ui/files.h"
+
+/// The main form: all controls of frmBrenicaControls, the form's own fields and every procedure. Its grids are the
+/// project. Each group of procedures is implemented in the folder of its subsystem, in the file named beside it.
+///
+/// A failure that a procedure does not expect leaves the outermost event as a ui::RunTimeError; whoever fired the
+/// event shows its description and ends the program.
+class frmBrenica : public frmBrenicaControls {
+public:
+    /// Builds the form of a new project, as Form_Load leaves it.
+    frmBrenica(ui::Platform& platform, ui::Files& files, modGlobal& global);
+
+    // Form fields.
+    int CurrentMainTab = 0;  ///< page shown, from 1; lags the tab strip inside its click
+    int CurrentCriteriaTab = 0;
+    int CurrentSummaryTab = 0;
+    int CurrentGraphTab = 0;
+    int CurrentLandChar = 0;      ///< list frame shown, from 0
+    int HomeRangeType = 0;        ///< 0 continuous, 1 default bins, 2 user-defined bins
+    int ScoreDisplayMode = 0;     ///< 0 normalized, 1 original
+    int CurrentSpeciesIndex = 0;  ///< species on the criteria page, 0 for none
+    std::vector<std::string> UserBinBreakpoints;
+    bool ProjectChanged = false;
+    bool HabitatUseChanged = false;
+    bool AreaDataChanged = false;
+    bool VulnerabilityChanged = false;
+    bool FunctionalityChanged = false;
+    bool SocioEconChanged = false;
+    bool ProjectLoading = false;
+    bool RefreshingCriteria = false;
+
+    // project/lifecycle.cpp
+    void MenuSelectionProject(std::string_view command);
+    void InitializeProject();
+
+    // project/project_file_writer.cpp, project/project_file_reader.cpp
+    void SaveProject(const std::string& path);
+    void OpenProject(const std::string& path);
+
+    // project/page_navigation.cpp
+    void tabBrenica_Click();
+    void tabCriteria_Click();
+    void optLandChar_Click(int index);
+
+    // entry/form_layout.cpp
+    void ResizeForm();
+
+    // entry/candidate_species.cpp
+    void cmdUpdateSpecies_Click();
+    void UpdateOtherSpeciesFlexGrids(int added, int oldTotal);
+    void cmdRemoveSpecies_Click();
+    void RemoveSpecies(int row);
+    void cmdSpeciesMove_Click(int index);
+    void flxCandidateSpecies_CellChanged(int row, int col);
+    void UpdateSpeciesList();
+
+    // entry/parameter_lists.cpp: rows of the four lists
+    std::span<const ParameterList> ParameterLists() const { return parameterLists_; }
+    void UpdateOtherHabitatFlexGrids(int added);
+    void UpdateOtherJurisUnitFlexGrids(int added);
+    void UpdateOtherLandUseFlexGrids(int added);
+    void UpdateOtherFunctionFlexGrids(int added);
+    void RemoveHabitatType(int row);
+    void RemoveJurisUnit(int row);
+    void RemoveLandUse(int row);
+    void RemoveFunction(int row);
+
+    // entry/parameter_list_cells.cpp: cells of the four lists
+    void flxHabitatTypes_CellChanged(int row, int col);
+    void flxJurisUnits_CellChanged(int row, int col);
+    void flxLandUses_CellChanged(int row, int col);
+    void flxFunctions_CellChanged(int row, int col);
+    void flxLandUses_BeforeRowColChange(int oldRow, int oldCol);
+
+    // entry/home_range.cpp
+    void optHomeRangeType_Click(int index);
+    void HRDataExists(bool& exists);
+    void UpdateHRInfo(int index);
+    void cmdUpdateBins_Click();
+    void cmdRemoveBin_Click();
+    void RemoveBin(int row);
+    void storeBinHomeRange(const ui::ComboBox& box, const char* source);
+    void storeContinuousHomeRange();
+    void flxBins_CellChanged();
+
+    // entry/criteria_entry.cpp
+    void cbxSpeciesName_Click();
+    void RefreshSpeciesCriteriaVals();
+    void levelOfUse_AfterEdit(ListKind kind, int row, int col);
+    void flxLandUsesVulnerability_CellChanged(int row, int col);
+    void flxLandUsesVulnerability_BeforeRowColChange(int oldRow, int oldCol);
+    void flxFunctionality_CellChanged(int row, int col);
+    void flxSocioEcon_CellChanged(int row, int col);
+    void storeYesNo(const ui::ComboBox& box, int column, const char* source);
+    void storePropOccupied();
+    void storeConservationStatus();
+    void cbxDataQuality_Change();
+
+    // entry/number_boxes.cpp
+    std::span<const NumberBox> NumberBoxes() const { return numberBoxes_; }
+    void numberBox_Change(const NumberBox& box);
+    void numberBox_KeyPress(const NumberBox& box, int& key);
+    void numberBox_GotFocus(const NumberBox& box);
+
+    // scoring/validation_gates.cpp
+    bool ValidateMainTab(int page);
+    bool ValidateLandChar(int index);
+    bool ValidateScoreValues();
+    void GetFlexGridsUpdated(int index);
+
+    // scoring/unit_use.cpp
+    void CalculateHabitatUse();
+    void CalculateJurisUnitUse();
+    std::string CalculatePropOccup(int species);
+
+    // scoring/vulnerability.cpp
+    void CalculateVunerabilityScores();
+
+    // scoring/scores.cpp
+    void CalculateScores();
+
+    // scoring/summary_tables.cpp
+    void flxSummary_CellChanged(int index, int row, int col);
+
+    // scoring/grid_exchange.cpp
+    /// All tables that can be exported, on the page where each is shown.
+    std::span<const ExportTable> ExportTables() const { return exportTables_; }
+    void MenuSelectionDataGrid(std::string_view command);
+    /// The table on view that the command is for; nothing where there is none.
+    const ExportTable* GetCurrentGrid(std::string_view command);
+    /// Whether there is data behind the table at all.
+    bool isExportable(const ExportTable& table) const;
+    /// Writes the table as a grid text file, with the long names as headings where the table has them.
+    void SaveTable(const ExportTable& table, const std::string& path);
+
+    // selection/complementarity.cpp
+    void cmdComplement_Click();
+    void InitComplementarity();
+    void optCompResults_Click(int index);
+
+    // selection/results_export.cpp
+    void cmdExportResults_Click();
+
+    // graphs/summary_graphs.cpp, graphs/score_graphs.cpp
+    void UpdateSummaryGraphs();
+    void tabGraphSummary_Click();
+    void UpdateScoreGraphs();
+
+    modGlobal& Global() const { return global_; }
+
+private:
+    // project/event_wiring.cpp
+    void wireEvents();
+    void wireMenu();
+    void wireLists();
+    void wireCriteria();
+    void wireTables();
+    void wireNumberBoxes();
+
+    // project/form_load.cpp
+    void Form_Load();
+    void setUpFileDialog();
+    void setUpListPages();
+    void setUpCriteriaPage();
+    void setUpSummaryPage();
+    void setUpGraphPage();
+    void setUpScorePage();
+    void setUpResultsPage();
+
+    // project/lifecycle.cpp
+    /// Whether the changed project is to be saved first; then the dialogue has the name for it.
+    bool wantsToSave(const std::string& question);
+    void newProjectCommand();
+    void openProjectCommand();
+    void saveProjectCommand();
+    void exitCommand();
+    void showProjectPath(const std::string& path);
+    void clearLists();
+    void clearCriteria();
+    void clearCounts();
+    void clearFunctions();
+    void clearChangeFlags();
+    void clearSummaries();
+    void clearGraphs();
+    void clearScores();
+    void clearResults();
+    void resetTextBoxes();
+
+    // project/version1_project.cpp
+    void convertVersion1Project();
+
+    // project/page_navigation.cpp
+    void showHomeRangeControls(int type);
+    void showDataQuality();
+    void storeShownConservationStatus();
+
+    // entry/form_layout.cpp
+    void arrangeListPages();
+
+    // project/recalculation.cpp
+    void leavePage(int page);
+    void enterPage(int page, int oldPage);
+    void calculateTables();
+    void rebuildUserBins();
+    void updateAreaTotals();
+    void updateAreaTotal(const ui::Grid& units, int count, std::vector<double>& areas, double& total,
+                         bool& entered);
+
+    // entry/parameter_lists.cpp
+    std::vector<ParameterList> makeParameterLists();
+    const ParameterList& parameterList(ListKind kind) const;
+    void updateList(const ParameterList& list);
+    void updateOtherGrids(const ParameterList& list, int added);
+    void growWideTable(const ParameterList& list, int oldRows);
+    void growLongTable(const ParameterList& list, int added, int oldRows);
+    void growThreatTable(int added, int oldRows);
+    void removeListRow(const ParameterList& list);
+    void removeFromList(const ParameterList& list, int row);
+    void shrinkWideTable(const ParameterList& list, int row);
+    void removeFromLongTables(const ParameterList& list, int row);
+    void clearLongTables(const ParameterList& list);
+    void removeFromBlocks(const ParameterList& list, int row);
+    void removeThreatBlock(int row);
+    void moveListRow(ui::Grid& grid, int index, int lastCol, const char* source);
+
+    // entry/parameter_list_cells.cpp
+    void unitName_CellChanged(const ParameterList& list, int row, int col);
+
+    // entry/candidate_species.cpp
+    void growSpeciesRows(int member, int oldTotal);
+    void growSpeciesBlocks(int member, int units, int added, int oldTotal, int lastCopiedCol);
+    void growThreatBlocks(int added, int oldTotal);
+    void writeSpeciesName(int member, int row, const std::string& name, const std::string& shortName);
+    void removeSpeciesBlock(int member, int units, int row, std::span<const int> clearedColumns);
+    void removeSpeciesRows(int row);
+    void removeSpeciesFromThreats(int row, int oldTotal);
+
+    // entry/home_range.cpp
+    void enableBinControls(bool enabled);
+
+    // entry/criteria_entry.cpp
+    void blankCriteriaPage();
+    void showConservationStatus();
+
+    // entry/number_boxes.cpp
+    std::vector<NumberBox> makeNumberBoxes();
+
+    // scoring/validation_gates.cpp
+    bool removeBlankRows(ui::Grid& grid, int column, const char* prompt, void (frmBrenica::*remove)(int));
+    bool validateHumanActivities();
+    bool allUnitsInUse(int member, const ui::Grid& units, int count, const char* kind);
+    bool allFilled(int member, int firstCol, int lastCol, const char* message);
+    void showInvalidValue(const std::string& message);
+
+    // scoring/scores.cpp
+    void emptyScoreTables();
+    void fillSortedScores();
+
+    // scoring/grid_exchange.cpp
+    std::vector<ExportTable> makeExportTables();
+    int currentView() const;
+    bool userWantsFirst();
+    void showNoGrid(std::string_view command);
+
+    // scoring/summary_tables.cpp
+    void levelOfUse_Changed(const ParameterList& list, int row, int col);
+    void threatRating_Changed(int row, int col);
+
+    // selection/results_export.cpp
+    void printResult(std::string_view line);
+    void printRanking();
+    void printSuite();
+    void printPasses();
+    void printCoverage();
+
+    // graphs
+    void setUpChart(ui::Chart& chart, const char* title, const char* xAxis, const char* yAxis);
+
+    ui::Files& files_;
+    modGlobal& global_;
+    std::vector<ParameterList> parameterLists_;
+    std::vector<NumberBox> numberBoxes_;
+    std::vector<ExportTable> exportTables_;
+};

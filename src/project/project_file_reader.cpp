@@ -1,0 +1,282 @@
+// SPDX-FileCopyrightText: 2026 The Brenica developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "project/project_file_reader.h"
+
+#include "entry/modErrorHandling.h"
+#include "entry/modFlexGridUtilities.h"
+#include "entry/modGeneralUtilities.h"
+#include "project/project_file.h"
+#include "ui/text.h"
+
+namespace {
+
+constexpr int OpenFileNumber = 1;
+constexpr const char* DefaultLevelOfUse = "2";
+
+/// Drops the values that the grid has no row for.
+template <class Values>
+void clip(Values& values, const ui::Grid& grid) {
+    const auto rows = static_cast<std::size_t>(std::max(grid.Rows() - 1, 0));
+    if (values.size() > rows) values.resize(rows);
+}
+
+template <class Values>
+void fillColumn(ui::Grid& grid, int col, const Values& values) {
+    for (std::size_t i = 0; i < values.size(); ++i) grid.TextMatrix(static_cast<int>(i) + 1, col, values[i]);
+}
+
+/// A key such as "Function3" is the name and a column; `exception` is a key of its own that holds the name too.
+struct NumberedKey {
+    const char* Name;
+    const char* Exception;
+};
+
+constexpr NumberedKey NumberedKeys[] = {
+    {projectfile::Function, projectfile::Functions},
+    {projectfile::SocioEcon, "Socio-economic"},
+    {projectfile::DataQuality, nullptr},
+};
+
+}  // namespace
+
+/// What a key's values do; the target is for the rows whose action asks for one.
+struct ProjectFileReader::Row {
+    const char* Key;
+    void (ProjectFileReader::*Act)(const Row&, Values);
+    ui::Grid frmBrenica::*List = nullptr;  ///< target list grid
+    int Member = 0;                        ///< or target member of flxSummary
+    int Column = 0;
+    int SecondMember = 0;  ///< cross table that holds the same values
+    int SecondColumn = 0;
+    int modGlobal::*Units = nullptr;
+};
+
+std::span<const ProjectFileReader::Row> ProjectFileReader::rows() {
+    using Reader = ProjectFileReader;
+    using Form = frmBrenica;
+    static constexpr Row Rows[] = {
+        {projectfile::Version, &Reader::readVersion},
+        {projectfile::CommonName, &Reader::readSpecies},
+        {projectfile::ScientificName, &Reader::readListColumn, &Form::flxCandidateSpecies, 0,
+         list::ScientificName},
+        {projectfile::HabitatType, &Reader::readHabitatTypes},
+        {projectfile::HabitatArea, &Reader::readAreas, &Form::flxHabitatTypes, 0, list::Area},
+        {projectfile::HabitatUseLevel, &Reader::readListColumn, &Form::flxHabitatTypes, 0, list::LevelOfUse},
+        {projectfile::JurisUnit, &Reader::readJurisUnits},
+        {projectfile::JurisUnitArea, &Reader::readAreas, &Form::flxJurisUnits, 0, list::Area},
+        {projectfile::JurisUnitUseLevel, &Reader::readListColumn, &Form::flxJurisUnits, 0, list::LevelOfUse},
+        {projectfile::LandUse, &Reader::readLandUses},
+        {projectfile::Urgency, &Reader::readListColumn, &Form::flxLandUses, 0, list::Urgency},
+        {projectfile::Probability, &Reader::readListColumn, &Form::flxLandUses, 0, list::Probability},
+        {projectfile::HomeRangeDefinition, &Reader::readHomeRangeDefinition},
+        {projectfile::Functions, &Reader::readFunctions},
+        {projectfile::HabitatUse, &Reader::readLevelsOfUse, nullptr, summary::HabitatsBySpecies, use::Level,
+         summary::HabitatUse, 0, &modGlobal::TotalHabitatTypes},
+        {projectfile::JurisUnitUse, &Reader::readLevelsOfUse, nullptr, summary::JurisUnitsBySpecies,
+         use::Level, summary::JurisUnitUse, 0, &modGlobal::TotalJurisUnits},
+        {projectfile::Dispersal, &Reader::readSummaryColumn, nullptr, summary::Area, area::Dispersal},
+        {projectfile::Connectivity, &Reader::readSummaryColumn, nullptr, summary::Area, area::Connectivity},
+        {projectfile::HomeRanges, &Reader::readSummaryColumn, nullptr, summary::Area, area::HomeRange},
+        {projectfile::Occupied, &Reader::readSummaryColumn, nullptr, summary::Area, area::Occupied},
+        {projectfile::ConservationStatus, &Reader::readSummaryColumn, nullptr, summary::Vulnerability,
+         vulnerability::ConservationStatus},
+        {projectfile::Severity, &Reader::readThreatRatings, nullptr, summary::ThreatsBySpecies,
+         threat::Severity, summary::SpeciesByThreat, 2},
+        {projectfile::Recovery, &Reader::readThreatRatings, nullptr, summary::ThreatsBySpecies,
+         threat::Recovery, summary::SpeciesByThreat, 3},
+        {projectfile::Proportion, &Reader::readThreatRatings, nullptr, summary::ThreatsBySpecies,
+         threat::Proportion, summary::SpeciesByThreat, 4},
+        {projectfile::Function, &Reader::readNumberedColumn, nullptr, summary::Functionality},
+        {projectfile::SocioEcon, &Reader::readNumberedColumn, nullptr, summary::SocioEcon},
+        {projectfile::DataQuality, &Reader::readNumberedColumn, nullptr, summary::DataQuality},
+    };
+    return Rows;
+}
+
+void ProjectFileReader::readLine(std::string_view line) {
+    const std::size_t equals = line.find('=');
+    if (equals == std::string_view::npos) return;
+    std::string_view key = ui::trim(line.substr(0, equals));
+    const std::string_view value = ui::trim(line.substr(equals + 1));
+    for (const NumberedKey& numbered : NumberedKeys) {
+        if (!ui::containsIgnoringCase(key, numbered.Name)) continue;
+        if (numbered.Exception != nullptr && ui::equalsIgnoringCase(key, numbered.Exception)) continue;
+        const std::string_view start = ui::firstCharacters(key, std::string_view(numbered.Name).size());
+        column_ = ui::toLong(ui::trim(key.substr(start.size())));
+        key = numbered.Name;
+    }
+    if (value.empty()) return;
+    for (const Row& row : rows()) {
+        if (ui::equalsIgnoringCase(key, row.Key)) return (this->*row.Act)(row, ui::split(value, ','));
+    }
+}
+
+void ProjectFileReader::readVersion(const Row&, Values values) { global_.ProjectVersion = values.front(); }
+
+void ProjectFileReader::fillNames(ui::Grid& grid, const Values& values) {
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        const int row = static_cast<int>(i) + 1;
+        grid.TextMatrix(row, list::Number, ui::toText(row));
+        grid.TextMatrix(row, list::Name, values[i]);
+    }
+}
+
+void ProjectFileReader::readSpecies(const Row&, Values values) {
+    // The second argument is the old number of species; what is handed over is True, which as a whole number is -1.
+    // So the blanking of new cells begins at the headings.
+    constexpr int True = -1;
+    const int count = static_cast<int>(values.size());
+    form_.flxCandidateSpecies.Rows(count + 1);
+    global_.TotalSpecies = count;
+    form_.UpdateOtherSpeciesFlexGrids(count, True);
+    fillNames(form_.flxCandidateSpecies, values);
+}
+
+void ProjectFileReader::readHabitatTypes(const Row&, Values values) {
+    const int count = static_cast<int>(values.size());
+    form_.flxHabitatTypes.Rows(count + 1);
+    global_.TotalHabitatTypes = count;
+    form_.UpdateOtherHabitatFlexGrids(count);
+    fillNames(form_.flxHabitatTypes, values);
+}
+
+void ProjectFileReader::readJurisUnits(const Row&, Values values) {
+    const int count = static_cast<int>(values.size());
+    form_.flxJurisUnits.Rows(count + 1);
+    global_.TotalJurisUnits = count;
+    form_.UpdateOtherJurisUnitFlexGrids(count);
+    fillNames(form_.flxJurisUnits, values);
+}
+
+void ProjectFileReader::readLandUses(const Row&, Values values) {
+    const int count = static_cast<int>(values.size());
+    form_.flxLandUses.Rows(count + 1);
+    global_.TotalLandUses = count;
+    form_.UpdateOtherLandUseFlexGrids(count);
+    fillNames(form_.flxLandUses, values);
+}
+
+void ProjectFileReader::readFunctions(const Row&, Values values) {
+    const int count = static_cast<int>(values.size());
+    form_.flxFunctions.Rows(count + 1);
+    global_.TotalFunctions = count;
+    form_.flxFunctionality.Rows(1);
+    form_.UpdateOtherFunctionFlexGrids(count);
+    fillNames(form_.flxFunctions, values);
+}
+
+void ProjectFileReader::readListColumn(const Row& row, Values values) {
+    ui::Grid& grid = form_.*row.List;
+    clip(values, grid);
+    fillColumn(grid, row.Column, values);
+}
+
+void ProjectFileReader::readAreas(const Row& row, Values values) {
+    ui::Grid& grid = form_.*row.List;
+    clip(values, grid);
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        const int gridRow = static_cast<int>(i) + 1;
+        grid.TextMatrix(gridRow, list::Area, values[i]);
+        if (isVersion1()) grid.TextMatrix(gridRow, list::LevelOfUse, DefaultLevelOfUse);
+    }
+}
+
+void ProjectFileReader::readHomeRangeDefinition(const Row&, Values values) {
+    int type = 0;
+    for (int i = 0; i < static_cast<int>(projectfile::HomeRangeTypes.size()); ++i) {
+        if (!ui::equalsIgnoringCase(values.front(), projectfile::HomeRangeTypes[static_cast<std::size_t>(i)]))
+            continue;
+        type = i;
+        form_.optHomeRangeType(i).Value(true);
+        if (i == 2) readUserBins(values);
+    }
+    form_.UpdateHRInfo(type);
+}
+
+/// The breakpoints stand behind the type.
+void ProjectFileReader::readUserBins(const Values& values) {
+    const int bins = static_cast<int>(values.size()) - 1;
+    form_.flxBins.Rows(bins + 1);
+    global_.TotalBins = bins;
+    fillNames(form_.flxBins, Values(values.begin() + 1, values.end()));
+    if (modFlexGridUtilities::GetColContents(form_.flxBins, 1, form_.UserBinBreakpoints) < 1) return;
+    modGeneralUtilities::ConstructIntervals(form_.UserBinBreakpoints, global_.UserBinLabels);
+    modGeneralUtilities::UpdateComboBox(form_.cbxUserDefBinsHR, global_.UserBinLabels);
+}
+
+/// Version 1 told only whether a unit is used: unused and 0 become "0", used becomes "2", other levels stay.
+std::string_view ProjectFileReader::levelOfVersion1(std::string_view level) const {
+    if (level.empty()) return "0";
+    const double value = ui::toReal(level, form_.Separator());
+    if (value == 0) return "0";
+    return value == 1 ? DefaultLevelOfUse : level;
+}
+
+void ProjectFileReader::readLevelsOfUse(const Row& row, Values values) {
+    ui::Grid& levels = form_.flxSummary(row.Member);
+    ui::Grid& table = form_.flxSummary(row.SecondMember);
+    clip(values, levels);
+    int species = 1;
+    int unit = 1;
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        const std::string_view level = isVersion1() ? levelOfVersion1(values[i]) : values[i];
+        levels.TextMatrix(static_cast<int>(i) + 1, row.Column, level);
+        if (unit > global_.*row.Units) {
+            unit = 1;
+            ++species;
+        }
+        table.TextMatrix(species, unit, level);
+        ++unit;
+    }
+}
+
+void ProjectFileReader::readSummaryColumn(const Row& row, Values values) {
+    ui::Grid& grid = form_.flxSummary(row.Member);
+    clip(values, grid);
+    fillColumn(grid, row.Column, values);
+}
+
+void ProjectFileReader::readThreatRatings(const Row& row, Values values) {
+    ui::Grid& bySpecies = form_.flxSummary(row.Member);
+    ui::Grid& byThreat = form_.flxSummary(row.SecondMember);
+    clip(values, bySpecies);
+    fillColumn(bySpecies, row.Column, values);
+    clip(values, byThreat);
+    const int threats = global_.TotalLandUses;
+    for (int i = 1; i <= static_cast<int>(values.size()); ++i) {
+        const int remainder = ui::remainderLong(i, threats);
+        const int threatNumber = remainder == 0 ? threats : remainder;
+        const int species = ui::divideLong(i - 1, threats) + 1;
+        byThreat.TextMatrix(blockRow(threatNumber, global_.TotalSpecies, species), row.SecondColumn,
+                            values[static_cast<std::size_t>(i) - 1]);
+    }
+}
+
+void ProjectFileReader::readNumberedColumn(const Row& row, Values values) {
+    ui::Grid& grid = form_.flxSummary(row.Member);
+    const int count = static_cast<int>(values.size());
+    if (grid.Rows() - 1 != count) grid.Rows(count + 1);
+    fillColumn(grid, column_, values);
+}
+
+/// A file that cannot be opened fails to the caller as it is. Any later failure leaves the grids as far as they came,
+/// the file open and ProjectLoading set.
+void frmBrenica::OpenProject(const std::string& path) {
+    files_.Open(path, ui::FileMode::Input, OpenFileNumber);
+    int lines = 0;
+    try {
+        ProjectLoading = true;
+        ProjectFileReader reader(*this);
+        while (!files_.EndOfFile(OpenFileNumber)) {
+            ++lines;
+            reader.readLine(files_.LineInput(OpenFileNumber, ui::LineEnds::CarriageReturn));
+        }
+        files_.Close(OpenFileNumber);
+        UpdateSpeciesList();
+        if (global_.ProjectVersion.empty()) convertVersion1Project();
+        ProjectLoading = false;
+    } catch (...) {
+        files_.NoteFault({path, lines, CurrentError()});
+        ReportError(9999, "Brenica.OpenProject", "");
+    }
+}

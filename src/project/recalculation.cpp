@@ -1,0 +1,98 @@
+// SPDX-FileCopyrightText: 2026 The Brenica developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "entry/modFlexGridUtilities.h"
+#include "entry/modGeneralUtilities.h"
+#include "project/frmBrenica.h"
+
+/// What a move between pages brings up to date. There is no other occasion: edits only write cells.
+
+namespace {
+
+constexpr int SpeciesPage = 1;
+constexpr int ParameterPage = 2;
+constexpr int CriteriaPage = 3;
+constexpr int SummaryPage = 4;
+constexpr int GraphPage = 5;
+constexpr int ScorePage = 6;
+constexpr int ResultsPage = 7;
+
+void sortBack(ui::Grid& grid, int keyColumn) {
+    grid.Select(0, keyColumn);
+    grid.Sort(ui::SortOrder::GenericAscending);
+}
+
+}  // namespace
+
+void frmBrenica::leavePage(int page) {
+    switch (page) {
+        case SpeciesPage: UpdateSpeciesList(); break;
+        case ParameterPage:
+            // Bins and area sums follow the lists only where the bins are the user's own.
+            if (HomeRangeType != 2) break;
+            rebuildUserBins();
+            updateAreaTotals();
+            break;
+        case CriteriaPage: storeShownConservationStatus(); break;
+        case ScorePage:
+            sortBack(flxScoresSort(0), score::SortKey);
+            sortBack(flxScoresSort(1), score::OriginalSortKey);
+            break;
+        default: break;
+    }
+}
+
+void frmBrenica::enterPage(int page, int oldPage) {
+    switch (page) {
+        case CriteriaPage: RefreshSpeciesCriteriaVals(); break;
+        case SummaryPage: calculateTables(); break;
+        case GraphPage:
+            if (oldPage != SummaryPage) calculateTables();
+            UpdateSummaryGraphs();
+            break;
+        case ScorePage:
+            if (oldPage != SummaryPage) calculateTables();
+            CalculateScores();
+            break;
+        case ResultsPage:
+            if (oldPage <= CriteriaPage) {
+                calculateTables();
+                CalculateScores();
+            }
+            cmdExportResults.Enabled(false);
+            cmdComplement.Enabled(global_.ScoresCalculated);
+            break;
+        default: break;
+    }
+}
+
+void frmBrenica::calculateTables() {
+    CalculateHabitatUse();
+    CalculateJurisUnitUse();
+    CalculateVunerabilityScores();
+}
+
+void frmBrenica::rebuildUserBins() {
+    if (modFlexGridUtilities::GetColContents(flxBins, 1, UserBinBreakpoints) < 1) return;
+    modGeneralUtilities::ConstructIntervals(UserBinBreakpoints, global_.UserBinLabels);
+    cbxUserDefBinsHR.Clear();
+    modGeneralUtilities::UpdateComboBox(cbxUserDefBinsHR, global_.UserBinLabels);
+}
+
+void frmBrenica::updateAreaTotals() {
+    updateAreaTotal(flxHabitatTypes, global_.TotalHabitatTypes, global_.HabitatAreas,
+                    global_.HabitatAreaTotal, global_.HabitatAreasEntered);
+    updateAreaTotal(flxJurisUnits, global_.TotalJurisUnits, global_.JurisUnitAreas,
+                    global_.JurisUnitAreaTotal, global_.JurisUnitAreasEntered);
+}
+
+/// A sum that equals the number of units counts as no areas: each unit then stands for one.
+void frmBrenica::updateAreaTotal(const ui::Grid& units, int count, std::vector<double>& areas, double& total,
+                                 bool& entered) {
+    if (count < 1) {
+        entered = false;
+        return;
+    }
+    areas.assign(static_cast<std::size_t>(count), 0.0);
+    total = modFlexGridUtilities::GetAreaTotal(units, count, areas);
+    entered = total != static_cast<double>(count);
+}

@@ -1,0 +1,147 @@
+// SPDX-FileCopyrightText: 2026 The Brenica developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "entry/modErrorHandling.h"
+#include "project/frmBrenica.h"
+#include "ui/text.h"
+
+namespace {
+
+constexpr int AnyView = -1;
+constexpr int BinsView = 3;
+
+}  // namespace
+
+std::vector<ExportTable> frmBrenica::makeExportTables() {
+    constexpr auto None = LongHeadings::None;
+    return {
+        {1, AnyView, &flxCandidateSpecies, "CandidateSpeciesData", None, 1},
+        {2, 0, &flxHabitatTypes, "HabitatData", None, 2},
+        {2, 1, &flxJurisUnits, "ManagZonesData", None, 3},
+        {2, 2, &flxLandUses, "HumanActivityData", None, 4},
+        {2, BinsView, &flxBins, "BinData", None, 5},
+        {2, 4, &flxFunctions, "FunctionData", None, 6},
+        {4, 1, &flxSummary(0), "HabitatHeterogeneitySummary", LongHeadings::HabitatNames, 0},
+        {4, 1, &flxSummary(1), "ManagZonesHeterogeneitySummary", LongHeadings::JurisUnitNames, 0},
+        {4, 2, &flxSummary(2), "HabitatHeterogeneityDetailedSummary", None, 0},
+        {4, 2, &flxSummary(3), "ManagZonesHeterogeneityDetailedSummary", None, 0},
+        {4, 3, &flxSummary(4), "AreaSummary", None, 0},
+        {4, 4, &flxSummary(5), "VulnerabilitySummary", LongHeadings::ThreatNames, 0},
+        {4, 5, &flxSummary(6), "VulnerabilityBySpeciesSummary", None, 0},
+        {4, 6, &flxSummary(7), "VulnerabilityByThreatSummary", None, 0},
+        {4, 7, &flxSummary(8), "FunctionalitySummary", None, 0},
+        {4, 8, &flxSummary(9), "SocioEconSummary", None, 0},
+        {4, 9, &flxSummary(10), "DataQualitySummaryData", None, 0},
+        {6, 0, &flxScoresSort(0), "NormalizedScoresData", None, 0},
+        {6, 1, &flxScoresSort(1), "OriginalScoresData", None, 0},
+        {7, AnyView, &flxBrenicSuite, "BrenicSuiteData", None, 0},
+        {7, 0, &flxCompResults(0), "OverallComplementarityData", None, 0},
+        {7, 1, &flxCompResults(1), "HabitatsCoveredData", None, 0},
+        {7, 2, &flxCompResults(2), "JurisUnitsCoveredData", None, 0},
+        {7, 3, &flxCompResults(3), "ThreatsCoveredData", None, 0},
+    };
+}
+
+/// Breakpoints are data only where the bins are the user's own.
+bool frmBrenica::isExportable(const ExportTable& table) const {
+    return table.Grid != &flxBins || HomeRangeType == 2;
+}
+
+void frmBrenica::SaveTable(const ExportTable& table, const std::string& path) {
+    const auto writeHeadings = [&](const ui::Grid* names, int count, int offset) {
+        for (int i = 1; i <= count; ++i) {
+            table.Grid->TextMatrix(0, i + offset,
+                                   names != nullptr ? names->TextMatrix(i, list::Name) : ui::toText(i));
+        }
+    };
+    const auto saveWithNames = [&](const ui::Grid& names, int count, int offset) {
+        table.Grid->Redraw(false);
+        writeHeadings(&names, count, offset);
+        table.Grid->SaveGrid(files_, path, ui::GridFileFormat::TabDelimited);
+        writeHeadings(nullptr, count, offset);
+        table.Grid->Redraw(true);
+    };
+    switch (table.Headings) {
+        case LongHeadings::None: return table.Grid->SaveGrid(files_, path, ui::GridFileFormat::TabDelimited);
+        case LongHeadings::HabitatNames: return saveWithNames(flxHabitatTypes, global_.TotalHabitatTypes, 0);
+        case LongHeadings::JurisUnitNames: return saveWithNames(flxJurisUnits, global_.TotalJurisUnits, 0);
+        case LongHeadings::ThreatNames:
+            return saveWithNames(flxLandUses, global_.TotalLandUses, vulnerability::ThreatOffset);
+    }
+}
+
+/// The table on view. Where a view holds two tables the user chooses; all but the lists are for export only.
+const ExportTable* frmBrenica::GetCurrentGrid(std::string_view command) try {
+    if (CurrentMainTab > 2 && !ui::equalsIgnoringCase(command, "Export")) return nullptr;
+    std::vector<const ExportTable*> onView;
+    for (const ExportTable& table : exportTables_) {
+        const bool here =
+            table.Page == CurrentMainTab && (table.View == AnyView || table.View == currentView());
+        if (here && isExportable(table)) onView.push_back(&table);
+    }
+    if (onView.empty()) return nullptr;
+    if (onView.size() == 1) return onView.front();
+    return userWantsFirst() ? onView[0] : onView[1];
+} catch (...) {
+    ReportError(9999, "Brenica.GetCurrentGrid", "");
+}
+
+int frmBrenica::currentView() const {
+    switch (CurrentMainTab) {
+        case 2: return CurrentLandChar;
+        case 4: return CurrentSummaryTab;
+        case 6: return ScoreDisplayMode;
+        case 7: {
+            int selected = 0;
+            for (int i = 0; i < optCompResults.Count(); ++i) {
+                if (optCompResults(i).Value()) selected = i;
+            }
+            return selected;
+        }
+        default: return AnyView;
+    }
+}
+
+/// Asks which of the two tables of the view is meant.
+bool frmBrenica::userWantsFirst() {
+    static constexpr const char* ResultLabels[] = {"overall", "habitats covered", "Management zones covered",
+                                                   "threats covered"};
+    const bool results = CurrentMainTab == 7;
+    const std::string prompt =
+        results ? std::string("Enter 1 to save the brenic species suite data and 2 to save the ") +
+                      ResultLabels[currentView()] + " data."
+                : "Enter:\r\n1 to save the habitat heterogeneity data \r\n"
+                  "2 to save the management zone heterogeneity data.";
+    const std::string answer(ui::trim(platform().askText(prompt, ui::ApplicationTitle, "1")));
+    if (answer == "2") return false;
+    if (answer == "1") return true;
+    showInvalidValue(
+        results ? "The value entered was invalid. The brenic species suite data will be saved by default."
+                : "The value entered was invalid. The habitat heterogeneity data will be saved by default.");
+    return true;
+}
+
+/// Up to the moment when the file work starts a failure, Cancel above all, ends the command silently.
+void frmBrenica::MenuSelectionDataGrid(std::string_view command) {
+    const ExportTable* table = nullptr;
+    try {
+        table = GetCurrentGrid(command);
+        if (table == nullptr) return showNoGrid(command);
+        cdgFileDialog.Filter = "Grid Data Files (*.txt)|*.txt";
+        cdgFileDialog.DefaultExt = ".txt";
+        cdgFileDialog.FileName = table->FileName;
+        cdgFileDialog.ShowSave();
+    } catch (...) {
+        return SwallowError();
+    }
+    try {
+        SaveTable(*table, cdgFileDialog.FileName);
+        cdgFileDialog.InitDir.clear();
+    } catch (...) {
+        ReportError(9999, "Brenica.MenuSelectionDataGrid", "");
+    }
+}
+
+void frmBrenica::showNoGrid(std::string_view command) {
+    if (!ui::equalsIgnoringCase(command, "Export")) return;
+    platform().showMessage("Cannot export current data grid.", "Grid error", ui::MessageIcon::Exclamation);
+}

@@ -1,0 +1,77 @@
+// SPDX-FileCopyrightText: 2026 The Brenica developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "entry/modErrorHandling.h"
+#include "project/frmBrenica.h"
+#include "ui/text.h"
+
+namespace {
+
+constexpr int SummaryPage = 4;
+constexpr int UseTab = 1;
+constexpr int SpeciesByThreatTab = 6;
+
+struct UseTotals {
+    int Levels = 0;
+    int Count = 0;
+    int Level = 0;  // of the cell read last; one that is no number counts like it
+
+    void add(const ui::Grid& grid, int row, int col) {
+        succeeds([&] { Level = ui::isBlank(grid.TextMatrix(row, col)) ? 0 : grid.Long(row, col); });
+        succeeds([&] { Levels = ui::addLong(Levels, Level); });
+        if (Level > 0) ++Count;
+    }
+};
+
+void redoColumnTotals(ui::Grid& grid, int col, int species) {
+    UseTotals totals;
+    for (int row = 1; row <= species; ++row) totals.add(grid, row, col);
+    succeeds([&] { grid.TextMatrix(grid.Rows() - 2, col, ui::toText(totals.Levels)); });
+    succeeds([&] { grid.TextMatrix(grid.Rows() - 1, col, ui::toText(totals.Count)); });
+}
+
+void redoRowTotals(ui::Grid& grid, int row, int units) {
+    UseTotals totals;
+    for (int col = 1; col <= units; ++col) totals.add(grid, row, col);
+    succeeds([&] { grid.TextMatrix(row, grid.Cols() - 2, ui::toText(totals.Levels)); });
+    succeeds([&] { grid.TextMatrix(row, grid.Cols() - 1, ui::toText(totals.Count)); });
+}
+
+}  // namespace
+
+/// Fires on every write of every summary grid, by code as well. Errors are ignored.
+void frmBrenica::flxSummary_CellChanged(int index, int row, int col) {
+    ProjectChanged = true;
+    if (CurrentMainTab != SummaryPage) return;
+    if (index == summary::HabitatUse && CurrentSummaryTab == UseTab) {
+        levelOfUse_Changed(parameterList(ListKind::HabitatTypes), row, col);
+    } else if (index == summary::JurisUnitUse && CurrentSummaryTab == UseTab) {
+        levelOfUse_Changed(parameterList(ListKind::JurisUnits), row, col);
+    } else if (index == summary::SpeciesByThreat && CurrentSummaryTab == SpeciesByThreatTab) {
+        threatRating_Changed(row, col);
+    }
+}
+
+/// A level edited in a cross table corrects the totals and reaches the long table. Headings are no data.
+void frmBrenica::levelOfUse_Changed(const ParameterList& list, int row, int col) {
+    const int units = global_.*list.Total;
+    const bool data = row >= 1 && row <= global_.TotalSpecies && col >= 1 && col <= units;
+    if (!data) return;
+    ui::Grid& grid = flxSummary(list.WideMember);
+    const std::string level = grid.TextMatrix(row, col);
+    redoColumnTotals(grid, col, global_.TotalSpecies);
+    redoRowTotals(grid, row, units);
+    succeeds([&] { flxSummary(list.LongMember).TextMatrix(blockRow(row, units, col), use::Level, level); });
+}
+
+/// The two tables of ratings hold the same values in the other order.
+void frmBrenica::threatRating_Changed(int row, int col) {
+    if (row < 1 || CurrentSpeciesIndex == 0 || col < 2 || col > 4) return;
+    succeeds([&] {
+        const int remainder = ui::remainderLong(row, global_.TotalSpecies);
+        const int threatNumber = ui::divideLong(row - 1, global_.TotalSpecies) + 1;
+        const int species = remainder == 0 ? global_.TotalSpecies : remainder;
+        flxSummary(summary::ThreatsBySpecies)
+            .TextMatrix(blockRow(species, global_.TotalLandUses, threatNumber), col + 2,
+                        flxSummary(summary::SpeciesByThreat).TextMatrix(row, col));
+    });
+}

@@ -1,0 +1,75 @@
+// SPDX-FileCopyrightText: 2026 The Brenica developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "entry/modErrorHandling.h"
+#include "project/frmBrenica.h"
+#include "selection/selection.h"
+
+namespace {
+
+std::vector<int> thresholds(const ui::Grid& units, int count) {
+    std::vector<int> levels;
+    for (int unit = 1; unit <= count; ++unit) levels.push_back(units.Long(unit, list::LevelOfUse));
+    return levels;
+}
+
+}  // namespace
+
+/// Runs one whole selection, from the levels in the boxes to the report.
+void frmBrenica::cmdComplement_Click() try {
+    if (!global_.ScoresCalculated) return;
+    global_.ErrorMargin = txtErrorMargin.Real();
+    global_.ThreatRepresentation = txtThreatRep.Real();
+    global_.ConservationStatusRepresentation = txtCCSRep.Real();
+    for (ui::Grid& grid : flxCompResults) grid.Rows(1);
+
+    SelectionInput input;
+    for (int species = 1; species <= global_.TotalSpecies; ++species) {
+        const double status =
+            flxSummary(summary::Vulnerability).Real(species, vulnerability::ConservationStatus);
+        input.SpeciesRemoved.push_back(!(status <= global_.ConservationStatusRepresentation));
+    }
+    input.HabitatThresholds = thresholds(flxHabitatTypes, global_.TotalHabitatTypes);
+    input.JurisUnitThresholds = thresholds(flxJurisUnits, global_.TotalJurisUnits);
+
+    // Back in candidate order, however the user sorted it, so that row i is candidate i.
+    flxScoresSort(0).Select(0, score::SortKey);
+    flxScoresSort(0).Sort(ui::SortOrder::GenericAscending);
+    InitComplementarity();
+    global_.SelectionStarting = true;
+    global_.ExcludedSpeciesList.clear();
+    global_.ExcludedSpeciesCount = 0;
+    modBrenicaUtilities::cmdComplement_Click(
+        platform(), global_, std::move(input),
+        {flxCompResults(0), flxScoresSort(0), flxBrenicSuite, flxHabitatTypes, flxJurisUnits,
+         flxSummary(summary::HabitatsBySpecies), flxSummary(summary::JurisUnitsBySpecies),
+         flxSummary(summary::ThreatsBySpecies), flxSummary(summary::Vulnerability), flxCompResults(1),
+         flxCompResults(2), flxCompResults(3)});
+    for (ui::OptionButton& button : optCompResults) button.Enabled(true);
+    optCompResults(0).Value(true);
+    cmdExportResults.Enabled(true);
+} catch (...) {
+    ReportError(9999, "Brenica.cmdComplement_Click", "");
+}
+
+void frmBrenica::InitComplementarity() try {
+    flxBrenicSuite.Rows(global_.ScoresCalculated ? 2 : 1);
+    if (global_.ScoresCalculated) {
+        flxBrenicSuite.TextMatrix(1, 0, "1");
+        for (int col = 1; col < flxBrenicSuite.Cols(); ++col) flxBrenicSuite.TextMatrix(1, col, "");
+    }
+    optCompResults(0).Value(true);
+    for (int i = 0; i < optCompResults.Count(); ++i) {
+        optCompResults(i).Enabled(false);
+        flxCompResults(i).Visible(false);
+        flxCompResults(i).Rows(1);
+    }
+    flxCompResults(0).Visible(true);
+} catch (...) {
+    ReportError(9999, "Brenica.InitComplementarity", "");
+}
+
+void frmBrenica::optCompResults_Click(int index) try {
+    for (int i = 0; i < flxCompResults.Count(); ++i) flxCompResults(i).Visible(i == index);
+} catch (...) {
+    ReportError(9999, "Brenica.optCompResults_Click", "");
+}

@@ -1,0 +1,394 @@
+// SPDX-FileCopyrightText: 2026 The Brenica developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <array>
+
+#include "entry/modErrorHandling.h"
+#include "project/columns.h"
+#include "selection/result_colours.h"
+#include "selection/selection.h"
+#include "ui/text.h"
+
+namespace modBrenicaUtilities {
+
+namespace {
+
+constexpr int Places = 3;
+
+std::size_t at(int number) { return static_cast<std::size_t>(number) - 1; }
+
+/// What a row's species would add.
+struct Additions {
+    int Habitats = 0;
+    int JurisUnits = 0;
+    int Threats = 0;
+
+    bool none() const { return Habitats <= 0 && JurisUnits <= 0 && Threats <= 0; }
+};
+
+/// One run of the selection. Its working state lives for one press of the command; results go to the grids.
+class SelectionRun {
+public:
+    SelectionRun(ui::Platform& platform, modGlobal& global, SelectionInput input, const SelectionGrids& grids)
+        : platform_(platform),
+          global_(global),
+          grids_(grids),
+          results_(grids.Results),
+          speciesRemoved_(std::move(input.SpeciesRemoved)),
+          habitatThresholds_(std::move(input.HabitatThresholds)),
+          jurisUnitThresholds_(std::move(input.JurisUnitThresholds)),
+          habitatCovered_(static_cast<std::size_t>(global.TotalHabitatTypes)),
+          jurisUnitCovered_(static_cast<std::size_t>(global.TotalJurisUnits)),
+          landUseCovered_(static_cast<std::size_t>(global.TotalLandUses)),
+          threatMaxScores_(static_cast<std::size_t>(global.TotalLandUses)) {}
+
+    void run() {
+        findThreatMaxScores();
+        results_.Redraw(false);
+        listUnits();
+        firstPass();
+        while (!allCovered() && removedCount_ < global_.TotalSpecies) laterPass();
+        report();
+        results_.AutoSize(0, results_.Cols() - 1);
+        results_.Redraw(true);
+    }
+
+private:
+    void findThreatMaxScores();
+    void listUnits();
+    void firstPass();
+    void laterPass();
+    void startBlock(bool first);
+    void writeAdditions(int species, int row);
+    void writeRecalculatedScores(int species, int row);
+    void normaliseRow(int row);
+    void omitRowsWithoutAdditions();
+    void findPick();
+    void takePick();
+    void omitFirstPick(const char* message);
+    void addToSuite(const Additions& added);
+    void count(const Additions& added);
+    void report();
+
+    Additions additionsOf(int row) const {
+        return {results_.Long(row, result::AddHabitats), results_.Long(row, result::AddJurisUnits),
+                results_.Long(row, result::AddThreats)};
+    }
+    int candidateOf(int row) const { return results_.Long(row, result::Candidate); }
+    bool isRemoved(int species) const { return speciesRemoved_.at(at(species)); }
+    void remove(int species) {
+        speciesRemoved_.at(at(species)) = true;
+        ++removedCount_;
+    }
+    bool allCovered() const {
+        return habitatsCovered_ == global_.TotalHabitatTypes &&
+               jurisUnitsCovered_ == global_.TotalJurisUnits && threatsCovered_ == global_.TotalLandUses;
+    }
+    void paintRow(int row, ui::Colour colour) {
+        results_.Select(row, 1, row, results_.Cols() - 1);
+        results_.CellBackColor(colour);
+    }
+    void showOmitted(int row, const char* message) {
+        platform_.showMessage(results_.TextMatrix(row, result::Name) + message, "Species Omitted",
+                              ui::MessageIcon::Exclamation);
+    }
+
+    ui::Platform& platform_;
+    modGlobal& global_;
+    const SelectionGrids& grids_;
+    ui::Grid& results_;
+
+    Flags speciesRemoved_;
+    Levels habitatThresholds_;
+    Levels jurisUnitThresholds_;
+    Flags habitatCovered_;
+    Flags jurisUnitCovered_;
+    Flags landUseCovered_;
+    std::vector<double> threatMaxScores_;
+    /// Highest recalculated heterogeneity and vulnerability of the whole run: later passes are measured by early ones.
+    std::array<double, 2> recalcMaxScores_{};
+
+    int blockStartRow_ = 0;  ///< first row of the current pass
+    int blockSize_ = 0;      ///< species in it
+    int removedCount_ = 0;
+    int pickOffset_ = 0;
+    int pickRow_ = 0;
+    int pickSpecies_ = 0;
+    int pickNumber_ = 0;
+    int marginCount_ = 0;  ///< of the last pass that looked for species within the margin
+    int habitatsCovered_ = 0;
+    int jurisUnitsCovered_ = 0;
+    int threatsCovered_ = 0;
+};
+
+void SelectionRun::findThreatMaxScores() {
+    for (int t = 1; t <= global_.TotalLandUses; ++t) {
+        double& maximum = threatMaxScores_[at(t)];
+        for (int species = 1; species <= global_.TotalSpecies; ++species) {
+            const double score = grids_.ThreatScores.Real(species, t + vulnerability::ThreatOffset);
+            if (score > maximum) maximum = score;
+        }
+    }
+}
+
+void SelectionRun::listUnits() {
+    const auto list = [](ui::Grid& view, const ui::Grid& names, int count) {
+        view.Rows(count + 1);
+        for (int i = 1; i <= count; ++i) view.TextMatrix(i, 0, names.TextMatrix(i, list::Name));
+    };
+    list(grids_.HabitatsCovered, grids_.HabitatTypes, global_.TotalHabitatTypes);
+    grids_.HabitatsCovered.AutoSize(0, 1);
+    list(grids_.JurisUnitsCovered, grids_.JurisUnits, global_.TotalJurisUnits);
+    grids_.JurisUnitsCovered.AutoSize(0, 1);
+    // The first species' block of the threat table names the threats in their order.
+    list(grids_.ThreatsCovered, grids_.Threats, global_.TotalLandUses);
+}
+
+void SelectionRun::startBlock(bool first) {
+    blockStartRow_ = results_.Rows();
+    const int placed =
+        SetupSelectionSpecies(platform_, global_, results_, grids_.Scores, speciesRemoved_, first);
+    if (first) removedCount_ = global_.TotalSpecies - placed;
+    blockSize_ = 0;
+    for (int species = 1; species <= global_.TotalSpecies; ++species) {
+        if (isRemoved(species)) continue;
+        const int row = blockStartRow_ + blockSize_++;
+        writeAdditions(species, row);
+        if (!first) writeRecalculatedScores(species, row);
+    }
+}
+
+void SelectionRun::writeAdditions(int species, int row) {
+    const int habitats = GetUnitsUsed(grids_.HabitatLevels, global_.TotalHabitatTypes, habitatThresholds_,
+                                      species, use::Level, habitatCovered_);
+    results_.TextMatrix(row, result::AddHabitats, ui::toText(habitats));
+    const int zones = GetUnitsUsed(grids_.JurisUnitLevels, global_.TotalJurisUnits, jurisUnitThresholds_,
+                                   species, use::Level, jurisUnitCovered_);
+    results_.TextMatrix(row, result::AddJurisUnits, ui::toText(zones));
+    const int threats = GetThreatImpact(grids_.ThreatScores, global_.ThreatRepresentation, threatMaxScores_,
+                                        species, landUseCovered_);
+    results_.TextMatrix(row, result::AddThreats, ui::toText(threats));
+}
+
+void SelectionRun::writeRecalculatedScores(int species, int row) {
+    const auto write = [&](int col, double& maximum, double raw) {
+        const double rounded = ui::roundTo(raw, Places);
+        if (raw > maximum) maximum = rounded;
+        results_.TextMatrix(row, col, ui::toText(rounded));
+    };
+    write(result::Heterogeneity, recalcMaxScores_[0],
+          RecalcHeteroScore(species, grids_.HabitatLevels, grids_.JurisUnitLevels, habitatCovered_,
+                            jurisUnitCovered_));
+    const double status = grids_.ThreatScores.Real(species, vulnerability::ConservationStatus);
+    write(result::Vulnerability, recalcMaxScores_[1],
+          RecalcVulnerabilityScore(species, grids_.Threats, status, landUseCovered_));
+}
+
+void SelectionRun::normaliseRow(int row) {
+    const auto normalise = [&](int col, double maximum) {
+        const double score = maximum <= 0 ? 0 : ui::roundTo(results_.Real(row, col) / maximum, Places);
+        results_.TextMatrix(row, col, ui::toText(score));
+    };
+    normalise(result::Heterogeneity, recalcMaxScores_[0]);
+    normalise(result::Vulnerability, recalcMaxScores_[1]);
+    double aggregate = 0;
+    for (const int col : {result::Heterogeneity, result::Vulnerability, result::AreaScore,
+                          result::Functionality, result::SocioEcon}) {
+        aggregate += results_.Real(row, col);
+    }
+    results_.TextMatrix(row, result::Aggregate, ui::toText(ui::roundTo(aggregate, Places)));
+}
+
+/// The first pass works on the scores as they stand.
+void SelectionRun::firstPass() {
+    startBlock(true);
+    results_.Select(0, result::Aggregate);
+    results_.Sort(ui::SortOrder::GenericDescending);
+    for (int i = 1; i <= blockSize_; ++i) results_.TextMatrix(i, result::Rank, ui::toText(i));
+    findPick();
+    pickNumber_ = 1;
+    takePick();
+    const Additions added = additionsOf(pickRow_);
+    if (added.none()) {
+        pickNumber_ = 0;
+        omitFirstPick(
+            " with the highest aggregate score has been removed as it covers no additional habitats, management zones "
+            "or threats.");
+    } else {
+        addToSuite(added);
+    }
+    count(added);
+}
+
+void SelectionRun::laterPass() {
+    startBlock(false);
+    for (int i = 0; i < blockSize_; ++i) normaliseRow(blockStartRow_ + i);
+    // The range takes in the block's blank row, which stays last.
+    results_.Select(blockStartRow_, result::Aggregate, blockStartRow_ + blockSize_, result::Aggregate);
+    results_.Sort(ui::SortOrder::GenericDescending);
+    omitRowsWithoutAdditions();
+    findPick();
+    ++pickNumber_;
+    takePick();
+    const Additions added = additionsOf(pickRow_);
+    if (added.none()) {
+        --pickNumber_;
+        pickSpecies_ = candidateOf(pickRow_);
+        // The pick was removed when it was taken, so that it is dropped here without a word.
+        if (!isRemoved(pickSpecies_)) {
+            omitFirstPick(
+                " with the highest aggregate score has bee removed as it covers no additional habitats, management "
+                "zones or threats.");
+            remove(pickSpecies_);
+        }
+    } else {
+        addToSuite(added);
+    }
+    count(added);
+}
+
+void SelectionRun::omitRowsWithoutAdditions() {
+    for (int r = 1; r <= blockSize_; ++r) {
+        const int row = blockStartRow_ + r - 1;
+        results_.TextMatrix(row, result::Rank, ui::toText(r));
+        const Additions added = additionsOf(row);
+        if (added.Habitats != 0 || added.JurisUnits != 0 || added.Threats != 0) continue;
+        showOmitted(row,
+                    " has been removed as it covers no additional habitats, management zones or threats.");
+        paintRow(row, resultcolour::Omitted);
+        remove(candidateOf(row));
+    }
+}
+
+/// With one survivor at the most there is no margin to look at. The scan for it has no stop: past the last species it
+/// meets the blank row, which names no candidate, and fails.
+void SelectionRun::findPick() {
+    if (removedCount_ >= global_.TotalSpecies - 1) {
+        pickOffset_ = 0;
+        while (isRemoved(candidateOf(blockStartRow_ + pickOffset_))) ++pickOffset_;
+    } else {
+        marginCount_ = Check4ErrorMargin(global_.ErrorMargin, results_, blockStartRow_, blockSize_,
+                                         speciesRemoved_, pickOffset_);
+    }
+    pickRow_ = blockStartRow_ + pickOffset_;
+    pickSpecies_ = candidateOf(pickRow_);
+    results_.Select(pickRow_, 0, pickRow_, 0);
+    results_.CellBackColor(resultcolour::Margin);
+    if (marginCount_ <= 0) return;
+    pickRow_ = SelectErrorMarginSpecies(platform_, results_, blockStartRow_, pickOffset_, marginCount_,
+                                        speciesRemoved_);
+    pickSpecies_ = candidateOf(pickRow_);
+}
+
+/// Takes the pick out of the race and marks what it represents as covered.
+void SelectionRun::takePick() {
+    remove(pickSpecies_);
+    HighlightCoverUnitsUsed(grids_.HabitatLevels, grids_.HabitatsCovered, global_.TotalHabitatTypes,
+                            pickSpecies_, habitatThresholds_, habitatCovered_, use::Level, pickNumber_);
+    HighlightCoverUnitsUsed(grids_.JurisUnitLevels, grids_.JurisUnitsCovered, global_.TotalJurisUnits,
+                            pickSpecies_, jurisUnitThresholds_, jurisUnitCovered_, use::Level, pickNumber_);
+    HighlightThreatsEncountered(grids_.ThreatScores, grids_.ThreatsCovered, global_.ThreatRepresentation,
+                                threatMaxScores_, pickSpecies_, landUseCovered_, pickNumber_);
+}
+
+void SelectionRun::omitFirstPick(const char* message) {
+    showOmitted(pickRow_, message);
+    paintRow(pickRow_, resultcolour::Omitted);
+}
+
+void SelectionRun::addToSuite(const Additions& added) {
+    ui::Grid& suite = grids_.Suite;
+    suite.Rows(pickNumber_ + 1);
+    suite.TextMatrix(pickNumber_, 0, ui::toText(pickNumber_));
+    suite.TextMatrix(pickNumber_, 1, results_.TextMatrix(pickRow_, result::Name));
+    suite.TextMatrix(pickNumber_, 2, ui::toText(added.Habitats));
+    suite.TextMatrix(pickNumber_, 3, ui::toText(added.JurisUnits));
+    suite.TextMatrix(pickNumber_, 4, ui::toText(added.Threats));
+    suite.Select(pickNumber_, 2, pickNumber_, 4);
+    suite.CellBackColor(GetCellColor(pickNumber_));
+    paintRow(pickRow_, resultcolour::Picked);
+}
+
+void SelectionRun::count(const Additions& added) {
+    habitatsCovered_ += added.Habitats;
+    jurisUnitsCovered_ += added.JurisUnits;
+    threatsCovered_ += added.Threats;
+}
+
+void SelectionRun::report() {
+    const auto show = [&](const std::string& text) {
+        platform_.showMessage(text, "Selection Report", ui::MessageIcon::Exclamation);
+    };
+    if (allCovered()) {
+        return show(
+            "All habitat types, management zones and threats are covered by the current suite of brenic species.");
+    }
+    std::string text = "The following are not covered by the current suite of brenic species:\r";
+    const auto add = [&](const char* prefix, const ui::Grid& names, const Flags& covered, int count) {
+        if (count >= static_cast<int>(covered.size())) return;
+        std::vector<std::string> uncovered;
+        for (int i = 1; i <= static_cast<int>(covered.size()); ++i) {
+            if (!covered[at(i)]) uncovered.push_back(names.TextMatrix(i, list::Name));
+        }
+        text += prefix + ui::join(uncovered, ", ") + "\r";
+    };
+    add("Habitat types: ", grids_.HabitatTypes, habitatCovered_, habitatsCovered_);
+    add("Management Zones: ", grids_.JurisUnits, jurisUnitCovered_, jurisUnitsCovered_);
+    add("Threats: ", grids_.Threats, landUseCovered_, threatsCovered_);
+    show(text);
+}
+
+void reportExcluded(ui::Platform& platform, modGlobal& global) {
+    std::string& list = global.ExcludedSpeciesList;
+    list.resize(list.size() - 2);
+    platform.showMessage(excludedHeading(global.ExcludedSpeciesCount) + "\r" + list, "Excluded species",
+                         ui::MessageIcon::Exclamation);
+}
+
+}  // namespace
+
+std::string excludedHeading(int count) {
+    if (count == 1)
+        return "The following species was excluded due to its high Current Conservation Status value:";
+    return "The following " + ui::toText(count) +
+           " species was excluded due to their high Current Conservation Status value:";
+}
+
+int SetupSelectionSpecies(ui::Platform& platform, modGlobal& global, ui::Grid& grid,
+                          const ui::Grid& scoresGrid, const Flags& speciesRemoved, bool firstPass) try {
+    const int startRow = grid.Rows();
+    int count = 0;
+    for (int species = 1; species <= global.TotalSpecies; ++species) {
+        if (!speciesRemoved[at(species)]) {
+            const int row = startRow + count++;
+            grid.Rows(row + 1);
+            const auto copy = [&](int col) {
+                grid.TextMatrix(row, col, scoresGrid.TextMatrix(species, col));
+            };
+            copy(result::Name);
+            if (firstPass) {
+                for (const int col : {result::Aggregate, result::Heterogeneity, result::Vulnerability})
+                    copy(col);
+            }
+            for (const int col : {result::AreaScore, result::Functionality, result::SocioEcon}) copy(col);
+            grid.TextMatrix(row, result::Candidate, ui::toText(species));
+        } else if (global.SelectionStarting) {
+            ++global.ExcludedSpeciesCount;
+            global.ExcludedSpeciesList += std::string(ui::trim(scoresGrid.TextMatrix(species, 0))) + "; ";
+        }
+    }
+    grid.Rows(grid.Rows() + 1);
+    if (global.ExcludedSpeciesCount > 0 && global.SelectionStarting) reportExcluded(platform, global);
+    global.SelectionStarting = false;
+    return count;
+} catch (...) {
+    ReportError(9999, "BrenicaUtilities.SetupSelectionSpecies", "");
+}
+
+void cmdComplement_Click(ui::Platform& platform, modGlobal& global, SelectionInput input,
+                         const SelectionGrids& grids) try {
+    SelectionRun(platform, global, std::move(input), grids).run();
+} catch (...) {
+    ReportError(9999, "BrenicaUtilities.cmdComplement_Click", "");
+}
+
+}  // namespace modBrenicaUtilities

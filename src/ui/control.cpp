@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: 2026 The Brenica developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/control.h"
+
+#include <utility>
+
+#include "ui/form_window.h"
+
+namespace ui {
+
+Control::Control(Control& container, ControlKind kind, std::string name, Design design)
+    : form_(container.form_),
+      container_(&container),
+      kind_(kind),
+      name_(std::move(name)),
+      caption_(std::move(design.Caption)),
+      toolTipText_(std::move(design.ToolTipText)),
+      visible_(design.Visible),
+      enabled_(design.Enabled) {
+    form_->controls_.push_back(this);
+}
+
+Control::Control(FormWindow& form, std::string name)
+    : form_(&form), container_(this), kind_(ControlKind::Form), name_(std::move(name)) {}
+
+void Control::Move(int left, int top, int width, int height) {
+    left_ = left;
+    top_ = top;
+    width_ = width;
+    height_ = height;
+}
+
+Platform& Control::platform() const { return form_->GetPlatform(); }
+
+DecimalSeparator Control::separator() const { return form_->Separator(); }
+
+bool Control::acceptsUserAction() {
+    for (const Control* control = this;; control = control->container_) {
+        if (!control->enabled_) return false;
+        if (control->container_ == control) break;
+    }
+    return form_->CommitOpenEditor();
+}
+
+}  // namespace ui

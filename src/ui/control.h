@@ -1,0 +1,96 @@
+// SPDX-FileCopyrightText: 2026 The Brenica developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string>
+
+#include "ui/numbers.h"
+#include "ui/platform.h"
+
+namespace ui {
+
+class FormWindow;
+
+enum class ControlKind {
+    Form,
+    Frame,
+    Label,
+    CommandButton,
+    TextBox,
+    ComboBox,
+    CheckBox,
+    OptionButton,
+    TabStrip,
+    Grid,
+    Chart,
+    MenuItem,
+};
+
+/// What a form's design gives a control before any code runs.
+struct Design {
+    std::string Caption{};
+    std::string ToolTipText{};
+    bool Visible = true;
+    bool Enabled = true;
+};
+
+/// What all controls share. A control belongs to one form and stands in one container, a frame or the form itself.
+/// Lengths are twips. A control that a user action reaches while it is disabled ignores the action.
+class Control {
+public:
+    Control(Control& container, ControlKind kind, std::string name, Design design = {});
+    virtual ~Control() = default;
+    Control(const Control&) = delete;
+    Control& operator=(const Control&) = delete;
+
+    ControlKind Kind() const { return kind_; }
+    const std::string& Name() const { return name_; }
+    FormWindow& Form() const { return *form_; }
+    /// Itself for the form.
+    Control& Container() const { return *container_; }
+
+    const std::string& Caption() const { return caption_; }
+    void Caption(std::string caption) { caption_ = std::move(caption); }
+    const std::string& ToolTipText() const { return toolTipText_; }
+    void ToolTipText(std::string text) { toolTipText_ = std::move(text); }
+    bool Visible() const { return visible_; }
+    void Visible(bool visible) { visible_ = visible; }
+    bool Enabled() const { return enabled_; }
+    void Enabled(bool enabled) { enabled_ = enabled; }
+
+    int Left() const { return left_; }
+    void Left(int left) { left_ = left; }
+    int Top() const { return top_; }
+    void Top(int top) { top_ = top; }
+    int Width() const { return width_; }
+    void Width(int width) { width_ = width; }
+    int Height() const { return height_; }
+    void Height(int height) { height_ = height; }
+    void Move(int left, int top, int width, int height);
+
+protected:
+    /// For the form alone, which contains itself.
+    Control(FormWindow& form, std::string name);
+
+    Platform& platform() const;
+    DecimalSeparator separator() const;
+    /// Commits an open cell editor first, as every user action does. False when the control is disabled or the editor
+    /// refuses to close: then the action does not happen.
+    bool acceptsUserAction();
+
+private:
+    FormWindow* form_;
+    Control* container_;
+    ControlKind kind_;
+    std::string name_;
+    std::string caption_;
+    std::string toolTipText_;
+    bool visible_ = true;
+    bool enabled_ = true;
+    int left_ = 0;
+    int top_ = 0;
+    int width_ = 0;
+    int height_ = 0;
+};
+
+}  // namespace ui

@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: 2026 The Brenica developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string>
+
+#include "ui/errors.h"
+#include "ui/platform.h"
+
+namespace ui {
+
+/// The one dialogue that asks for files; its settings stay from one command to the next.
+class FileDialog {
+public:
+    explicit FileDialog(Platform& platform) : platform_(platform) {}
+
+    std::string FileName;
+    std::string Filter;
+    std::string DefaultExt;
+    std::string InitDir;
+    int FilterIndex = 0;
+    int Flags = 0;
+    /// Whether Cancel raises Cancelled; otherwise it leaves FileName as it was.
+    bool CancelError = false;
+
+    void ShowOpen() { show(FileDialogKind::Open); }
+    void ShowSave() { show(FileDialogKind::Save); }
+
+private:
+    void show(FileDialogKind kind) {
+        const auto chosen = platform_.chooseFile({kind, FileName, Filter, DefaultExt, InitDir, Flags});
+        if (chosen) {
+            FileName = *chosen;
+        } else if (CancelError) {
+            raise(ErrorNumber::Cancelled);
+        }
+    }
+
+    Platform& platform_;
+};
+
+}  // namespace ui

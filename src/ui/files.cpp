@@ -1,0 +1,146 @@
+// SPDX-FileCopyrightText: 2026 The Brenica developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/files.h"
+
+#include <array>
+#include <cerrno>
+#include <filesystem>
+
+#include "ui/text.h"
+
+namespace ui {
+
+namespace {
+
+constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
+
+void requireUsablePath(const std::string& path) {
+    if (path.empty()) raise(ErrorNumber::PathFileAccessError);
+    std::error_code ignored;
+    if (std::filesystem::is_directory(path, ignored)) raise(ErrorNumber::PathFileAccessError);
+    const std::filesystem::path folder = std::filesystem::path(path).parent_path();
+    if (!folder.empty() && !std::filesystem::exists(folder, ignored)) raise(ErrorNumber::PathNotFound);
+}
+
+}  // namespace
+
+ErrorNumber errorFor(int systemError, ErrorNumber otherwise) {
+    switch (systemError) {
+        case ENOENT: return ErrorNumber::FileNotFound;
+        case ENOTDIR: return ErrorNumber::PathNotFound;
+        case EACCES:
+        case EPERM:
+        case EROFS: return ErrorNumber::PermissionDenied;
+        case ENOSPC:
+        case EDQUOT: return ErrorNumber::DiskFull;
+        case EISDIR:
+        case ENAMETOOLONG: return ErrorNumber::PathFileAccessError;
+        case EIO: return ErrorNumber::DeviceIoError;
+        default: return otherwise;
+    }
+}
+
+/// Runs one step on a file and keeps the failure that it ends in.
+template <class Step>
+decltype(auto) Files::noting(const std::string& path, int line, Step step) {
+    try {
+        return step();
+    } catch (const RunTimeError& error) {
+        lastFault_ = FileFault{path, line, error};
+        throw;
+    }
+}
+
+void Files::prepare(Operation operation) const {
+    if (BeforeOperation) BeforeOperation(operation);
+}
+
+Files::OpenFile& Files::find(int number) {
+    const auto found = open_.find(number);
+    if (found == open_.end()) raise(ErrorNumber::BadFileNumber);
+    return found->second;
+}
+
+std::string Files::readAll(const std::string& path, std::FILE* stream) {
+    std::string content;
+    std::error_code ignored;
+    const auto size = std::filesystem::file_size(path, ignored);
+    if (!ignored) content.reserve(size);
+    std::array<char, 65536> block{};
+    while (const std::size_t count = std::fread(block.data(), 1, block.size(), stream))
+        content.append(block.data(), count);
+    if (std::ferror(stream) != 0) raise(errorFor(errno, ErrorNumber::DeviceIoError));
+    return content;
+}
+
+void Files::Open(const std::string& path, FileMode mode, int number) {
+    noting(path, 0, [&] {
+        if (IsOpen(number)) raise(ErrorNumber::FileAlreadyOpen);
+        prepare(Operation::Open);
+        requireUsablePath(path);
+        OpenFile file;
+        file.Path = path;
+        file.Mode = mode;
+        errno = 0;
+        file.Stream.reset(std::fopen(path.c_str(), mode == FileMode::Input ? "rb" : "wb"));
+        if (!file.Stream) raise(errorFor(errno, ErrorNumber::PathFileAccessError));
+        if (mode == FileMode::Input) {
+            file.Content = readAll(path, file.Stream.get());
+            file.Stream.reset();
+            if (std::string_view(file.Content).substr(0, ByteOrderMark.size()) == ByteOrderMark)
+                file.Position = ByteOrderMark.size();
+        }
+        open_.emplace(number, std::move(file));
+    });
+}
+
+bool Files::EndOfFile(int number) {
+    const OpenFile& file = find(number);
+    return file.Position >= file.Content.size();
+}
+
+std::string Files::LineInput(int number, LineEnds ends) {
+    OpenFile& file = find(number);
+    return noting(file.Path, file.Line + 1, [&] {
+        if (file.Mode != FileMode::Input) raise(ErrorNumber::BadFileNumber);
+        prepare(Operation::Read);
+        if (EndOfFile(number)) raise(ErrorNumber::InputPastEndOfFile);
+        const std::string_view rest = std::string_view(file.Content).substr(file.Position);
+        const std::size_t end =
+            std::min(rest.find_first_of(ends == LineEnds::AnyEnd ? "\r\n" : "\r"), rest.size());
+        file.Position += end;
+        const bool pair = rest.substr(end, 2) == "\r\n";
+        file.Position += pair ? 2 : end < rest.size() ? 1 : 0;
+        ++file.Line;
+        return decodeBytes(rest.substr(0, end));
+    });
+}
+
+void Files::Print(int number, std::string_view line) {
+    OpenFile& file = find(number);
+    noting(file.Path, ++file.Line, [&] {
+        if (file.Mode != FileMode::Output) raise(ErrorNumber::BadFileNumber);
+        prepare(Operation::Write);
+        errno = 0;
+        std::FILE* stream = file.Stream.get();
+        const bool written = std::fwrite(line.data(), 1, line.size(), stream) == line.size() &&
+                             std::fputs("\r\n", stream) >= 0;
+        if (!written) raise(errorFor(errno, ErrorNumber::DeviceIoError));
+    });
+}
+
+void Files::Close(int number) {
+    const auto found = open_.find(number);
+    if (found == open_.end()) return;
+    OpenFile& file = found->second;
+    noting(file.Path, file.Line, [&] {
+        prepare(Operation::Close);
+        std::FILE* stream = file.Stream.release();
+        const std::string path = file.Path;
+        open_.erase(found);
+        errno = 0;
+        if (stream != nullptr && std::fclose(stream) != 0) raise(errorFor(errno, ErrorNumber::DeviceIoError));
+    });
+}
+
+}  // namespace ui

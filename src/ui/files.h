@@ -1,0 +1,82 @@
+// SPDX-FileCopyrightText: 2026 The Brenica developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdio>
+#include <functional>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "ui/errors.h"
+
+namespace ui {
+
+enum class FileMode { Input, Output };
+
+/// What ends a line that is read: a CR or CR LF always, a lone LF only in some formats.
+enum class LineEnds { CarriageReturn, AnyEnd };
+
+/// A failure with the place in the file where it happened; line 0 before the first line was read.
+struct FileFault {
+    std::string Path;
+    int Line = 0;
+    RunTimeError Error;
+};
+
+/// Files opened under a number, as long as they are used. Reading gives UTF-8 without a byte order mark, whatever the
+/// file holds; writing ends each line with CR LF. Every failure raises the run-time error of its cause and is kept as
+/// the last fault, for whoever must report it after the command has swallowed it.
+class Files {
+public:
+    /// A step that a test can make fail, each counted on its own kind.
+    enum class Operation { Open, Read, Write, Close };
+    /// Called before each step; it may raise the error that the step is to end in.
+    std::function<void(Operation)> BeforeOperation;
+
+    Files() = default;
+    Files(const Files&) = delete;
+    Files& operator=(const Files&) = delete;
+
+    void Open(const std::string& path, FileMode mode, int number);
+    bool IsOpen(int number) const { return open_.count(number) > 0; }
+    bool EndOfFile(int number);
+    std::string LineInput(int number, LineEnds ends);
+    void Print(int number, std::string_view line);
+    /// Closing a number that is not open does nothing.
+    void Close(int number);
+
+    const std::optional<FileFault>& LastFault() const { return lastFault_; }
+    void ClearLastFault() { lastFault_.reset(); }
+    /// Keeps a failure that whoever reads the file found in what it holds.
+    void NoteFault(FileFault fault) { lastFault_ = std::move(fault); }
+
+private:
+    struct CloseStream {
+        void operator()(std::FILE* stream) const { std::fclose(stream); }
+    };
+    struct OpenFile {
+        std::string Path;
+        FileMode Mode = FileMode::Input;
+        std::unique_ptr<std::FILE, CloseStream> Stream;  // output only
+        std::string Content;                             // input only, as read from the disk
+        std::size_t Position = 0;
+        int Line = 0;
+    };
+
+    OpenFile& find(int number);
+    std::string readAll(const std::string& path, std::FILE* stream);
+    void prepare(Operation operation) const;
+    template <class Step>
+    decltype(auto) noting(const std::string& path, int line, Step step);
+
+    std::map<int, OpenFile> open_;
+    std::optional<FileFault> lastFault_;
+};
+
+/// The run-time error for the system's error number, for a step that has none of its own.
+ErrorNumber errorFor(int systemError, ErrorNumber otherwise);
+
+}  // namespace ui

@@ -1,0 +1,181 @@
+// SPDX-FileCopyrightText: 2026 The Brenica developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/grid.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace ui {
+
+namespace {
+
+constexpr int BorderWidth = 60;
+constexpr int ScrollBarWidth = 255;
+constexpr int RowHeight = 240;
+constexpr int CellPadding = 120;
+// More cells than any landscape has, and few enough that a slip of the finger does not exhaust the machine.
+constexpr long long MostCells = 1LL << 25;
+const Font CellFont{};
+
+}  // namespace
+
+Grid::Grid(Control& container, std::string name, Design design)
+    : Control(container, ControlKind::Grid, std::move(name), std::move(design)) {}
+
+void Grid::requireCell(int row, int col) const {
+    if (!contains(row, col)) raise(ErrorNumber::SubscriptOutOfRange);
+}
+
+void Grid::requireRoomFor(int rows, int cols) const {
+    if (rows < 0 || cols < 0) raise(ErrorNumber::InvalidPropertyValue);
+    if (static_cast<long long>(rows) * std::max(cols, 1) > MostCells) raise(ErrorNumber::OutOfMemory);
+}
+
+void Grid::Rows(int count) {
+    requireRoomFor(count, Cols());
+    const int before = Rows();
+    if (count == before) return;
+    rows_.resize(static_cast<std::size_t>(count));
+    for (int row = before; row < count; ++row) rows_[static_cast<std::size_t>(row)] = emptyRow();
+    forgetWidths();
+    keepCurrentCellInside();
+}
+
+void Grid::Cols(int count) {
+    requireRoomFor(Rows(), count);
+    if (count == Cols()) return;
+    columns_.resize(static_cast<std::size_t>(count));
+    for (std::size_t i = 0; i < rows_.size(); ++i) {
+        rows_[i].Cells.resize(columns_.size());
+        if (!rows_[i].Formats.empty()) rows_[i].Formats.resize(columns_.size());
+    }
+    keepCurrentCellInside();
+}
+
+void Grid::AddItem(std::string_view text, int row) {
+    if (row < 0 || row > Rows()) raise(ErrorNumber::SubscriptOutOfRange);
+    requireRoomFor(Rows() + 1, Cols());
+    RowData added = emptyRow();
+    if (!added.Cells.empty()) added.Cells.front() = text;
+    rows_.insert(static_cast<std::size_t>(row), std::move(added));
+    forgetWidths();
+}
+
+void Grid::RemoveItem(int row) {
+    if (row < 0 || row >= Rows()) raise(ErrorNumber::SubscriptOutOfRange);
+    rows_.erase(static_cast<std::size_t>(row));
+    forgetWidths();
+    keepCurrentCellInside();
+}
+
+void Grid::forgetWidths() {
+    for (ColumnData& column : columns_) column.MeasuredWidth = NotMeasured;
+}
+
+void Grid::keepCurrentCellInside() {
+    const auto inside = [](int index, int count) { return std::clamp(index, 0, std::max(count - 1, 0)); };
+    row_ = inside(row_, Rows());
+    rowSel_ = inside(rowSel_, Rows());
+    col_ = inside(col_, Cols());
+    colSel_ = inside(colSel_, Cols());
+}
+
+bool Grid::mayLeaveFor(int row, int col) {
+    if (row == row_ && col == col_) return true;
+    bool cancel = false;
+    BeforeRowColChange(row_, col_, row, col, cancel);
+    return !cancel;
+}
+
+void Grid::Select(int row1, int col1, int row2, int col2) {
+    requireCell(row1, col1);
+    requireCell(row2, col2);
+    if (!mayLeaveFor(row1, col1)) return;
+    row_ = row1;
+    col_ = col1;
+    rowSel_ = row2;
+    colSel_ = col2;
+}
+
+Grid::CellRange Grid::selection() const {
+    if (FillStyle == 0) return {row_, col_, row_, col_};
+    return {std::min(row_, rowSel_), std::min(col_, colSel_), std::max(row_, rowSel_),
+            std::max(col_, colSel_)};
+}
+
+const Grid::CellFormat& Grid::format(int row, int col) const {
+    static const CellFormat Unset;
+    requireCell(row, col);
+    const RowData& data = rows_[static_cast<std::size_t>(row)];
+    return data.Formats.empty() ? Unset : data.Formats[static_cast<std::size_t>(col)];
+}
+
+/// Changes the format of each selected cell; a row gets formats only when one of its cells needs one.
+template <class Change>
+void Grid::changeFormats(Change change) {
+    requireCell(row_, col_);
+    const auto same = [](const CellFormat& a, const CellFormat& b) {
+        return a.BackColor == b.BackColor && a.Alignment == b.Alignment && a.Checked == b.Checked &&
+               a.Bold == b.Bold;
+    };
+    CellFormat unset;
+    change(unset);
+    const bool needsFormats = !same(unset, CellFormat());
+    const CellRange range = selection();
+    for (int row = range.FirstRow; row <= range.LastRow; ++row) {
+        std::vector<CellFormat>& formats = rows_[static_cast<std::size_t>(row)].Formats;
+        if (formats.empty() && !needsFormats) continue;
+        formats.resize(columns_.size());
+        for (int col = range.FirstCol; col <= range.LastCol; ++col)
+            change(formats[static_cast<std::size_t>(col)]);
+    }
+}
+
+void Grid::CellBackColor(Colour colour) {
+    changeFormats([=](CellFormat& format) { format.BackColor = colour; });
+}
+
+void Grid::CellFontBold(bool bold) {
+    changeFormats([=](CellFormat& format) { format.Bold = bold; });
+}
+
+void Grid::CellAlignment(CellAlign alignment) {
+    changeFormats([=](CellFormat& format) { format.Alignment = alignment; });
+}
+
+void Grid::CellChecked(CheckState state) {
+    changeFormats([=](CellFormat& format) { format.Checked = state; });
+}
+
+const Grid::ColumnData& Grid::column(int col) const {
+    if (col < 0 || col >= Cols()) raise(ErrorNumber::SubscriptOutOfRange);
+    return columns_[static_cast<std::size_t>(col)];
+}
+
+Grid::ColumnData& Grid::column(int col) { return const_cast<ColumnData&>(std::as_const(*this).column(col)); }
+
+void Grid::ColWidth(int col, double width) { column(col).Width = std::max(0, toLong(width)); }
+
+void Grid::AutoSize(int firstCol, int lastCol) {
+    for (int col = firstCol; col <= lastCol; ++col) {
+        ColumnData& fitted = column(col);
+        if (fitted.MeasuredWidth == NotMeasured) fitted.MeasuredWidth = measure(col);
+        fitted.Width = fitted.MeasuredWidth;
+    }
+}
+
+int Grid::measure(int col) const {
+    int widest = 0;
+    for (std::size_t row = 0; row < rows_.size(); ++row) {
+        const std::string& text = rows_[row].Cells[static_cast<std::size_t>(col)];
+        if (!text.empty()) widest = std::max(widest, platform().textWidth(text, CellFont));
+    }
+    return widest + CellPadding;
+}
+
+int Grid::ClientWidth() const {
+    const bool scrolls = static_cast<long long>(Rows()) * RowHeight > Height() - BorderWidth;
+    return std::max(0, Width() - BorderWidth - (scrolls ? ScrollBarWidth : 0));
+}
+
+}  // namespace ui

@@ -1,0 +1,230 @@
+// SPDX-FileCopyrightText: 2026 The Brenica developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "ui/chart.h"
+#include "ui/control.h"
+#include "ui/errors.h"
+#include "ui/event.h"
+#include "ui/files.h"
+#include "ui/gap_buffer.h"
+#include "ui/text_editor.h"
+
+namespace ui {
+
+/// Values of Grid::Sort.
+enum class SortOrder { GenericAscending = 1, GenericDescending = 2, TextAscending = 5 };
+/// Values of Grid::Editable.
+enum class EditMode { ReadOnly = 0, KeyboardAndMouse = 2 };
+/// Values of alignment settings.
+enum class CellAlign : signed char { LeftCentre = 1, CentreCentre = 4, General = 9 };
+/// Values of CellChecked.
+enum class CheckState : signed char { None = 0, Checked = 1, Unchecked = 2 };
+/// The formats of SaveGrid.
+enum class GridFileFormat { TabDelimited = 4 };
+
+/// A rectangular table of text cells with heading rows and columns, counted from 0 at the top left. Cells are the
+/// program's store. A cell address outside the grid raises SubscriptOutOfRange.
+///
+/// Every write of a cell fires CellChanged at once, also one of an equal text; changing the shape and sorting fire
+/// nothing. Dropped cells lose text, colour and weight; sorting, AddItem and RemoveItem carry them along.
+class Grid : public Control {
+public:
+    Grid(Control& container, std::string name, Design design = {});
+
+    Event<int, int> CellChanged;                          ///< row, column
+    Event<int, int, bool&> BeforeEdit;                    ///< row, column, cancel
+    Event<int, int, int&> KeyPressEdit;                   ///< row, column, key; 0 swallows it
+    Event<int, int, bool&> ValidateEdit;                  ///< row, column, cancel: keeps the editor open
+    Event<int, int> AfterEdit;                            ///< row, column; a user's edit only
+    Event<int, int, int, int, bool&> BeforeRowColChange;  ///< old row and column, new ones, cancel
+    Event<> MouseMove;
+    Event<> MouseDown;
+
+    // Shape. New cells are empty.
+    int Rows() const { return static_cast<int>(rows_.size()); }
+    void Rows(int count);
+    int Cols() const { return static_cast<int>(columns_.size()); }
+    void Cols(int count);
+    int FixedRows() const { return fixedRows_; }
+    void FixedRows(int count) { fixedRows_ = count; }
+    int FixedCols() const { return fixedCols_; }
+    void FixedCols(int count) { fixedCols_ = count; }
+    /// Adds a row with `text` in its first cell, at the end or before `row`.
+    void AddItem(std::string_view text) { AddItem(text, Rows()); }
+    void AddItem(std::string_view text, int row);
+    void RemoveItem(int row);
+
+    // Cells.
+    const std::string& TextMatrix(int row, int col) const { return cell(row, col); }
+    void TextMatrix(int row, int col, std::string_view text) {
+        const_cast<std::string&>(cell(row, col)).assign(text);
+        columns_[static_cast<std::size_t>(col)].MeasuredWidth = NotMeasured;
+        if (CellChanged) CellChanged(row, col);
+    }
+    /// The cell's text as a number; raises TypeMismatch or Overflow, for an empty cell as well.
+    double Real(int row, int col) const { return toReal(cell(row, col), separator()); }
+    int Long(int row, int col) const { return toLong(cell(row, col), separator()); }
+
+    // Current cell and selection. Row and Col stay inside the grid when it shrinks.
+    int Row() const { return row_; }
+    void Row(int row) { Select(row, col_); }
+    int Col() const { return col_; }
+    void Col(int col) { Select(row_, col); }
+    int RowSel() const { return rowSel_; }
+    int ColSel() const { return colSel_; }
+    /// Makes (row1, col1) the current cell, unless BeforeRowColChange refuses, and selects up to (row2, col2).
+    void Select(int row1, int col1, int row2, int col2);
+    void Select(int row, int col) { Select(row, col, row, col); }
+
+    // Properties of the selected cells: read from the current cell, set on the selection (FillStyle 1) or on the
+    // current cell alone (FillStyle 0).
+    Colour CellBackColor() const { return format(row_, col_).BackColor; }
+    void CellBackColor(Colour colour);
+    bool CellFontBold() const { return format(row_, col_).Bold; }
+    void CellFontBold(bool bold);
+    CellAlign CellAlignment() const { return format(row_, col_).Alignment; }
+    void CellAlignment(CellAlign alignment);
+    CellAlign CellPictureAlignment() const { return cellPictureAlignment_; }
+    void CellPictureAlignment(CellAlign alignment) { cellPictureAlignment_ = alignment; }
+    CheckState CellChecked() const { return format(row_, col_).Checked; }
+    void CellChecked(CheckState state);
+
+    // The same for any cell, for a view and for tests.
+    Colour BackColorOf(int row, int col) const { return format(row, col).BackColor; }
+    bool IsBold(int row, int col) const { return format(row, col).Bold; }
+
+    /// Sorts on the column of the current cell, stably: all rows below the fixed ones with one cell selected, the
+    /// selected rows with a range. Generic order: empty cells, then numbers by value, then texts without regard to case.
+    void Sort(SortOrder order);
+
+    // Columns. Widths are twips.
+    bool ColHidden(int col) const { return column(col).Hidden; }
+    void ColHidden(int col, bool hidden) { column(col).Hidden = hidden; }
+    int ColWidth(int col) const { return column(col).Width; }
+    void ColWidth(int col, double width);
+    CellAlign ColAlignment(int col) const { return column(col).Alignment; }
+    void ColAlignment(int col, CellAlign alignment) { column(col).Alignment = alignment; }
+    /// Makes columns as wide as their widest text.
+    void AutoSize(int col) { AutoSize(col, col); }
+    void AutoSize(int firstCol, int lastCol);
+    /// Width less border and, when the rows do not fit, less the scroll bar.
+    int ClientWidth() const;
+
+    // Display settings.
+    bool Redraw() const { return redraw_; }
+    void Redraw(bool redraw) { redraw_ = redraw; }
+    bool WordWrap = false;
+    EditMode Editable = EditMode::ReadOnly;
+    int FocusRect = 0;
+    int HighLight = 0;
+    int SelectionMode = 0;
+    bool ScrollTrack = false;
+    int FillStyle = 0;
+    int MergeCells = 0;
+
+    /// Writes every row and column, hidden and fixed ones included, as lines of tab-separated cells. The file is open
+    /// as number 2 meanwhile.
+    void SaveGrid(Files& files, const std::string& path, GridFileFormat format) const;
+
+    // The edit session. ComboList is the list of items, separated by "|", that the cell to be edited offers.
+    const std::string& ComboList() const { return comboList_; }
+    void ComboList(std::string list) { comboList_ = std::move(list); }
+    bool Editing() const { return editing_; }
+    const std::string& EditText() const { return editor_.Text(); }
+    const TextEditor& Editor() const { return editor_; }
+
+    // The cell under the mouse, -1 where it is over none.
+    int MouseRow() const { return mouseRow_; }
+    int MouseCol() const { return mouseCol_; }
+
+    // User actions. Each tells whether it took place.
+    bool UserMoveTo(int row, int col);
+    /// Opens the editor on the current cell with its whole text selected, unless BeforeEdit refuses.
+    bool UserBeginEdit();
+    void UserEditKey(int key);
+    bool UserEditPaste(std::string_view text);
+    bool UserCommitEdit();
+    void UserCancelEdit();
+    /// Moves there, opens the editor, puts `text` in and commits; a refused edit is cancelled.
+    bool UserEditCell(int row, int col, std::string_view text);
+    void UserMouseMove(int row, int col);
+    void UserMouseDown(int row, int col);
+
+private:
+    struct CellFormat {
+        Colour BackColor = DefaultBackColor;
+        CellAlign Alignment = CellAlign::General;
+        CheckState Checked = CheckState::None;
+        bool Bold = false;
+    };
+    struct RowData {
+        std::vector<std::string> Cells;
+        std::vector<CellFormat> Formats;  // empty while no cell of the row has one
+    };
+    struct ColumnData {
+        int Width = DefaultColumnWidth;
+        int MeasuredWidth = NotMeasured;
+        CellAlign Alignment = CellAlign::General;
+        bool Hidden = false;
+    };
+    struct CellRange {
+        int FirstRow;
+        int FirstCol;
+        int LastRow;
+        int LastCol;
+    };
+
+    static constexpr Colour DefaultBackColor = rgb(255, 255, 255);
+    static constexpr int DefaultColumnWidth = 960;
+    static constexpr int NotMeasured = -1;
+
+    const std::string& cell(int row, int col) const {
+        if (static_cast<std::size_t>(row) >= rows_.size() ||
+            static_cast<std::size_t>(col) >= columns_.size()) {
+            raise(ErrorNumber::SubscriptOutOfRange);
+        }
+        return rows_[static_cast<std::size_t>(row)].Cells[static_cast<std::size_t>(col)];
+    }
+    bool contains(int row, int col) const { return row >= 0 && row < Rows() && col >= 0 && col < Cols(); }
+    void requireCell(int row, int col) const;
+    void requireRoomFor(int rows, int cols) const;
+    const CellFormat& format(int row, int col) const;
+    const ColumnData& column(int col) const;
+    ColumnData& column(int col);
+    RowData emptyRow() const { return {std::vector<std::string>(columns_.size()), {}}; }
+    void forgetWidths();
+    void keepCurrentCellInside();
+    CellRange selection() const;
+    template <class Change>
+    void changeFormats(Change change);
+    void setCurrent(int row, int col);
+    bool mayLeaveFor(int row, int col);
+    int measure(int col) const;
+    bool offers(std::string_view item) const;
+    void closeEditor();
+
+    GapBuffer<RowData> rows_;
+    std::vector<ColumnData> columns_;
+    int fixedRows_ = 1;
+    int fixedCols_ = 1;
+    int row_ = 0;
+    int col_ = 0;
+    int rowSel_ = 0;
+    int colSel_ = 0;
+    CellAlign cellPictureAlignment_ = CellAlign::LeftCentre;
+    bool redraw_ = true;
+
+    TextEditor editor_;
+    std::string comboList_;
+    bool editing_ = false;
+    int mouseRow_ = -1;
+    int mouseCol_ = -1;
+};
+
+}  // namespace ui

@@ -1,0 +1,112 @@
+// SPDX-FileCopyrightText: 2026 The Brenica developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <algorithm>
+
+#include "ui/form_window.h"
+#include "ui/grid.h"
+#include "ui/text.h"
+
+namespace ui {
+
+namespace {
+
+constexpr char ListSeparator = '|';
+
+}  // namespace
+
+bool Grid::UserMoveTo(int row, int col) {
+    if (!acceptsUserAction() || !contains(row, col)) return false;
+    Select(row, col);
+    return row_ == row && col_ == col;
+}
+
+bool Grid::UserBeginEdit() {
+    if (!acceptsUserAction() || Editable == EditMode::ReadOnly) return false;
+    if (!contains(row_, col_) || row_ < fixedRows_ || col_ < fixedCols_) return false;
+    bool cancel = false;
+    BeforeEdit(row_, col_, cancel);
+    if (cancel) return false;
+    editor_.Text(TextMatrix(row_, col_));
+    editor_.SelectAll();
+    editing_ = true;
+    Form().EditingGrid(this);
+    return true;
+}
+
+void Grid::UserEditKey(int key) {
+    if (!editing_) return;
+    if (key == EscapeKey) return UserCancelEdit();
+    if (key == EnterKey || key == TabKey) {
+        UserCommitEdit();
+        return;
+    }
+    KeyPressEdit(row_, col_, key);
+    if (key == 0) return;
+    TextEditor typed = editor_;
+    typed.Type(key);
+    if (!comboList_.empty() && !offers(typed.Text())) return platform().beep();
+    editor_ = typed;
+}
+
+bool Grid::UserEditPaste(std::string_view text) {
+    if (!editing_) return false;
+    TextEditor pasted = editor_;
+    pasted.Insert(text);
+    if (!comboList_.empty() && !offers(pasted.Text())) {
+        platform().beep();
+        return false;
+    }
+    editor_ = pasted;
+    return true;
+}
+
+bool Grid::UserCommitEdit() {
+    if (!editing_) return true;
+    bool cancel = false;
+    ValidateEdit(row_, col_, cancel);
+    if (cancel) return false;
+    const std::string text = editor_.Text();
+    closeEditor();
+    TextMatrix(row_, col_, text);
+    AfterEdit(row_, col_);
+    return true;
+}
+
+void Grid::UserCancelEdit() {
+    if (editing_) closeEditor();
+}
+
+void Grid::closeEditor() {
+    editing_ = false;
+    Form().EditingGrid(nullptr);
+}
+
+bool Grid::UserEditCell(int row, int col, std::string_view text) {
+    if (!UserMoveTo(row, col) || !UserBeginEdit()) return false;
+    if (UserEditPaste(text) && UserCommitEdit()) return true;
+    UserCancelEdit();
+    return false;
+}
+
+void Grid::UserMouseMove(int row, int col) {
+    mouseRow_ = row;
+    mouseCol_ = col;
+    MouseMove();
+}
+
+void Grid::UserMouseDown(int row, int col) {
+    mouseRow_ = row;
+    mouseCol_ = col;
+    if (!acceptsUserAction()) return;
+    MouseDown();
+    const bool body = contains(row, col) && row >= fixedRows_ && col >= fixedCols_;
+    if (body) Select(row, col);
+}
+
+bool Grid::offers(std::string_view item) const {
+    const auto items = split(comboList_, ListSeparator);
+    return std::any_of(items.begin(), items.end(),
+                       [&](std::string_view offered) { return equalsIgnoringCase(offered, item); });
+}
+
+}  // namespace ui

@@ -1,0 +1,227 @@
+// SPDX-FileCopyrightText: 2026 The Brenica developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/numbers.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <limits>
+
+#include "ui/errors.h"
+#include "ui/text.h"
+
+namespace ui {
+
+namespace {
+
+constexpr int SignificantDigits = 15;
+constexpr std::size_t ExactDigits = 15;  // any whole number of so many digits is exact in a double
+
+/// A conversion that has not yet raised.
+struct Conversion {
+    double Value = 0;
+    std::optional<ErrorNumber> Error{};
+};
+
+bool isDigit(char c) { return c >= '0' && c <= '9'; }
+
+constexpr std::array<double, ExactDigits + 1> PowersOfTen = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                                             1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+
+/// Digits with at most one point and nothing else: nearly every cell. Both the digits and the power of ten are exact
+/// in a double, so that one division rounds as correctly as a full conversion does.
+std::optional<double> plainDecimal(std::string_view text) {
+    if (text.empty() || text.size() > ExactDigits) return std::nullopt;
+    std::uint64_t digits = 0;
+    std::size_t pointAt = text.size();
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (isDigit(text[i])) {
+            digits = digits * 10 + static_cast<std::uint64_t>(text[i] - '0');
+        } else if (text[i] == '.' && pointAt == text.size()) {
+            pointAt = i;
+        } else {
+            return std::nullopt;
+        }
+    }
+    if (pointAt == text.size()) return static_cast<double>(digits);
+    if (text.size() == 1) return std::nullopt;
+    return static_cast<double>(digits) / PowersOfTen[text.size() - pointAt - 1];
+}
+
+/// Rewrites the grammar that users may type to the one that from_chars reads; nothing where a comma is out of place.
+std::optional<std::string> withoutGrouping(std::string_view text, DecimalSeparator separator) {
+    std::string plain;
+    plain.reserve(text.size());
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] != ',') {
+            plain += text[i];
+        } else if (separator == DecimalSeparator::Comma) {
+            plain += '.';
+        } else if (i == 0 || i + 1 == text.size() || !isDigit(text[i - 1]) || !isDigit(text[i + 1])) {
+            return std::nullopt;
+        }
+    }
+    return plain;
+}
+
+/// How many characters of `text` the grammar sign, digits, point, digits, exponent takes; 0 where it begins with no number.
+std::size_t numberLength(std::string_view text) {
+    std::size_t i = 0;
+    if (i < text.size() && (text[i] == '+' || text[i] == '-')) ++i;
+    std::size_t digits = 0;
+    for (; i < text.size() && isDigit(text[i]); ++i) ++digits;
+    if (i < text.size() && text[i] == '.') {
+        std::size_t fraction = 0;
+        while (i + 1 + fraction < text.size() && isDigit(text[i + 1 + fraction])) ++fraction;
+        if (digits + fraction > 0) i += 1 + fraction;
+        digits += fraction;
+    }
+    if (digits == 0) return 0;
+    if (i < text.size() && (text[i] == 'e' || text[i] == 'E')) {
+        std::size_t j = i + 1;
+        if (j < text.size() && (text[j] == '+' || text[j] == '-')) ++j;
+        if (j < text.size() && isDigit(text[j])) {
+            while (j < text.size() && isDigit(text[j])) ++j;
+            i = j;
+        }
+    }
+    return i;
+}
+
+/// The value of a text that numberLength accepts whole. Too small a number is 0, too large a one an overflow.
+Conversion valueOf(std::string_view number) {
+    if (number.front() == '+') number.remove_prefix(1);
+    double value = 0;
+    const auto [end, error] = std::from_chars(number.data(), number.data() + number.size(), value);
+    if (error != std::errc::result_out_of_range) return {value};
+    // from_chars does not tell which end of the range it was; the place of the first digit that counts does.
+    const std::size_t mark = std::min(number.find_first_of("eE"), number.size());
+    const std::size_t first = number.find_first_of("123456789");
+    const std::size_t point = std::min(number.find('.'), mark);
+    int exponent = 0;
+    if (mark < number.size()) {
+        std::string_view power = number.substr(mark + 1);
+        if (power.front() == '+') power.remove_prefix(1);
+        if (std::from_chars(power.data(), power.data() + power.size(), exponent).ec != std::errc()) {
+            exponent =
+                power.front() == '-' ? std::numeric_limits<int>::min() : std::numeric_limits<int>::max();
+        }
+    }
+    const auto place = static_cast<long long>(point) - static_cast<long long>(first) + exponent;
+    if (place < 0) return {0};
+    return {0, ErrorNumber::Overflow};
+}
+
+Conversion convert(std::string_view text, DecimalSeparator separator) {
+    if (const auto plain = plainDecimal(text)) return {*plain};
+    const Conversion mismatch{0, ErrorNumber::TypeMismatch};
+    std::string_view number = trim(text);
+    std::optional<std::string> rewritten;
+    if (number.find(',') != std::string_view::npos) {
+        rewritten = withoutGrouping(number, separator);
+        if (!rewritten) return mismatch;
+        number = *rewritten;
+    }
+    if (number.empty() || numberLength(number) != number.size()) return mismatch;
+    return valueOf(number);
+}
+
+}  // namespace
+
+double toReal(std::string_view text, DecimalSeparator separator) {
+    const Conversion conversion = convert(text, separator);
+    if (conversion.Error) raise(*conversion.Error);
+    return conversion.Value;
+}
+
+std::optional<double> tryReal(std::string_view text, DecimalSeparator separator) {
+    const Conversion conversion = convert(text, separator);
+    if (conversion.Error) return std::nullopt;
+    return conversion.Value;
+}
+
+std::int32_t toLong(double value) {
+    const double whole = std::nearbyint(value);
+    if (!(whole >= std::numeric_limits<std::int32_t>::min() &&
+          whole <= std::numeric_limits<std::int32_t>::max())) {
+        raise(ErrorNumber::Overflow);
+    }
+    return static_cast<std::int32_t>(whole);
+}
+
+std::int32_t toLong(std::string_view text, DecimalSeparator separator) {
+    return toLong(toReal(text, separator));
+}
+
+bool isNumeric(std::string_view text, DecimalSeparator separator) {
+    return tryReal(text, separator).has_value();
+}
+
+double leadingNumber(std::string_view text) {
+    const std::string_view start = trim(text);
+    const std::size_t length = numberLength(start);
+    if (length == 0) return 0;
+    const Conversion conversion = valueOf(start.substr(0, length));
+    if (conversion.Error) raise(*conversion.Error);
+    return conversion.Value;
+}
+
+std::string toText(std::int32_t value) { return std::to_string(value); }
+
+std::string toText(double value) {
+    if (!std::isfinite(value)) raise(ErrorNumber::Overflow);
+    // Scientific form gives the digits and the exponent; the point is then put by hand, since no exponent is shown.
+    std::array<char, 40> buffer{};
+    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
+                                   std::chars_format::scientific, SignificantDigits - 1)
+                         .ptr;
+    std::string_view written(buffer.data(), static_cast<std::size_t>(end - buffer.data()));
+    const bool negative = written.front() == '-';
+    if (negative) written.remove_prefix(1);
+
+    const std::size_t mark = written.find('e');
+    int exponent = 0;
+    std::string_view power = written.substr(mark + 1);
+    if (power.front() == '+') power.remove_prefix(1);
+    std::from_chars(power.data(), power.data() + power.size(), exponent);
+
+    std::string digits(1, written.front());
+    digits += written.substr(2, mark - 2);
+    digits.erase(digits.find_last_not_of('0') + 1);
+    if (digits.empty()) return "0";
+
+    std::string text = negative ? "-" : "";
+    const int count = static_cast<int>(digits.size());
+    if (exponent < 0) return text + "0." + std::string(static_cast<std::size_t>(-exponent - 1), '0') + digits;
+    if (exponent >= count - 1)
+        return text + digits + std::string(static_cast<std::size_t>(exponent - count + 1), '0');
+    const auto whole = static_cast<std::size_t>(exponent + 1);
+    return text + digits.substr(0, whole) + "." + digits.substr(whole);
+}
+
+double roundTo(double value, int places) {
+    const double scale = PowersOfTen.at(static_cast<std::size_t>(places));
+    const double rounded = std::nearbyint(value * scale) / scale;
+    if (!std::isfinite(rounded)) raise(ErrorNumber::Overflow);
+    return rounded;
+}
+
+std::int32_t addLong(std::int32_t left, std::int32_t right) {
+    std::int32_t sum = 0;
+    if (__builtin_add_overflow(left, right, &sum)) raise(ErrorNumber::Overflow);
+    return sum;
+}
+
+std::int32_t divideLong(std::int32_t left, std::int32_t right) {
+    if (right == 0) raise(ErrorNumber::DivisionByZero);
+    if (left == std::numeric_limits<std::int32_t>::min() && right == -1) raise(ErrorNumber::Overflow);
+    return left / right;
+}
+
+std::int32_t remainderLong(std::int32_t left, std::int32_t right) {
+    if (right == 0) raise(ErrorNumber::DivisionByZero);
+    if (right == -1) return 0;
+    return left % right;
+}
+
+}  // namespace ui

@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: 2026 The Brenica developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "ui/control.h"
+#include "ui/event.h"
+
+namespace ui {
+
+class Label : public Control {
+public:
+    Label(Control& container, std::string name, Design design = {})
+        : Control(container, ControlKind::Label, std::move(name), std::move(design)) {}
+};
+
+class Frame : public Control {
+public:
+    Frame(Control& container, std::string name, Design design = {})
+        : Control(container, ControlKind::Frame, std::move(name), std::move(design)) {}
+};
+
+class CommandButton : public Control {
+public:
+    CommandButton(Control& container, std::string name, Design design = {})
+        : Control(container, ControlKind::CommandButton, std::move(name), std::move(design)) {}
+
+    Event<> Click;
+    void UserClick() {
+        if (acceptsUserAction()) Click();
+    }
+};
+
+/// A menu or an entry of one; its container is the form or the menu that it stands in.
+class MenuItem : public Control {
+public:
+    MenuItem(Control& container, std::string name, Design design = {})
+        : Control(container, ControlKind::MenuItem, std::move(name), std::move(design)) {}
+
+    Event<> Click;
+    void UserClick() {
+        if (acceptsUserAction()) Click();
+    }
+};
+
+}  // namespace ui

@@ -51,7 +51,9 @@ private:
     void moveGap(std::size_t index) {
         const auto slots = slots_.begin();
         const auto at = [&](std::size_t i) { return slots + static_cast<std::ptrdiff_t>(i); };
-        if (index < gapStart_) {
+        if (gapLength_ == 0) {
+            // Nothing to move: an element must not be moved onto itself.
+        } else if (index < gapStart_) {
             std::move_backward(at(index), at(gapStart_), at(gapStart_ + gapLength_));
         } else if (index > gapStart_) {
             std::move(at(gapStart_ + gapLength_), at(index + gapLength_), at(gapStart_));

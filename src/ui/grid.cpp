@@ -9,6 +9,8 @@ namespace ui {
 
 namespace {
 
+constexpr int DesignTimeRows = 1;
+constexpr int DesignTimeCols = 10;
 constexpr int BorderWidth = 60;
 constexpr int ScrollBarWidth = 255;
 constexpr int RowHeight = 240;
@@ -20,7 +22,10 @@ const Font CellFont{};
 }  // namespace
 
 Grid::Grid(Control& container, std::string name, Design design)
-    : Control(container, ControlKind::Grid, std::move(name), std::move(design)) {}
+    : Control(container, ControlKind::Grid, std::move(name), std::move(design)) {
+    Cols(DesignTimeCols);
+    Rows(DesignTimeRows);
+}
 
 void Grid::requireCell(int row, int col) const {
     if (!contains(row, col)) raise(ErrorNumber::SubscriptOutOfRange);

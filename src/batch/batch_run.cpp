@@ -1,0 +1,241 @@
+// SPDX-FileCopyrightText: 2026 The Brenica developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "batch/batch_run.h"
+
+#include <filesystem>
+#include <memory>
+#include <ostream>
+#include <vector>
+
+#include "batch/messages_file.h"
+#include "batch/output_file.h"
+#include "batch/scripted_platform.h"
+#include "project/frmBrenica.h"
+#include "ui/text.h"
+
+namespace {
+
+constexpr const char* ProgramName = "brenica-batch";
+constexpr int FirstPageOfWalk = 2;
+constexpr int LastPageOfWalk = 7;
+
+/// A text with CR and CR LF breaks on one line, or on indented lines of its own.
+std::string withBreaks(std::string_view text, std::string_view lineBreak) {
+    std::string shown;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] == '\n') continue;
+        if (text[i] != '\r') {
+            shown += text[i];
+        } else if (text.find_first_not_of("\r\n", i) != std::string_view::npos) {
+            shown += lineBreak;
+        }
+    }
+    return shown;
+}
+
+void printBox(std::ostream& err, const ShownBox& box) {
+    err << box.Title << ": " << withBreaks(box.Text, "\n  ") << '\n';
+    if (box.BoxKind != ShownBox::Kind::Message) err << "  > " << box.Answer << '\n';
+}
+
+/// A fault in the use of the program: what it says is printed and the run ends with ExitWrongUsage.
+struct UsageFault {
+    std::string Text;
+};
+
+/// The files that were asked for. They are begun before the run, so that one that cannot be written stops it.
+struct Outputs {
+    std::unique_ptr<OutputFile> Results;
+    std::unique_ptr<OutputFile> Messages;
+};
+
+std::unique_ptr<OutputFile> begin(const std::optional<std::string>& path) {
+    if (!path) return nullptr;
+    try {
+        return std::make_unique<OutputFile>(*path);
+    } catch (const ui::RunTimeError& error) {
+        throw UsageFault{*path + ": cannot be written: " + error.Description};
+    }
+}
+
+void makeFolder(const std::string& folder) {
+    std::error_code error;
+    std::filesystem::create_directories(folder, error);
+    if (!std::filesystem::is_directory(folder)) throw UsageFault{folder + ": cannot be made a folder"};
+}
+
+class BatchRun {
+public:
+    BatchRun(const BatchOptions& options, std::ostream& out, std::ostream& err)
+        : options_(options), out_(out), err_(err), form_(platform_, files_, global_) {
+        platform_.Answers = options.Answers;
+        platform_.OnBox = [this](const ShownBox& box) { printBox(err_, box); };
+    }
+
+    ExitCode run() {
+        checkLevel(form_.txtErrorMargin, options_.ErrorMargin, "--error-margin");
+        checkLevel(form_.txtThreatRep, options_.ThreatRepresentation, "--threat-representation");
+        checkLevel(form_.txtCCSRep, options_.ConservationStatus, "--conservation-status");
+        const Outputs outputs{begin(options_.Results), begin(options_.Messages)};
+        if (options_.Tables) makeFolder(*options_.Tables);
+        const ExitCode code = select();
+        writeOutputs(outputs, code);
+        if (code == ExitDone || code == ExitUnexpectedError) printSuite();
+        if (code == ExitDone) printUncovered();
+        return code;
+    }
+
+private:
+    void checkLevel(const ui::TextBox& box, const std::optional<std::string>& level,
+                    const char* option) const;
+    ExitCode select();
+    bool openProject();
+    void putLevel(ui::TextBox& box, const std::optional<std::string>& level);
+    ExitCode walkAndSelect();
+    void sayWhatIsMissing();
+    void writeOutputs(const Outputs& outputs, ExitCode code);
+    void writeResults(OutputFile& file);
+    void writeTables();
+    void printSuite();
+    void printUncovered();
+
+    const BatchOptions& options_;
+    std::ostream& out_;
+    std::ostream& err_;
+    ScriptedPlatform platform_;
+    ui::Files files_;
+    modGlobal global_;
+    frmBrenica form_;
+};
+
+void BatchRun::checkLevel(const ui::TextBox& box, const std::optional<std::string>& level,
+                          const char* option) const {
+    if (!level) return;
+    for (const NumberBox& row : form_.NumberBoxes()) {
+        if (row.Box != &box) continue;
+        const auto value = ui::tryReal(*level, form_.Separator());
+        if (value && *value >= ui::toReal(row.Minimum) && *value <= ui::toReal(row.Maximum)) return;
+        throw UsageFault{std::string(option) + ": '" + *level + "' is no number from " + row.Minimum +
+                         " to " + row.Maximum};
+    }
+}
+
+ExitCode BatchRun::select() {
+    try {
+        form_.mnuNewProject.UserClick();
+        if (!openProject()) return ExitUnreadableProject;
+        putLevel(form_.txtErrorMargin, options_.ErrorMargin);
+        putLevel(form_.txtThreatRep, options_.ThreatRepresentation);
+        putLevel(form_.txtCCSRep, options_.ConservationStatus);
+        return walkAndSelect();
+    } catch (const ui::RunTimeError& error) {
+        err_ << withBreaks(error.Description, "\n") << '\n';
+        return ExitUnexpectedError;
+    }
+}
+
+/// The form swallows a fault of the file; the files have kept it.
+bool BatchRun::openProject() {
+    platform_.Files.push_back(options_.Project);
+    form_.mnuOpenProject.UserClick();
+    const auto& fault = files_.LastFault();
+    if (!fault && global_.ProjectFileName == options_.Project) return true;
+    err_ << ProgramName << ": " << options_.Project;
+    if (fault && fault->Line > 0) err_ << ':' << fault->Line;
+    err_ << ": " << (fault ? withBreaks(fault->Error.Description, " ") : "cannot be opened") << '\n';
+    return false;
+}
+
+void BatchRun::putLevel(ui::TextBox& box, const std::optional<std::string>& level) {
+    if (!level) return;
+    box.UserFocus();
+    box.UserPaste(*level);
+}
+
+ExitCode BatchRun::walkAndSelect() {
+    for (int page = FirstPageOfWalk; page <= LastPageOfWalk; ++page) {
+        form_.tabBrenica.UserSelectTab(page);
+        if (form_.CurrentMainTab == page) continue;
+        err_ << ProgramName << ": page " << form_.CurrentMainTab
+             << " may not be left before its rows are complete\n";
+        return ExitNothingToScore;
+    }
+    if (!form_.cmdComplement.Enabled()) {
+        sayWhatIsMissing();
+        return ExitNothingToScore;
+    }
+    form_.cmdComplement.UserClick();
+    return ExitDone;
+}
+
+/// A gap in the grades has had its message from the form; an empty list has none.
+void BatchRun::sayWhatIsMissing() {
+    const std::pair<int, const char*> lists[] = {{global_.TotalSpecies, "candidate species"},
+                                                 {global_.TotalHabitatTypes, "habitat types"},
+                                                 {global_.TotalJurisUnits, "management zones"},
+                                                 {global_.TotalLandUses, "human activities"}};
+    for (const auto& [count, name] : lists) {
+        if (count < 1) err_ << ProgramName << ": nothing to score: the project has no " << name << '\n';
+    }
+}
+
+void BatchRun::writeOutputs(const Outputs& outputs, ExitCode code) {
+    if (outputs.Results && code == ExitDone) writeResults(*outputs.Results);
+    if (options_.Tables && code != ExitUnreadableProject) writeTables();
+    if (!outputs.Messages) return;
+    try {
+        outputs.Messages->write(messageLines(platform_.Transcript));
+        outputs.Messages->commit();
+    } catch (const ui::RunTimeError& error) {
+        throw UsageFault{outputs.Messages->path() + ": cannot be written: " + error.Description};
+    }
+}
+
+void BatchRun::writeResults(OutputFile& file) {
+    files_.ClearLastFault();
+    platform_.Files.push_back(file.temporaryPath());
+    form_.cmdExportResults.UserClick();
+    const auto& fault = files_.LastFault();
+    if (fault) throw UsageFault{file.path() + ": cannot be written: " + fault->Error.Description};
+    file.commit();
+}
+
+void BatchRun::writeTables() {
+    for (const ExportTable& table : form_.ExportTables()) {
+        if (!form_.isExportable(table)) continue;
+        const std::string path = *options_.Tables + "/" + table.FileName + ".txt";
+        try {
+            OutputFile file(path);
+            form_.SaveTable(table, file.temporaryPath());
+            file.commit();
+        } catch (const ui::RunTimeError& error) {
+            throw UsageFault{path + ": cannot be written: " + withBreaks(error.Description, " ")};
+        }
+    }
+}
+
+void BatchRun::printSuite() {
+    const ui::Grid& suite = form_.flxBrenicSuite;
+    for (int row = 0; row < suite.Rows(); ++row) {
+        if (row > 0 && suite.TextMatrix(row, 1).empty()) continue;
+        for (int col = 0; col < suite.Cols(); ++col)
+            out_ << (col > 0 ? "\t" : "") << suite.TextMatrix(row, col);
+        out_ << '\n';
+    }
+}
+
+/// The selection's own report tells it last.
+void BatchRun::printUncovered() {
+    out_ << '\n' << withBreaks(platform_.Transcript.back().Text, "\n") << '\n';
+}
+
+}  // namespace
+
+ExitCode runBatch(const BatchOptions& options, std::ostream& out, std::ostream& err) {
+    try {
+        return BatchRun(options, out, err).run();
+    } catch (const UsageFault& fault) {
+        err << ProgramName << ": " << fault.Text << '\n';
+        return ExitWrongUsage;
+    }
+}

@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: 2026 The Brenica developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <iosfwd>
+
+#include "batch/options.h"
+
+/// Exit codes of brenica-batch.
+enum ExitCode {
+    ExitDone = 0,
+    ExitWrongUsage = 1,
+    ExitUnreadableProject = 2,
+    ExitNothingToScore = 3,
+    ExitUnexpectedError = 4,
+};
+
+/// Opens the project in a form of its own, walks its pages, runs the selection and writes what was asked for. All of it
+/// goes through the form's user actions. The suite goes to `out`; boxes, as they come, and faults go to `err`.
+ExitCode runBatch(const BatchOptions& options, std::ostream& out, std::ostream& err);

@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 The Brenica developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <deque>
+#include <optional>
+#include <string>
+
+/// What one run of brenica-batch is asked for.
+struct BatchOptions {
+    std::string Project;
+    std::optional<std::string> ErrorMargin;
+    std::optional<std::string> ThreatRepresentation;
+    std::optional<std::string> ConservationStatus;
+    std::deque<std::string> Answers;
+    std::optional<std::string> Results;
+    std::optional<std::string> Tables;
+    std::optional<std::string> Messages;
+};
+
+/// The options, or the exit code of a command line that asks for help or the version, or is wrong; what there is to
+/// say of it has been printed.
+struct ParsedOptions {
+    std::optional<BatchOptions> Options;
+    int ExitCode = 0;
+};
+
+ParsedOptions parseOptions(int argc, const char* const* argv);

@@ -1,0 +1,105 @@
+// SPDX-FileCopyrightText: 2026 The Brenica developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/gap_buffer.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+#include <string>
+#include <vector>
+
+namespace {
+
+/// A gap buffer beside a vector to which the same is done.
+class GapBufferAndModel {
+public:
+    void insert(std::size_t index, const std::string& element) {
+        buffer.insert(index, element);
+        model.insert(model.begin() + static_cast<std::ptrdiff_t>(index), element);
+    }
+    void erase(std::size_t index) {
+        buffer.erase(index);
+        model.erase(model.begin() + static_cast<std::ptrdiff_t>(index));
+    }
+    void resize(std::size_t count) {
+        buffer.resize(count);
+        model.resize(count);
+    }
+    void assign(std::size_t index, const std::string& element) {
+        buffer[index] = element;
+        model[index] = element;
+    }
+    void expectEqual() {
+        ASSERT_EQ(buffer.size(), model.size());
+        const ui::GapBuffer<std::string>& reader = buffer;
+        for (std::size_t i = 0; i < model.size(); ++i) ASSERT_EQ(reader[i], model[i]) << "at " << i;
+    }
+    void expectEqualInOnePiece() {
+        const std::string* elements = buffer.contiguous();
+        ASSERT_EQ(std::vector<std::string>(elements, elements + model.size()), model);
+    }
+
+    ui::GapBuffer<std::string> buffer;
+    std::vector<std::string> model;
+};
+
+}  // namespace
+
+TEST(GapBuffer, HoldsWhatAVectorHoldsAfterAnyOperations) {
+    for (unsigned seed = 1; seed <= 60; ++seed) {
+        SCOPED_TRACE(seed);
+        std::mt19937 random(seed);
+        const auto below = [&](std::size_t limit) { return random() % limit; };
+        GapBufferAndModel both;
+        for (int step = 0; step < 400; ++step) {
+            // Long enough that the texts stand on the heap, where a wrong move shows.
+            const std::string element = "element number " + std::to_string(step) + " of this round";
+            const std::size_t size = both.model.size();
+            switch (below(12)) {
+                case 0: both.resize(below(40)); break;
+                case 1: both.expectEqualInOnePiece(); break;
+                case 2:
+                    if (size > 0) both.assign(below(size), element);
+                    break;
+                case 3:
+                case 4:
+                case 5:
+                    if (size > 0) both.erase(below(size));
+                    break;
+                case 6:
+                    // A run at one place, as a block of rows that goes or comes.
+                    for (std::size_t at = below(size + 1), run = below(6); run > 0 && at < both.model.size();
+                         --run)
+                        both.erase(at);
+                    break;
+                case 7:
+                    for (std::size_t at = below(size + 1), run = below(12); run > 0; --run)
+                        both.insert(at, element);
+                    break;
+                default: both.insert(below(size + 1), element); break;
+            }
+            ASSERT_NO_FATAL_FAILURE(both.expectEqual()) << "step " << step;
+        }
+    }
+}
+
+TEST(GapBuffer, GivesEmptyElementsWhereItGrowsAgain) {
+    GapBufferAndModel both;
+    for (int i = 0; i < 5; ++i) both.insert(0, "a text that is not short at all");
+    both.erase(2);
+    both.resize(2);
+    both.resize(6);
+    both.expectEqual();
+    EXPECT_EQ(both.buffer[5], "");
+}
+
+TEST(GapBuffer, TakesARunOfInsertionsInTheMiddleInLinearTime) {
+    // A vector would move some 10¹⁰ elements here.
+    ui::GapBuffer<int> buffer;
+    buffer.resize(200000);
+    for (int i = 0; i < 200000; ++i) buffer.insert(100000 + static_cast<std::size_t>(i), i);
+    EXPECT_EQ(buffer.size(), 400000U);
+    EXPECT_EQ(buffer[100000], 0);
+    EXPECT_EQ(buffer[299999], 199999);
+    EXPECT_EQ(buffer[300000], 0);
+}

@@ -22,7 +22,7 @@ const Font CellFont{};
 }  // namespace
 
 Grid::Grid(Control& container, std::string name, Design design)
-    : Control(container, ControlKind::Grid, std::move(name), std::move(design)) {
+    : Control(container, ControlKind::Grid, std::move(name), std::move(design)), separator_(separator()) {
     Cols(DesignTimeCols);
     Rows(DesignTimeRows);
 }

@@ -68,8 +68,8 @@ public:
         if (CellChanged) CellChanged(row, col);
     }
     /// The cell's text as a number; raises TypeMismatch or Overflow, for an empty cell as well.
-    double Real(int row, int col) const { return toReal(cell(row, col), separator()); }
-    int Long(int row, int col) const { return toLong(cell(row, col), separator()); }
+    double Real(int row, int col) const { return gradeToReal(cell(row, col), separator_); }
+    int Long(int row, int col) const { return toLong(Real(row, col)); }
 
     // Current cell and selection. Row and Col stay inside the grid when it shrinks.
     int Row() const { return row_; }
@@ -209,6 +209,7 @@ private:
     bool offers(std::string_view item) const;
     void closeEditor();
 
+    const DecimalSeparator separator_;
     GapBuffer<RowData> rows_;
     std::vector<ColumnData> columns_;
     int fixedRows_ = 1;

@@ -47,7 +47,7 @@ void Grid::Sort(SortOrder order) {
     std::vector<SortKey> keys(count);
     for (std::size_t i = 0; i < count; ++i) {
         const std::string& text = rows[i].Cells[static_cast<std::size_t>(col_)];
-        keys[i] = order == SortOrder::TextAscending ? textKey(text) : genericKey(text, separator());
+        keys[i] = order == SortOrder::TextAscending ? textKey(text) : genericKey(text, separator_);
     }
     std::vector<std::size_t> places(count);
     std::iota(places.begin(), places.end(), std::size_t{0});

@@ -170,6 +170,9 @@ std::string toText(std::int32_t value) { return std::to_string(value); }
 
 std::string toText(double value) {
     if (!std::isfinite(value)) raise(ErrorNumber::Overflow);
+    constexpr double LargestShort = 1e9;
+    if (std::abs(value) < LargestShort && value == std::nearbyint(value))
+        return toText(static_cast<std::int32_t>(value));
     // Scientific form gives the digits and the exponent; the point is then put by hand, since no exponent is shown.
     std::array<char, 40> buffer{};
     const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,

@@ -17,6 +17,11 @@ enum class DecimalSeparator : char { Point = '.', Comma = ',' };
 /// one side of the point. A comma between digits is a grouping mark, or a point where the separator is the comma.
 /// Raises TypeMismatch for any other text and Overflow outside the range of a double.
 double toReal(std::string_view text, DecimalSeparator separator = DecimalSeparator::Point);
+/// The same for a text that is often a single digit, as most grades are.
+inline double gradeToReal(std::string_view text, DecimalSeparator separator) {
+    if (text.size() == 1 && text.front() >= '0' && text.front() <= '9') return text.front() - '0';
+    return toReal(text, separator);
+}
 
 /// The same, with nothing for a text that raises: for whoever expects such texts.
 std::optional<double> tryReal(std::string_view text, DecimalSeparator separator = DecimalSeparator::Point);

@@ -54,6 +54,7 @@ std::string_view trim(std::string_view text) {
 bool isBlank(std::string_view text) { return text.find_first_not_of(' ') == std::string_view::npos; }
 
 std::size_t length(std::string_view text) {
+    if (isAscii(text)) return text.size();
     std::size_t count = 0;
     for (std::size_t position = 0; position < text.size(); ++count) nextCharacter(text, position);
     return count;
@@ -61,6 +62,7 @@ std::size_t length(std::string_view text) {
 
 std::string_view firstCharacters(std::string_view text, std::size_t count) {
     if (text.size() <= count) return text;
+    if (isAscii(text)) return text.substr(0, count);
     std::size_t position = 0;
     for (; count > 0 && position < text.size(); --count) nextCharacter(text, position);
     return text.substr(0, position);

@@ -49,3 +49,28 @@ void frmBrenica::UpdateScoreGraphs() try {
 } catch (...) {
     ReportError(9999, "Brenica.UpdateScoreGraphs", "");
 }
+
+/// Switches between the tables and the charts of the page.
+void frmBrenica::chkShowGraphs_Click() try {
+    const bool normalised = optScoreDisplay(0).Value();
+    if (!chkShowGraphs.Value()) {
+        chkShowAggregateScore.Enabled(false);
+        for (ui::Chart& chart : chtScores) chart.Visible(false);
+        flxScoresSort(0).Visible(normalised);
+        flxScoresSort(1).Visible(!normalised);
+        return;
+    }
+    chkShowAggregateScore.Enabled(true);
+    for (ui::Grid& grid : flxScoresSort) grid.Visible(false);
+    if (normalised) {
+        chtScores(0).Visible(chkShowAggregateScore.Value());
+        chtScores(2).Visible(!chkShowAggregateScore.Value());
+        chtScores(1).Visible(false);
+    } else if (optScoreDisplay(1).Value()) {
+        chtScores(0).Visible(false);
+        chtScores(1).Visible(true);
+        chtScores(2).Visible(false);
+    }
+} catch (...) {
+    ReportError(9999, "Brenica.chkShowGraphs_Click", "");
+}

@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Brenica developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "entry/modErrorHandling.h"
-#include "entry/modValidationUtilities.h"
 #include "project/frmBrenica.h"
 
 frmBrenica::frmBrenica(ui::Platform& platform, ui::Files& files, modGlobal& global)
@@ -10,26 +9,46 @@ frmBrenica::frmBrenica(ui::Platform& platform, ui::Files& files, modGlobal& glob
       global_(global),
       parameterLists_(makeParameterLists()),
       numberBoxes_(makeNumberBoxes()),
+      cellEditings_(makeCellEditings()),
+      headingTips_(makeHeadingTips()),
       exportTables_(makeExportTables()) {
     wireEvents();
     Form_Load();
 }
 
 void frmBrenica::wireEvents() {
+    Resize = [this] { ResizeForm(); };
     tabBrenica.Click = [this] { tabBrenica_Click(); };
     wireMenu();
     wireLists();
     wireCriteria();
-    wireTables();
     wireNumberBoxes();
+    wireCellEditing();
+    wireHeadingTips();
+    wireSummaryTables();
+    wireScores();
+    wireResults();
 }
 
 void frmBrenica::wireMenu() {
-    mnuNewProject.Click = [this] { MenuSelectionProject("New"); };
-    mnuOpenProject.Click = [this] { MenuSelectionProject("Open"); };
-    mnuSaveProject.Click = [this] { MenuSelectionProject("Save"); };
-    mnuExit.Click = [this] { MenuSelectionProject("Exit"); };
-    mnuExportData.Click = [this] { MenuSelectionDataGrid("Export"); };
+    const auto wire = [](ui::MenuItem& item, const char* source, auto action) {
+        item.Click = [source, action] {
+            try {
+                action();
+            } catch (...) {
+                ReportError(9999, source, "");
+            }
+        };
+    };
+    wire(mnuNewProject, "Brenica.mnuNewProject_Click", [this] { MenuSelectionProject("New"); });
+    wire(mnuOpenProject, "Brenica.mnuOpenProject_Click", [this] { MenuSelectionProject("Open"); });
+    wire(mnuSaveProject, "Brenica.mnuSaveProject_Click", [this] { MenuSelectionProject("Save"); });
+    wire(mnuExit, "Brenica.mnuExit_Click", [this] { MenuSelectionProject("Exit"); });
+    wire(mnuImportData, "Brenica.mnuImportData_Click", [this] { MenuSelectionDataGrid("Import"); });
+    wire(mnuExportData, "Brenica.mnuExportData_Click", [this] { MenuSelectionDataGrid("Export"); });
+    wire(mnuSaveGraph, "Brenica.mnuSaveGraph_Click", [this] { MenuSelectionGraph("Save"); });
+    wire(mnuCopyGraph, "Brenica.mnuCopyGraph_Click", [this] { MenuSelectionGraph("Copy"); });
+    wire(mnuPrintGraph, "Brenica.mnuPrintGraph_Click", [this] { MenuSelectionGraph("Print"); });
 }
 
 void frmBrenica::wireLists() {
@@ -97,15 +116,43 @@ void frmBrenica::wireCriteria() {
     cbxDataQuality.Click = [this] { cbxDataQuality_Change(); };
 }
 
-void frmBrenica::wireTables() {
+void frmBrenica::wireSummaryTables() {
+    tabCriteriaSummary.Click = [this] { tabCriteriaSummary_Click(); };
+    chkAllowSummaryEdit.Click = [this] { chkAllowSummaryEdit_Click(); };
     for (int i = 0; i < flxSummary.Count(); ++i) {
-        flxSummary(i).CellChanged = [this, i](int row, int col) { flxSummary_CellChanged(i, row, col); };
+        ui::Grid& grid = flxSummary(i);
+        grid.CellChanged = [this, i](int row, int col) { flxSummary_CellChanged(i, row, col); };
+        grid.BeforeEdit = [this, i](int row, int col, bool& cancel) {
+            flxSummary_BeforeEdit(i, row, col, cancel);
+        };
+        grid.ValidateEdit = [this, i](int row, int col, bool& cancel) {
+            flxSummary_ValidateEdit(i, row, col, cancel);
+        };
+        grid.MouseMove = [this, i] { flxSummary_MouseMove(i); };
     }
     tabGraphSummary.Click = [this] { tabGraphSummary_Click(); };
+}
+
+void frmBrenica::wireScores() {
+    for (int i = 0; i < flxScoresSort.Count(); ++i) {
+        flxScoresSort(i).MouseDown = [this, i] { flxScoresSort_MouseDown(i); };
+        flxScoresSort(i).MouseMove = [this, i] { flxScoresSort_MouseMove(i); };
+    }
+    for (int i = 0; i < optScoreDisplay.Count(); ++i) {
+        optScoreDisplay(i).Click = [this, i] { optScoreDisplay_Click(i); };
+    }
+    chkShowGraphs.Click = [this] { chkShowGraphs_Click(); };
+    chkShowAggregateScore.Click = [this] { chkShowAggregateScore_Click(); };
+}
+
+void frmBrenica::wireResults() {
     cmdComplement.Click = [this] { cmdComplement_Click(); };
     cmdExportResults.Click = [this] { cmdExportResults_Click(); };
-    for (int i = 0; i < optCompResults.Count(); ++i)
+    for (int i = 0; i < optCompResults.Count(); ++i) {
         optCompResults(i).Click = [this, i] { optCompResults_Click(i); };
+        flxCompResults(i).MouseMove = [this, i] { flxCompResults_MouseMove(i); };
+    }
+    flxBrenicSuite.MouseMove = [this] { flxBrenicSuite_MouseMove(); };
 }
 
 void frmBrenica::wireNumberBoxes() {

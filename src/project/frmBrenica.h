@@ -2,11 +2,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <array>
 #include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "entry/cell_editing.h"
+#include "entry/heading_tips.h"
 #include "entry/number_boxes.h"
 #include "entry/parameter_lists.h"
 #include "project/frmBrenicaControls.h"
@@ -133,8 +136,21 @@ public:
     // scoring/scores.cpp
     void CalculateScores();
 
+    // scoring/score_display.cpp
+    void flxScoresSort_MouseDown(int index);
+    void flxScoresSort_MouseMove(int index);
+    void optScoreDisplay_Click(int index);
+    void chkShowAggregateScore_Click();
+
     // scoring/summary_tables.cpp
     void flxSummary_CellChanged(int index, int row, int col);
+
+    // scoring/summary_editing.cpp
+    void tabCriteriaSummary_Click();
+    void chkAllowSummaryEdit_Click();
+    void flxSummary_BeforeEdit(int index, int row, int col, bool& cancel);
+    void flxSummary_ValidateEdit(int index, int row, int col, bool& cancel);
+    void flxSummary_MouseMove(int index);
 
     // scoring/grid_exchange.cpp
     /// All tables that can be exported, on the page where each is shown.
@@ -147,10 +163,18 @@ public:
     /// Writes the table as a grid text file, with the long names as headings where the table has them.
     void SaveTable(const ExportTable& table, const std::string& path);
 
+    // scoring/grid_import.cpp
+    void ImportData(int importCase, const std::string& path, bool firstLineIsHeading);
+    int GetCheckData(std::vector<std::string>& fields);
+
     // selection/complementarity.cpp
     void cmdComplement_Click();
     void InitComplementarity();
+
+    // selection/results_display.cpp
     void optCompResults_Click(int index);
+    void flxCompResults_MouseMove(int index);
+    void flxBrenicSuite_MouseMove();
 
     // selection/results_export.cpp
     void cmdExportResults_Click();
@@ -159,6 +183,12 @@ public:
     void UpdateSummaryGraphs();
     void tabGraphSummary_Click();
     void UpdateScoreGraphs();
+    void chkShowGraphs_Click();
+
+    // graphs/graph_commands.cpp
+    /// The chart that the user sees; nothing where there is none.
+    ui::Chart* GetCurrentChart();
+    void MenuSelectionGraph(std::string_view action);
 
     modGlobal& Global() const { return global_; }
 
@@ -168,8 +198,10 @@ private:
     void wireMenu();
     void wireLists();
     void wireCriteria();
-    void wireTables();
     void wireNumberBoxes();
+    void wireSummaryTables();
+    void wireScores();
+    void wireResults();
 
     // project/form_load.cpp
     void Form_Load();
@@ -259,6 +291,18 @@ private:
     // entry/number_boxes.cpp
     std::vector<NumberBox> makeNumberBoxes();
 
+    // entry/cell_editing.cpp
+    std::vector<CellEditing> makeCellEditings();
+    void wireCellEditing();
+    static void offerItems(const CellEditing& editing, int col);
+    void filterCellKey(const CellEditing& editing, int col, int& key);
+    void validateCell(const CellEditing& editing, int col, bool& cancel);
+
+    // entry/heading_tips.cpp
+    std::vector<HeadingTips> makeHeadingTips();
+    void wireHeadingTips();
+    static void headingTips_MouseMove(HeadingTips& tips);
+
     // scoring/validation_gates.cpp
     bool removeBlankRows(ui::Grid& grid, int column, const char* prompt, void (frmBrenica::*remove)(int));
     bool validateHumanActivities();
@@ -280,6 +324,14 @@ private:
     void levelOfUse_Changed(const ParameterList& list, int row, int col);
     void threatRating_Changed(int row, int col);
 
+    // scoring/summary_editing.cpp
+    struct CrossTableTips;
+    std::string areaItems(int col) const;
+    std::string summaryTip(int index, int row, int col) const;
+
+    // scoring/grid_import.cpp
+    void appendRecord(int importCase, const std::vector<std::string>& fields);
+
     // selection/results_export.cpp
     void printResult(std::string_view line);
     void printRanking();
@@ -287,12 +339,29 @@ private:
     void printPasses();
     void printCoverage();
 
-    // graphs
+    // graphs/graph_commands.cpp
+    void saveGraph(ui::Chart& chart);
+    void printGraph(ui::Chart& chart);
     void setUpChart(ui::Chart& chart, const char* title, const char* xAxis, const char* yAxis);
 
     ui::Files& files_;
     modGlobal& global_;
     std::vector<ParameterList> parameterLists_;
     std::vector<NumberBox> numberBoxes_;
+    std::vector<CellEditing> cellEditings_;
+    std::vector<HeadingTips> headingTips_;
     std::vector<ExportTable> exportTables_;
+
+    // What the mouse handlers remember from event to event.
+    struct SortMemory {
+        int Index = 0;
+        int Row = 0;
+        int Col = 0;
+        std::array<bool, 2> Sorted{};  ///< the grid has been sorted by a click
+    };
+    SortMemory sortMemory_;
+    TipMemory scoreTips_;
+    TipMemory summaryTips_;
+    TipMemory resultTips_;
+    TipMemory suiteTips_;
 };

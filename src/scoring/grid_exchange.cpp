@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Brenica developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "entry/modErrorHandling.h"
+#include "entry/modGeneralUtilities.h"
 #include "project/frmBrenica.h"
 #include "ui/text.h"
 
@@ -122,26 +123,47 @@ bool frmBrenica::userWantsFirst() {
 
 /// Up to the moment when the file work starts a failure, Cancel above all, ends the command silently.
 void frmBrenica::MenuSelectionDataGrid(std::string_view command) {
+    const bool import = ui::equalsIgnoringCase(command, "Import");
     const ExportTable* table = nullptr;
+    bool heading = false;
     try {
         table = GetCurrentGrid(command);
         if (table == nullptr) return showNoGrid(command);
         cdgFileDialog.Filter = "Grid Data Files (*.txt)|*.txt";
         cdgFileDialog.DefaultExt = ".txt";
-        cdgFileDialog.FileName = table->FileName;
-        cdgFileDialog.ShowSave();
+        if (import) {
+            cdgFileDialog.FileName.clear();
+            cdgFileDialog.ShowOpen();
+            heading = modGeneralUtilities::AskYesNo(
+                platform(), "Does the first row in the data file contain header information?", "Header Data");
+        } else {
+            cdgFileDialog.FileName = table->FileName;
+            cdgFileDialog.ShowSave();
+        }
     } catch (...) {
         return SwallowError();
     }
     try {
-        SaveTable(*table, cdgFileDialog.FileName);
+        if (import) {
+            ImportData(table->ImportCase, cdgFileDialog.FileName, heading);
+        } else {
+            SaveTable(*table, cdgFileDialog.FileName);
+        }
         cdgFileDialog.InitDir.clear();
     } catch (...) {
+        constexpr int ImportFileNumber = 1;
+        succeeds([&] { files_.Close(ImportFileNumber); });
         ReportError(9999, "Brenica.MenuSelectionDataGrid", "");
     }
 }
 
 void frmBrenica::showNoGrid(std::string_view command) {
-    if (!ui::equalsIgnoringCase(command, "Export")) return;
-    platform().showMessage("Cannot export current data grid.", "Grid error", ui::MessageIcon::Exclamation);
+    const auto show = [&](const char* text) {
+        platform().showMessage(text, "Grid error", ui::MessageIcon::Exclamation);
+    };
+    if (ui::equalsIgnoringCase(command, "Export")) {
+        show("Cannot export current data grid.");
+    } else if (CurrentMainTab >= 3) {
+        show("Cannot import data into current grid.");
+    }
 }

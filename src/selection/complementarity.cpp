@@ -67,9 +67,3 @@ void frmBrenica::InitComplementarity() try {
 } catch (...) {
     ReportError(9999, "Brenica.InitComplementarity", "");
 }
-
-void frmBrenica::optCompResults_Click(int index) try {
-    for (int i = 0; i < flxCompResults.Count(); ++i) flxCompResults(i).Visible(i == index);
-} catch (...) {
-    ReportError(9999, "Brenica.optCompResults_Click", "");
-}

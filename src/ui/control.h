@@ -24,6 +24,7 @@ enum class ControlKind {
     Grid,
     Chart,
     MenuItem,
+    Picture,
 };
 
 /// What a form's design gives a control before any code runs.

@@ -11,6 +11,12 @@ namespace ui {
 FormWindow::FormWindow(Platform& platform, std::string name)
     : Control(*this, std::move(name)), platform_(platform), separator_(platform.decimalSeparator()) {}
 
+void FormWindow::UserResize(ui::WindowState state, int left, int top, int width, int height) {
+    windowState_ = state;
+    if (state != ui::WindowState::Minimized) Move(left, top, width, height);
+    Resize();
+}
+
 bool FormWindow::CommitOpenEditor() { return editingGrid_ == nullptr || editingGrid_->UserCommitEdit(); }
 
 }  // namespace ui

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "ui/control.h"
+#include "ui/event.h"
 
 namespace ui {
 
@@ -19,6 +20,11 @@ class FormWindow : public Control {
 public:
     FormWindow(Platform& platform, std::string name);
 
+    Event<> Click;
+    Event<> KeyPress;
+    /// Fired when the user or the system has given the window another size or state.
+    Event<> Resize;
+
     std::span<Control* const> Controls() const { return controls_; }
     Platform& GetPlatform() const { return platform_; }
     DecimalSeparator Separator() const { return separator_; }
@@ -29,6 +35,13 @@ public:
     /// Asks for the end of the window. The event loop reads the flag.
     void Unload() { unloaded_ = true; }
     bool Unloaded() const { return unloaded_; }
+
+    /// A click beside all controls, and a key of any kind.
+    void UserClick() { Click(); }
+    void UserKeyPress() { KeyPress(); }
+    void UserResize(ui::WindowState state, int left, int top, int width, int height);
+    /// The window's close box: asks nothing.
+    void UserClose() { Unload(); }
 
     /// The grid with the open cell editor, if any.
     Grid* EditingGrid() const { return editingGrid_; }

@@ -19,6 +19,13 @@ public:
         : Control(container, ControlKind::Frame, std::move(name), std::move(design)) {}
 };
 
+/// A picture that the program brings along, known to the platform by the control's name.
+class Picture : public Control {
+public:
+    Picture(Control& container, std::string name, Design design = {})
+        : Control(container, ControlKind::Picture, std::move(name), std::move(design)) {}
+};
+
 class CommandButton : public Control {
 public:
     CommandButton(Control& container, std::string name, Design design = {})

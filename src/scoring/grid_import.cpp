@@ -1,0 +1,108 @@
+// SPDX-FileCopyrightText: 2026 The Brenica developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <algorithm>
+
+#include "entry/modErrorHandling.h"
+#include "project/frmBrenica.h"
+#include "ui/text.h"
+
+namespace {
+
+constexpr int ImportFileNumber = 1;
+constexpr int LastCase = 6;
+
+/// How the fields of a record go to the columns of its row from column 1 on: as they are, or without the number that
+/// stands before them.
+struct RecordForm {
+    int Fields;
+    enum { Plain, Numbered, NumberedIfNumeric } Kind;
+};
+
+const std::vector<RecordForm>& formsOf(int importCase) {
+    using enum decltype(RecordForm::Kind);
+    static const std::vector<RecordForm> Species = {{1, Plain}, {2, Plain}, {3, Numbered}};
+    static const std::vector<RecordForm> Units = {
+        {1, Plain}, {2, NumberedIfNumeric}, {3, NumberedIfNumeric}, {4, Numbered}};
+    static const std::vector<RecordForm> Activities = {{1, Plain}, {3, Plain}, {4, Numbered}};
+    static const std::vector<RecordForm> None = {};
+    switch (importCase) {
+        case 1: return Species;
+        case 2:
+        case 3: return Units;
+        case 4: return Activities;
+        default: return None;
+    }
+}
+
+/// The fields that go to the row; none for a record of a form that the list does not know.
+std::vector<std::string> fieldsToStore(int importCase, const std::vector<std::string>& fields,
+                                       ui::DecimalSeparator separator) {
+    // A breakpoint or a function stands alone or second.
+    const bool oneColumn = importCase == 5 || importCase == 6;
+    if (oneColumn) return {fields.size() == 1 ? fields[0] : fields[1]};
+    for (const RecordForm& form : formsOf(importCase)) {
+        if (form.Fields != static_cast<int>(fields.size())) continue;
+        const bool numbered =
+            form.Kind == RecordForm::Numbered ||
+            (form.Kind == RecordForm::NumberedIfNumeric && ui::isNumeric(fields[0], separator));
+        return {fields.begin() + (numbered ? 1 : 0), fields.end()};
+    }
+    return {};
+}
+
+}  // namespace
+
+/// Appends a row for each line of a grid text file; an empty line ends the import.
+void frmBrenica::ImportData(int importCase, const std::string& path, bool firstLineIsHeading) try {
+    files_.Open(path, ui::FileMode::Input, ImportFileNumber);
+    std::vector<std::string> fields;
+    if (!files_.EndOfFile(ImportFileNumber) && firstLineIsHeading && GetCheckData(fields) == 0) return;
+    while (!files_.EndOfFile(ImportFileNumber)) {
+        if (GetCheckData(fields) == 0) return;
+        appendRecord(importCase, fields);
+    }
+    files_.Close(ImportFileNumber);
+} catch (...) {
+    ReportError(9999, "Brenica.ImportData", "");
+}
+
+/// Reads a record; 0 at an empty line, and then the file is closed.
+int frmBrenica::GetCheckData(std::vector<std::string>& fields) try {
+    const std::string line = files_.LineInput(ImportFileNumber, ui::LineEnds::AnyEnd);
+    fields.clear();
+    for (const std::string_view field : ui::split(line, '\t')) fields.emplace_back(field);
+    if (!line.empty()) return static_cast<int>(fields.size());
+    files_.Close(ImportFileNumber);
+    return 0;
+} catch (...) {
+    ReportError(9999, "Brenica.GetCheckData", "");
+}
+
+/// The dependent grids grow before the list does.
+void frmBrenica::appendRecord(int importCase, const std::vector<std::string>& fields) {
+    struct Target {
+        ui::Grid& Grid;
+        int& Total;
+    };
+    const Target targets[LastCase] = {{flxCandidateSpecies, global_.TotalSpecies},
+                                      {flxHabitatTypes, global_.TotalHabitatTypes},
+                                      {flxJurisUnits, global_.TotalJurisUnits},
+                                      {flxLandUses, global_.TotalLandUses},
+                                      {flxBins, global_.TotalBins},
+                                      {flxFunctions, global_.TotalFunctions}};
+    const auto& [grid, total] = targets[importCase - 1];
+    const int row = grid.Rows();
+    total = row;
+    switch (importCase) {
+        case 1: UpdateOtherSpeciesFlexGrids(1, row - 1); break;
+        case 2: UpdateOtherHabitatFlexGrids(1); break;
+        case 3: UpdateOtherJurisUnitFlexGrids(1); break;
+        case 4: UpdateOtherLandUseFlexGrids(1); break;
+        case 5: UpdateHRInfo(HomeRangeType); break;
+        default: UpdateOtherFunctionFlexGrids(1); break;
+    }
+    grid.Rows(row + 1);
+    grid.TextMatrix(row, list::Number, ui::toText(row));
+    const std::vector<std::string> stored = fieldsToStore(importCase, fields, separator());
+    for (std::size_t i = 0; i < stored.size(); ++i) grid.TextMatrix(row, static_cast<int>(i) + 1, stored[i]);
+}

@@ -1,0 +1,22 @@
+// SPDX-FileCopyrightText: 2026 The Brenica developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "ui/event.h"
+
+namespace ui {
+
+/// Fires again and again, every `Interval` milliseconds, while it is enabled. The event loop keeps the time and calls
+/// Elapse.
+class Timer {
+public:
+    Event<> Elapsed;
+    int Interval = 0;
+    bool Enabled = false;
+
+    void Elapse() {
+        if (Enabled) Elapsed();
+    }
+};
+
+}  // namespace ui

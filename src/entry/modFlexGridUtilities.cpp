@@ -8,6 +8,7 @@
 #include "entry/modGeneralUtilities.h"
 #include "project/columns.h"
 #include "project/constant_tables.h"
+#include "ui/arrays.h"
 #include "ui/form_window.h"
 #include "ui/text.h"
 
@@ -28,10 +29,9 @@ void chooseYesNo(ui::ComboBox& box, const std::string& text) {
 
 /// Position of the first label that equals the text without regard to case, -1 where none does.
 template <class Labels>
-int labelIndex(const Labels& labels, std::size_t count, const std::string& text) {
-    for (std::size_t i = 0; i < count; ++i) {
-        if (i >= labels.size()) ui::raise(ui::ErrorNumber::SubscriptOutOfRange);
-        if (ui::equalsIgnoringCase(labels[i], text)) return static_cast<int>(i);
+int labelIndex(const Labels& labels, int count, const std::string& text) {
+    for (int i = 0; i < count; ++i) {
+        if (ui::equalsIgnoringCase(ui::elementAt(labels, i), text)) return i;
     }
     return -1;
 }
@@ -41,14 +41,14 @@ void loadHomeRange(const std::string& homeRange, const AreaControls& controls) {
         case 0: controls.ContinuousHR.Text(homeRange.empty() ? "0" : homeRange); break;
         case 1:
             controls.DefaultBins.ListIndex(
-                homeRange.empty() ? -1 : labelIndex(DefaultBinLabels, DefaultBinLabels.size(), homeRange));
+                homeRange.empty()
+                    ? -1
+                    : labelIndex(DefaultBinLabels, static_cast<int>(DefaultBinLabels.size()), homeRange));
             break;
         case 2:
             if (controls.TotalBins < 1) break;
             controls.UserBins.ListIndex(
-                homeRange.empty() ? -1
-                                  : labelIndex(controls.UserBinLabels,
-                                               static_cast<std::size_t>(controls.TotalBins), homeRange));
+                homeRange.empty() ? -1 : labelIndex(controls.UserBinLabels, controls.TotalBins, homeRange));
             break;
         default: break;
     }
@@ -110,7 +110,7 @@ double GetAreaTotal(const ui::Grid& grid, int count, std::vector<double>& areas)
         if (grid.TextMatrix(row, list::Area).empty()) return count;
         const double area = grid.Real(row, list::Area);
         sum += area;
-        areas.at(static_cast<std::size_t>(row) - 1) = area;
+        ui::elementAt(areas, row - 1) = area;
     }
     return sum;
 } catch (...) {

@@ -74,8 +74,9 @@ void frmBrenica::flxLandUses_BeforeRowColChange(int oldRow, int oldCol) try {
     if (oldRow <= 0 || (oldCol != list::Urgency && oldCol != list::Probability)) return;
     if (flxLandUses.TextMatrix(oldRow, list::Urgency).empty()) return;
     if (flxLandUses.TextMatrix(oldRow, list::Probability).empty()) return;
-    const bool urgent = flxLandUses.Long(oldRow, list::Urgency) == MostUrgent;
-    if (!urgent || flxLandUses.Long(oldRow, list::Probability) == 1) return;
+    const int urgency = flxLandUses.Long(oldRow, list::Urgency);
+    const int probability = flxLandUses.Long(oldRow, list::Probability);
+    if (urgency != MostUrgent || probability == 1) return;
     platform().showMessage("With a value of 3 for Urgency the Probability of Occurrence must be 1.",
                            "Invalid value", ui::MessageIcon::Exclamation);
     flxLandUses.TextMatrix(oldRow, list::Probability, "1");

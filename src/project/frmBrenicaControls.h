@@ -177,7 +177,7 @@ struct frmBrenicaControls : ui::FormWindow {
     ui::Grid flxFunctionality{fraCriteria(3), "flxFunctionality"};
     ui::Grid flxSocioEcon{fraCriteria(4), "flxSocioEcon"};
     ui::Label lblCCS{fraTabContents(2), "lblCCS", {.Caption = "Current Conservation Status:"}};
-    ui::TextBox txtCCS{fraTabContents(2), "txtCCS", "1"};
+    ui::TextBox txtCCS{fraTabContents(2), "txtCCS", "0"};
     ui::Label lblDataQuality{fraTabContents(2), "lblDataQuality", {.Caption = "Data quality:"}};
     ui::ComboBox cbxDataQuality{
         fraTabContents(2),

@@ -80,10 +80,7 @@ void frmBrenica::optLandChar_Click(int index) try {
         optLandChar(CurrentLandChar).Value(true);
         return;
     }
-    fraLandCharInfo(index).Visible(true);
-    for (int i = 0; i < fraLandCharInfo.Count(); ++i) {
-        if (i != index) fraLandCharInfo(i).Visible(false);
-    }
+    for (int i = 0; i < fraLandCharInfo.Count(); ++i) fraLandCharInfo(i).Visible(i == index);
     CurrentLandChar = index;
 } catch (...) {
     ReportError(9999, "Brenica.optLandChar_Click", "");

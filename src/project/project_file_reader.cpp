@@ -102,7 +102,7 @@ void ProjectFileReader::readLine(std::string_view line) {
         if (!ui::containsIgnoringCase(key, numbered.Name)) continue;
         if (numbered.Exception != nullptr && ui::equalsIgnoringCase(key, numbered.Exception)) continue;
         const std::string_view start = ui::firstCharacters(key, std::string_view(numbered.Name).size());
-        column_ = ui::toLong(ui::trim(key.substr(start.size())));
+        column_ = ui::toLong(ui::trim(key.substr(start.size())), form_.Separator());
         key = numbered.Name;
     }
     if (value.empty()) return;

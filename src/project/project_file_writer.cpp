@@ -74,9 +74,9 @@ void frmBrenica::SaveProject(const std::string& path) try {
 
     const int species = global_.TotalSpecies;
     printColumn(projectfile::HabitatUse, flxSummary(summary::HabitatsBySpecies), use::Level,
-                global_.TotalHabitatTypes * species);
+                ui::multiplyLong(global_.TotalHabitatTypes, species));
     printColumn(projectfile::JurisUnitUse, flxSummary(summary::JurisUnitsBySpecies), use::Level,
-                global_.TotalJurisUnits * species);
+                ui::multiplyLong(global_.TotalJurisUnits, species));
     printColumn(projectfile::Dispersal, flxSummary(summary::Area), area::Dispersal, species);
     printColumn(projectfile::Connectivity, flxSummary(summary::Area), area::Connectivity, species);
     printColumn(projectfile::HomeRanges, flxSummary(summary::Area), area::HomeRange, species);

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Brenica developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "project/frmBrenica.h"
+#include "ui/arrays.h"
 
 /// Files of version 1 lack the proportion of the landscape and the conservation status: both get a first value.
 
@@ -16,7 +17,7 @@ double proportionUsed(const ui::Grid& table, int species, int units, const std::
         double area = 0;
         for (int unit = 1; unit <= units; ++unit) {
             const bool used = !table.TextMatrix(species, unit).empty() && table.Real(species, unit) != 0;
-            if (used) area += areas.at(static_cast<std::size_t>(unit) - 1);
+            if (used) area += ui::elementAt(areas, unit - 1);
         }
         return ui::roundTo(area / total, Places);
     }

@@ -9,6 +9,7 @@
 #include "entry/modErrorHandling.h"
 #include "project/columns.h"
 #include "project/constant_tables.h"
+#include "ui/arrays.h"
 #include "ui/text.h"
 
 namespace modBrenicaUtilities {
@@ -27,16 +28,14 @@ double sumOfLevels(int species, int units, const ui::Grid& grid) {
 double sumOfRow(int species, int lastCol, const ui::Grid& grid) {
     double sum = 0;
     for (int col = 1; col <= lastCol; ++col) sum += grid.Real(species, col);
-    return sum;
+    return ui::finite(sum);
 }
 
 /// Position of the bin with this label, from 1; 0 where none has it.
 template <class Labels>
 int binOf(const std::string& label, const Labels& labels, int count) {
     for (int i = 0; i < count; ++i) {
-        const auto index = static_cast<std::size_t>(i);
-        if (index >= labels.size()) ui::raise(ui::ErrorNumber::SubscriptOutOfRange);
-        if (ui::equalsIgnoringCase(labels[index], label)) return i + 1;
+        if (ui::equalsIgnoringCase(ui::elementAt(labels, i), label)) return i + 1;
     }
     return 0;
 }
@@ -110,7 +109,8 @@ void ScaleHomeRanges(std::vector<double>& scaled, const ui::Grid& areaGrid, int 
         if (found > 0) bin = found;
         homeRange = bin;
     }
-    for (double& homeRange : scaled) homeRange = maximum > 0 ? homeRange * HomeRangeScale / maximum : 0.0;
+    for (double& homeRange : scaled)
+        homeRange = maximum > 0 ? ui::finite(homeRange * HomeRangeScale / maximum) : 0.0;
 } catch (...) {
     ReportError(9999, "BrenicaUtilities.ScaleHomeRanges", "");
 }
@@ -119,7 +119,7 @@ double GetHeteroScore(int species, const ui::Grid& habitats, const ui::Grid& zon
                       const modGlobal& global) try {
     const double habitatSum = sumOfLevels(species, global.TotalHabitatTypes, habitats);
     const double zoneSum = sumOfLevels(species, global.TotalJurisUnits, zones);
-    return habitatSum + habitatSum + zoneSum;
+    return ui::finite(habitatSum + habitatSum + zoneSum);
 } catch (...) {
     ReportError(9999, "BrenicaUtilities.GetHeteroScore", "");
 }
@@ -129,14 +129,14 @@ double GetAreaScore(int species, double scaledHomeRange, const ui::Grid& areaGri
     if (ui::equalsIgnoringCase(areaGrid.TextMatrix(species, area::Dispersal), "Y")) areaScore += 1.0;
     if (ui::equalsIgnoringCase(areaGrid.TextMatrix(species, area::Connectivity), "Y")) areaScore += 1.0;
     areaScore += scaledHomeRange;
-    return areaScore + areaGrid.Real(species, area::Occupied);
+    return ui::finite(areaScore + areaGrid.Real(species, area::Occupied));
 } catch (...) {
     ReportError(9999, "BrenicaUtilities.GetAreaScore", "");
 }
 
 double GetVulnerabilityScore(int species, const ui::Grid& vulnerabilityGrid) try {
     const double status = vulnerabilityGrid.Real(species, vulnerability::ConservationStatus);
-    return (1.0 - status) + vulnerabilityGrid.Real(species, vulnerabilityGrid.Cols() - 2);
+    return ui::finite((1.0 - status) + vulnerabilityGrid.Real(species, vulnerabilityGrid.Cols() - 2));
 } catch (...) {
     ReportError(9999, "BrenicaUtilities.GetVulnerabilityScore", "");
 }

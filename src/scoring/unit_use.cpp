@@ -3,6 +3,7 @@
 #include "entry/modErrorHandling.h"
 #include "project/frmBrenica.h"
 #include "scoring/totals_block.h"
+#include "ui/arrays.h"
 #include "ui/text.h"
 
 namespace {
@@ -73,9 +74,7 @@ double areaUsed(const OccupancySource& source, int species) {
         succeeds([&] {
             if (source.Table.TextMatrix(species, unit).empty() || source.Table.Real(species, unit) == 0)
                 return;
-            const auto index = static_cast<std::size_t>(unit) - 1;
-            if (index >= source.Areas.size()) ui::raise(ui::ErrorNumber::SubscriptOutOfRange);
-            area += source.Areas[index];
+            area = ui::finite(area + ui::elementAt(source.Areas, unit - 1));
         });
     }
     return area;

@@ -69,7 +69,7 @@ double RecalcHeteroScore(int species, const ui::Grid& habitatGrid, const ui::Gri
                          const Flags& habitatCovered, const Flags& zoneCovered) try {
     const double habitats = uncoveredLevels(species, habitatGrid, habitatCovered);
     const double zones = uncoveredLevels(species, zoneGrid, zoneCovered);
-    return habitats + habitats + zones;
+    return ui::finite(habitats + habitats + zones);
 } catch (...) {
     ReportError(9999, "BrenicaUtilities.RecalcHeteroScore", "");
 }
@@ -85,7 +85,7 @@ double RecalcVulnerabilityScore(int species, const ui::Grid& threatGrid, double 
         sum += (rating(threat::Urgency) + rating(threat::Recovery)) * rating(threat::Severity) *
                rating(threat::Proportion) * rating(threat::Probability);
     }
-    return (1 - conservationStatus) + sum;
+    return ui::finite((1 - conservationStatus) + sum);
 } catch (...) {
     ReportError(9999, "BrenicaUtilities.RecalcVulnerabilityScore", "");
 }

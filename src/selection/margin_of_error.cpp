@@ -4,6 +4,7 @@
 #include "project/columns.h"
 #include "selection/result_colours.h"
 #include "selection/selection.h"
+#include "ui/arrays.h"
 #include "ui/text.h"
 
 /// Two species whose aggregates lie close together are not told apart by a small difference: the user decides.
@@ -27,7 +28,7 @@ struct MarginBand {
     int last() const { return PickOffset + Count; }
     bool survives(int offset) const {
         const int species = Grid.Long(BlockStartRow + offset, result::Candidate);
-        return !SpeciesRemoved.at(static_cast<std::size_t>(species) - 1);
+        return !static_cast<bool>(ui::elementAt(SpeciesRemoved, species - 1));
     }
 };
 
@@ -159,7 +160,7 @@ int Check4ErrorMargin(double errorMargin, ui::Grid& grid, int blockStartRow, int
                       const Flags& speciesRemoved, int& pickOffset) try {
     const auto removed = [&](int offset) {
         const int species = grid.Long(blockStartRow + offset, result::Candidate);
-        return speciesRemoved.at(static_cast<std::size_t>(species) - 1);
+        return static_cast<bool>(ui::elementAt(speciesRemoved, species - 1));
     };
     int k = 0;
     double top = 0;

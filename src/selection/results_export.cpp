@@ -4,6 +4,7 @@
 #include "project/frmBrenica.h"
 #include "selection/result_colours.h"
 #include "selection/selection.h"
+#include "ui/arrays.h"
 #include "ui/text.h"
 
 namespace {
@@ -45,6 +46,7 @@ std::string uncoveredLine(const char* prefix, const ui::Grid& view, const ui::Gr
 void frmBrenica::cmdExportResults_Click() try {
     cdgFileDialog.FileName = "ResultsData.txt";
     cdgFileDialog.Filter = "Text Files (*.txt)|*.txt";
+    cdgFileDialog.DefaultExt = ".txt";
     cdgFileDialog.ShowSave();
     files_.Open(cdgFileDialog.FileName, ui::FileMode::Output, ResultsFileNumber);
     printRanking();
@@ -52,6 +54,7 @@ void frmBrenica::cmdExportResults_Click() try {
     printPasses();
     printCoverage();
     files_.Close(ResultsFileNumber);
+    cdgFileDialog.InitDir.clear();
 } catch (...) {
     SwallowError();
 }
@@ -66,9 +69,7 @@ void frmBrenica::printRanking() {
     }
     printResult("Brenic Species by Rank with Aggregate Score:");
     for (int rank = 1; rank <= global_.TotalSpecies; ++rank) {
-        const auto index = static_cast<std::size_t>(rank) - 1;
-        if (index >= global_.SpeciesRanks.size()) ui::raise(ui::ErrorNumber::SubscriptOutOfRange);
-        const int row = global_.SpeciesRanks[index];
+        const int row = ui::elementAt(global_.SpeciesRanks, rank - 1);
         printResult(ui::toText(rank) + ". " + flxCandidateSpecies.TextMatrix(row, list::Name) + "  (" +
                     flxScores(0).TextMatrix(row, score::Aggregate) + ")");
     }

@@ -6,6 +6,7 @@
 #include "project/columns.h"
 #include "selection/result_colours.h"
 #include "selection/selection.h"
+#include "ui/arrays.h"
 #include "ui/text.h"
 
 namespace modBrenicaUtilities {
@@ -74,9 +75,9 @@ private:
                 results_.Long(row, result::AddThreats)};
     }
     int candidateOf(int row) const { return results_.Long(row, result::Candidate); }
-    bool isRemoved(int species) const { return speciesRemoved_.at(at(species)); }
+    bool isRemoved(int species) const { return ui::elementAt(speciesRemoved_, species - 1); }
     void remove(int species) {
-        speciesRemoved_.at(at(species)) = true;
+        ui::elementAt(speciesRemoved_, species - 1) = true;
         ++removedCount_;
     }
     bool allCovered() const {
@@ -134,11 +135,10 @@ void SelectionRun::listUnits() {
     const auto list = [](ui::Grid& view, const ui::Grid& names, int count) {
         view.Rows(count + 1);
         for (int i = 1; i <= count; ++i) view.TextMatrix(i, 0, names.TextMatrix(i, list::Name));
+        view.AutoSize(0, 1);
     };
     list(grids_.HabitatsCovered, grids_.HabitatTypes, global_.TotalHabitatTypes);
-    grids_.HabitatsCovered.AutoSize(0, 1);
     list(grids_.JurisUnitsCovered, grids_.JurisUnits, global_.TotalJurisUnits);
-    grids_.JurisUnitsCovered.AutoSize(0, 1);
     // The first species' block of the threat table names the threats in their order.
     list(grids_.ThreatsCovered, grids_.Threats, global_.TotalLandUses);
 }

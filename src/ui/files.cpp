@@ -61,16 +61,20 @@ Files::OpenFile& Files::find(int number) {
     return found->second;
 }
 
-std::string Files::readAll(const std::string& path, std::FILE* stream) {
-    std::string content;
-    std::error_code ignored;
-    const auto size = std::filesystem::file_size(path, ignored);
-    if (!ignored) content.reserve(size);
+/// Reads an input file whole, at the first look into it.
+void Files::load(OpenFile& file) {
+    if (file.Mode != FileMode::Input || !file.Stream) return;
+    std::FILE* stream = file.Stream.get();
     std::array<char, 65536> block{};
-    while (const std::size_t count = std::fread(block.data(), 1, block.size(), stream))
-        content.append(block.data(), count);
+    errno = 0;
+    while (const std::size_t count = std::fread(block.data(), 1, block.size(), stream)) {
+        file.Content.append(block.data(), count);
+    }
     if (std::ferror(stream) != 0) raise(errorFor(errno, ErrorNumber::DeviceIoError));
-    return content;
+    file.Stream.reset();
+    if (std::string_view(file.Content).substr(0, ByteOrderMark.size()) == ByteOrderMark) {
+        file.Position = ByteOrderMark.size();
+    }
 }
 
 void Files::Open(const std::string& path, FileMode mode, int number) {
@@ -84,19 +88,16 @@ void Files::Open(const std::string& path, FileMode mode, int number) {
         errno = 0;
         file.Stream.reset(std::fopen(path.c_str(), mode == FileMode::Input ? "rb" : "wb"));
         if (!file.Stream) raise(errorFor(errno, ErrorNumber::PathFileAccessError));
-        if (mode == FileMode::Input) {
-            file.Content = readAll(path, file.Stream.get());
-            file.Stream.reset();
-            if (std::string_view(file.Content).substr(0, ByteOrderMark.size()) == ByteOrderMark)
-                file.Position = ByteOrderMark.size();
-        }
         open_.emplace(number, std::move(file));
     });
 }
 
 bool Files::EndOfFile(int number) {
-    const OpenFile& file = find(number);
-    return file.Position >= file.Content.size();
+    OpenFile& file = find(number);
+    return noting(file.Path, file.Line, [&] {
+        load(file);
+        return file.Position >= file.Content.size();
+    });
 }
 
 std::string Files::LineInput(int number, LineEnds ends) {
@@ -135,12 +136,11 @@ void Files::Close(int number) {
     OpenFile& file = found->second;
     noting(file.Path, file.Line, [&] {
         prepare(Operation::Close);
-        std::FILE* stream = file.Stream.release();
-        const std::string path = file.Path;
-        open_.erase(found);
         errno = 0;
+        std::FILE* stream = file.Stream.release();
         if (stream != nullptr && std::fclose(stream) != 0) raise(errorFor(errno, ErrorNumber::DeviceIoError));
     });
+    open_.erase(found);
 }
 
 }  // namespace ui

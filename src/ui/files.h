@@ -45,7 +45,7 @@ public:
     bool EndOfFile(int number);
     std::string LineInput(int number, LineEnds ends);
     void Print(int number, std::string_view line);
-    /// Closing a number that is not open does nothing.
+    /// Closing a number that is not open does nothing; one that fails to close stays open.
     void Close(int number);
 
     const std::optional<FileFault>& LastFault() const { return lastFault_; }
@@ -60,14 +60,14 @@ private:
     struct OpenFile {
         std::string Path;
         FileMode Mode = FileMode::Input;
-        std::unique_ptr<std::FILE, CloseStream> Stream;  // output only
+        std::unique_ptr<std::FILE, CloseStream> Stream;  // of an input file until it is first read
         std::string Content;                             // input only, as read from the disk
         std::size_t Position = 0;
         int Line = 0;
     };
 
     OpenFile& find(int number);
-    std::string readAll(const std::string& path, std::FILE* stream);
+    static void load(OpenFile& file);
     void prepare(Operation operation) const;
     template <class Step>
     decltype(auto) noting(const std::string& path, int line, Step step);

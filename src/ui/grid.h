@@ -147,6 +147,7 @@ public:
     bool UserMoveTo(int row, int col);
     /// Opens the editor on the current cell with its whole text selected, unless BeforeEdit refuses.
     bool UserBeginEdit();
+    /// Types a key into the editor; Enter, Tab and the arrows commit and move, Escape cancels.
     void UserEditKey(int key);
     bool UserEditPaste(std::string_view text);
     bool UserCommitEdit();

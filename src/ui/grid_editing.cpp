@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Brenica developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <algorithm>
+#include <optional>
 
 #include "ui/form_window.h"
 #include "ui/grid.h"
@@ -11,6 +12,24 @@ namespace ui {
 namespace {
 
 constexpr char ListSeparator = '|';
+
+/// Where a key that ends an edit takes the current cell.
+struct Step {
+    int Rows;
+    int Cols;
+};
+
+std::optional<Step> moveOf(int key) {
+    switch (key) {
+        case EnterKey:
+        case DownKey: return Step{1, 0};
+        case UpKey: return Step{-1, 0};
+        case TabKey:
+        case RightKey: return Step{0, 1};
+        case LeftKey: return Step{0, -1};
+        default: return std::nullopt;
+    }
+}
 
 }  // namespace
 
@@ -36,8 +55,8 @@ bool Grid::UserBeginEdit() {
 void Grid::UserEditKey(int key) {
     if (!editing_) return;
     if (key == EscapeKey) return UserCancelEdit();
-    if (key == EnterKey || key == TabKey) {
-        UserCommitEdit();
+    if (const auto step = moveOf(key)) {
+        if (UserCommitEdit()) UserMoveTo(row_ + step->Rows, col_ + step->Cols);
         return;
     }
     KeyPressEdit(row_, col_, key);

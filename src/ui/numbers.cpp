@@ -169,7 +169,7 @@ double leadingNumber(std::string_view text) {
 std::string toText(std::int32_t value) { return std::to_string(value); }
 
 std::string toText(double value) {
-    if (!std::isfinite(value)) raise(ErrorNumber::Overflow);
+    finite(value);
     constexpr double LargestShort = 1e9;
     if (std::abs(value) < LargestShort && value == std::nearbyint(value))
         return toText(static_cast<std::int32_t>(value));
@@ -202,17 +202,26 @@ std::string toText(double value) {
     return text + digits.substr(0, whole) + "." + digits.substr(whole);
 }
 
+double finite(double value) {
+    if (!std::isfinite(value)) raise(ErrorNumber::Overflow);
+    return value;
+}
+
 double roundTo(double value, int places) {
     const double scale = PowersOfTen.at(static_cast<std::size_t>(places));
-    const double rounded = std::nearbyint(value * scale) / scale;
-    if (!std::isfinite(rounded)) raise(ErrorNumber::Overflow);
-    return rounded;
+    return finite(std::nearbyint(value * scale) / scale);
 }
 
 std::int32_t addLong(std::int32_t left, std::int32_t right) {
     std::int32_t sum = 0;
     if (__builtin_add_overflow(left, right, &sum)) raise(ErrorNumber::Overflow);
     return sum;
+}
+
+std::int32_t multiplyLong(std::int32_t left, std::int32_t right) {
+    std::int32_t product = 0;
+    if (__builtin_mul_overflow(left, right, &product)) raise(ErrorNumber::Overflow);
+    return product;
 }
 
 std::int32_t divideLong(std::int32_t left, std::int32_t right) {

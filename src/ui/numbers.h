@@ -42,12 +42,16 @@ double leadingNumber(std::string_view text);
 std::string toText(double value);
 std::string toText(std::int32_t value);
 
+/// The result of real arithmetic; raises Overflow when it is no finite number.
+double finite(double value);
+
 /// `value` to `places` decimals, halves to even: times ten to the places, to the nearest whole, divided again.
 /// Raises Overflow for what is no finite number.
 double roundTo(double value, int places);
 
 /// Whole-number arithmetic that raises Overflow or DivisionByZero instead of wrapping.
 std::int32_t addLong(std::int32_t left, std::int32_t right);
+std::int32_t multiplyLong(std::int32_t left, std::int32_t right);
 std::int32_t divideLong(std::int32_t left, std::int32_t right);
 std::int32_t remainderLong(std::int32_t left, std::int32_t right);
 

@@ -11,6 +11,11 @@ inline constexpr int BackspaceKey = 8;
 inline constexpr int TabKey = 9;
 inline constexpr int EnterKey = 13;
 inline constexpr int EscapeKey = 27;
+// Keys that are no characters.
+inline constexpr int LeftKey = -1;
+inline constexpr int UpKey = -2;
+inline constexpr int RightKey = -3;
+inline constexpr int DownKey = -4;
 
 /// A line of text with a caret and a selection, both counted in characters. What a box and a cell editor share.
 class TextEditor {

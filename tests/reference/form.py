@@ -305,7 +305,7 @@ class frmBrenica(Lists, Criteria, Project, Scoring, Selection):
             (self.flxCompResults[2], self.flxJurisUnits, self.TotalJurisUnits, "Management Zones: "),
             (self.flxCompResults[3], self.flxLandUses, self.TotalLandUses, "Threats: "),
         ):
-            left = ", ".join(names.TextMatrix(u, 1) for u in range(1, count + 1) if view.TextMatrix(u, 1) == "")
-            if left != "":
-                lists.append(prefix + left)
+            left = [names.TextMatrix(u, 1) for u in range(1, count + 1) if view.TextMatrix(u, 1) == ""]
+            if left:  # a unit without a name is uncovered as well
+                lists.append(prefix + ", ".join(left))
         return [NOT_COVERED + "\r", *lists] if lists else [ALL_COVERED]

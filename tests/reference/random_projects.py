@@ -221,7 +221,7 @@ class Maker:
     def blankNames(self, lines):
         """Blank some names; species and habitats are asked about."""
         asked = ["Common Name"] * 3 + ["Habitat Type"] * 2 + ["Jurisdictional Unit", "Land Use", "Functions"]
-        for key in set(self.many(asked, self.rng.randint(1, 3))):
+        for key in dict.fromkeys(self.many(asked, self.rng.randint(1, 3))):
             values = self.values(lines, key)
             count = self.rng.randint(1, 2) if self.chance(0.9) else len(values)
             for _ in range(count):

@@ -24,28 +24,28 @@ void markFirstCovered(ui::Grid& unitGrid, int unit, int pickNumber) {
     unitGrid.CellBackColor(GetCellColor(pickNumber));
 }
 
-bool representsThreat(const ui::Grid& grid, double threatRepresentation,
+bool representsThreat(const NumberTable& scores, double threatRepresentation,
                       const std::vector<double>& threatMaxScores, int species, int threatNumber) {
     const double threshold = threatRepresentation * threatMaxScores[at(threatNumber)];
-    return threshold <= grid.Real(species, threatNumber + vulnerability::ThreatOffset);
+    return threshold <= scores.at(species, threatNumber + vulnerability::ThreatOffset);
 }
 
-double uncoveredLevels(int species, const ui::Grid& grid, const Flags& covered) {
+double uncoveredLevels(int species, const NumberTable& levels, const Flags& covered) {
     const int units = static_cast<int>(covered.size());
     double sum = 0;
     for (int unit = 1; unit <= units; ++unit) {
-        if (!covered[at(unit)]) sum += grid.Real(blockRow(species, units, unit), use::Level);
+        if (!covered[at(unit)]) sum += levels.at(blockRow(species, units, unit), use::Level);
     }
     return sum;
 }
 
 }  // namespace
 
-int GetUnitsUsed(const ui::Grid& grid, int unitCount, const Levels& thresholds, int species, int column,
+int GetUnitsUsed(const NumberTable& levels, int unitCount, const Levels& thresholds, int species, int column,
                  const Flags& covered) try {
     int additional = 0;
     for (int unit = 1; unit <= unitCount; ++unit) {
-        const double level = grid.Real(blockRow(species, unitCount, unit), column);
+        const double level = levels.at(blockRow(species, unitCount, unit), column);
         if (level >= thresholds[at(unit)] && !covered[at(unit)]) ++additional;
     }
     return additional;
@@ -53,11 +53,11 @@ int GetUnitsUsed(const ui::Grid& grid, int unitCount, const Levels& thresholds, 
     ReportError(9999, "BrenicaUtilities.GetUnitsUsed", "");
 }
 
-int GetThreatImpact(const ui::Grid& grid, double threatRepresentation,
+int GetThreatImpact(const NumberTable& scores, double threatRepresentation,
                     const std::vector<double>& threatMaxScores, int species, const Flags& covered) try {
     int additional = 0;
     for (int t = 1; t <= static_cast<int>(covered.size()); ++t) {
-        if (representsThreat(grid, threatRepresentation, threatMaxScores, species, t) && !covered[at(t)])
+        if (representsThreat(scores, threatRepresentation, threatMaxScores, species, t) && !covered[at(t)])
             ++additional;
     }
     return additional;
@@ -65,23 +65,23 @@ int GetThreatImpact(const ui::Grid& grid, double threatRepresentation,
     ReportError(9999, "BrenicaUtilities.GetThreatImpact", "");
 }
 
-double RecalcHeteroScore(int species, const ui::Grid& habitatGrid, const ui::Grid& zoneGrid,
+double RecalcHeteroScore(int species, const NumberTable& habitatLevels, const NumberTable& zoneLevels,
                          const Flags& habitatCovered, const Flags& zoneCovered) try {
-    const double habitats = uncoveredLevels(species, habitatGrid, habitatCovered);
-    const double zones = uncoveredLevels(species, zoneGrid, zoneCovered);
+    const double habitats = uncoveredLevels(species, habitatLevels, habitatCovered);
+    const double zones = uncoveredLevels(species, zoneLevels, zoneCovered);
     return ui::finite(habitats + habitats + zones);
 } catch (...) {
     ReportError(9999, "BrenicaUtilities.RecalcHeteroScore", "");
 }
 
-double RecalcVulnerabilityScore(int species, const ui::Grid& threatGrid, double conservationStatus,
+double RecalcVulnerabilityScore(int species, const NumberTable& ratings, double conservationStatus,
                                 const Flags& threatCovered) try {
     const int threats = static_cast<int>(threatCovered.size());
     double sum = 0;
     for (int t = 1; t <= threats; ++t) {
         if (threatCovered[at(t)]) continue;
         const int row = blockRow(species, threats, t);
-        const auto rating = [&](int col) { return threatGrid.Real(row, col); };
+        const auto rating = [&](int col) { return ratings.at(row, col); };
         sum += (rating(threat::Urgency) + rating(threat::Recovery)) * rating(threat::Severity) *
                rating(threat::Proportion) * rating(threat::Probability);
     }
@@ -90,10 +90,10 @@ double RecalcVulnerabilityScore(int species, const ui::Grid& threatGrid, double 
     ReportError(9999, "BrenicaUtilities.RecalcVulnerabilityScore", "");
 }
 
-void HighlightCoverUnitsUsed(const ui::Grid& grid, ui::Grid& unitGrid, int unitCount, int species,
+void HighlightCoverUnitsUsed(const NumberTable& levels, ui::Grid& unitGrid, int unitCount, int species,
                              const Levels& thresholds, Flags& covered, int column, int pickNumber) try {
     for (int unit = 1; unit <= unitCount; ++unit) {
-        if (grid.Real(blockRow(species, unitCount, unit), column) < thresholds[at(unit)]) continue;
+        if (levels.at(blockRow(species, unitCount, unit), column) < thresholds[at(unit)]) continue;
         covered[at(unit)] = true;
         markFirstCovered(unitGrid, unit, pickNumber);
     }
@@ -101,11 +101,11 @@ void HighlightCoverUnitsUsed(const ui::Grid& grid, ui::Grid& unitGrid, int unitC
     ReportError(9999, "BrenicaUtilities.HighlightCoverUnitsUsed", "");
 }
 
-void HighlightThreatsEncountered(const ui::Grid& grid, ui::Grid& unitGrid, double threatRepresentation,
+void HighlightThreatsEncountered(const NumberTable& scores, ui::Grid& unitGrid, double threatRepresentation,
                                  const std::vector<double>& threatMaxScores, int species, Flags& covered,
                                  int pickNumber) try {
     for (int t = 1; t <= static_cast<int>(covered.size()); ++t) {
-        if (!representsThreat(grid, threatRepresentation, threatMaxScores, species, t)) continue;
+        if (!representsThreat(scores, threatRepresentation, threatMaxScores, species, t)) continue;
         covered[at(t)] = true;
         markFirstCovered(unitGrid, t, pickNumber);
     }

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "project/modGlobal.h"
+#include "selection/number_table.h"
 #include "ui/grid.h"
 #include "ui/platform.h"
 
@@ -52,23 +53,23 @@ int SetupSelectionSpecies(ui::Platform& platform, modGlobal& global, ui::Grid& g
 std::string excludedHeading(int count);
 
 /// Units whose level of use by the species reaches the threshold and that are not covered yet.
-int GetUnitsUsed(const ui::Grid& grid, int unitCount, const Levels& thresholds, int species, int column,
+int GetUnitsUsed(const NumberTable& levels, int unitCount, const Levels& thresholds, int species, int column,
                  const Flags& covered);
 
 /// Threats for which the species' score reaches the given fraction of the highest, and that are not covered yet.
-int GetThreatImpact(const ui::Grid& grid, double threatRepresentation,
+int GetThreatImpact(const NumberTable& scores, double threatRepresentation,
                     const std::vector<double>& threatMaxScores, int species, const Flags& covered);
 
 /// The criterion scores over what is not covered yet.
-double RecalcHeteroScore(int species, const ui::Grid& habitatGrid, const ui::Grid& zoneGrid,
+double RecalcHeteroScore(int species, const NumberTable& habitatLevels, const NumberTable& zoneLevels,
                          const Flags& habitatCovered, const Flags& zoneCovered);
-double RecalcVulnerabilityScore(int species, const ui::Grid& threatGrid, double conservationStatus,
+double RecalcVulnerabilityScore(int species, const NumberTable& ratings, double conservationStatus,
                                 const Flags& threatCovered);
 
 /// Mark what the species represents as covered; a unit that no pick covered before gets the pick's number and colour.
-void HighlightCoverUnitsUsed(const ui::Grid& grid, ui::Grid& unitGrid, int unitCount, int species,
+void HighlightCoverUnitsUsed(const NumberTable& levels, ui::Grid& unitGrid, int unitCount, int species,
                              const Levels& thresholds, Flags& covered, int column, int pickNumber);
-void HighlightThreatsEncountered(const ui::Grid& grid, ui::Grid& unitGrid, double threatRepresentation,
+void HighlightThreatsEncountered(const NumberTable& scores, ui::Grid& unitGrid, double threatRepresentation,
                                  const std::vector<double>& threatMaxScores, int species, Flags& covered,
                                  int pickNumber);
 

@@ -40,7 +40,11 @@ public:
           habitatCovered_(static_cast<std::size_t>(global.TotalHabitatTypes)),
           jurisUnitCovered_(static_cast<std::size_t>(global.TotalJurisUnits)),
           landUseCovered_(static_cast<std::size_t>(global.TotalLandUses)),
-          threatMaxScores_(static_cast<std::size_t>(global.TotalLandUses)) {}
+          threatMaxScores_(static_cast<std::size_t>(global.TotalLandUses)),
+          habitatLevels_(grids.HabitatLevels, use::Level, 1),
+          jurisUnitLevels_(grids.JurisUnitLevels, use::Level, 1),
+          ratings_(grids.Threats, threat::Urgency, threat::Proportion - threat::Urgency + 1),
+          threatScores_(grids.ThreatScores, vulnerability::ThreatOffset + 1, global.TotalLandUses) {}
 
     void run() {
         findThreatMaxScores();
@@ -105,6 +109,10 @@ private:
     Flags jurisUnitCovered_;
     Flags landUseCovered_;
     std::vector<double> threatMaxScores_;
+    NumberTable habitatLevels_;
+    NumberTable jurisUnitLevels_;
+    NumberTable ratings_;
+    NumberTable threatScores_;
     /// Highest recalculated heterogeneity and vulnerability of the whole run: later passes are measured by early ones.
     std::array<double, 2> recalcMaxScores_{};
 
@@ -125,7 +133,7 @@ void SelectionRun::findThreatMaxScores() {
     for (int t = 1; t <= global_.TotalLandUses; ++t) {
         double& maximum = threatMaxScores_[at(t)];
         for (int species = 1; species <= global_.TotalSpecies; ++species) {
-            const double score = grids_.ThreatScores.Real(species, t + vulnerability::ThreatOffset);
+            const double score = threatScores_.at(species, t + vulnerability::ThreatOffset);
             if (score > maximum) maximum = score;
         }
     }
@@ -158,13 +166,13 @@ void SelectionRun::startBlock(bool first) {
 }
 
 void SelectionRun::writeAdditions(int species, int row) {
-    const int habitats = GetUnitsUsed(grids_.HabitatLevels, global_.TotalHabitatTypes, habitatThresholds_,
-                                      species, use::Level, habitatCovered_);
+    const int habitats = GetUnitsUsed(habitatLevels_, global_.TotalHabitatTypes, habitatThresholds_, species,
+                                      use::Level, habitatCovered_);
     results_.TextMatrix(row, result::AddHabitats, ui::toText(habitats));
-    const int zones = GetUnitsUsed(grids_.JurisUnitLevels, global_.TotalJurisUnits, jurisUnitThresholds_,
-                                   species, use::Level, jurisUnitCovered_);
+    const int zones = GetUnitsUsed(jurisUnitLevels_, global_.TotalJurisUnits, jurisUnitThresholds_, species,
+                                   use::Level, jurisUnitCovered_);
     results_.TextMatrix(row, result::AddJurisUnits, ui::toText(zones));
-    const int threats = GetThreatImpact(grids_.ThreatScores, global_.ThreatRepresentation, threatMaxScores_,
+    const int threats = GetThreatImpact(threatScores_, global_.ThreatRepresentation, threatMaxScores_,
                                         species, landUseCovered_);
     results_.TextMatrix(row, result::AddThreats, ui::toText(threats));
 }
@@ -176,11 +184,10 @@ void SelectionRun::writeRecalculatedScores(int species, int row) {
         results_.TextMatrix(row, col, ui::toText(rounded));
     };
     write(result::Heterogeneity, recalcMaxScores_[0],
-          RecalcHeteroScore(species, grids_.HabitatLevels, grids_.JurisUnitLevels, habitatCovered_,
-                            jurisUnitCovered_));
+          RecalcHeteroScore(species, habitatLevels_, jurisUnitLevels_, habitatCovered_, jurisUnitCovered_));
     const double status = grids_.ThreatScores.Real(species, vulnerability::ConservationStatus);
     write(result::Vulnerability, recalcMaxScores_[1],
-          RecalcVulnerabilityScore(species, grids_.Threats, status, landUseCovered_));
+          RecalcVulnerabilityScore(species, ratings_, status, landUseCovered_));
 }
 
 void SelectionRun::normaliseRow(int row) {
@@ -282,11 +289,11 @@ void SelectionRun::findPick() {
 /// Takes the pick out of the race and marks what it represents as covered.
 void SelectionRun::takePick() {
     remove(pickSpecies_);
-    HighlightCoverUnitsUsed(grids_.HabitatLevels, grids_.HabitatsCovered, global_.TotalHabitatTypes,
-                            pickSpecies_, habitatThresholds_, habitatCovered_, use::Level, pickNumber_);
-    HighlightCoverUnitsUsed(grids_.JurisUnitLevels, grids_.JurisUnitsCovered, global_.TotalJurisUnits,
-                            pickSpecies_, jurisUnitThresholds_, jurisUnitCovered_, use::Level, pickNumber_);
-    HighlightThreatsEncountered(grids_.ThreatScores, grids_.ThreatsCovered, global_.ThreatRepresentation,
+    HighlightCoverUnitsUsed(habitatLevels_, grids_.HabitatsCovered, global_.TotalHabitatTypes, pickSpecies_,
+                            habitatThresholds_, habitatCovered_, use::Level, pickNumber_);
+    HighlightCoverUnitsUsed(jurisUnitLevels_, grids_.JurisUnitsCovered, global_.TotalJurisUnits, pickSpecies_,
+                            jurisUnitThresholds_, jurisUnitCovered_, use::Level, pickNumber_);
+    HighlightThreatsEncountered(threatScores_, grids_.ThreatsCovered, global_.ThreatRepresentation,
                                 threatMaxScores_, pickSpecies_, landUseCovered_, pickNumber_);
 }
 

@@ -41,12 +41,9 @@ std::string growth(double fromTime, double toTime, double workRatio) {
 
 const char* nameOf(WorkUnit unit) {
     switch (unit) {
-        case WorkUnit::Cells:
-            return "cells";
-        case WorkUnit::CellsByPasses:
-            return "cells x passes";
-        case WorkUnit::CellsAndRows:
-            return "cells + rows";
+        case WorkUnit::Cells: return "cells";
+        case WorkUnit::CellsByPasses: return "cells x passes";
+        case WorkUnit::CellsAndRows: return "cells + rows";
     }
     return "";
 }

@@ -26,8 +26,9 @@ struct BenchOptions {
 };
 
 int usage() {
-    std::cerr << "usage: brenica-bench [--runs N] PROJECT.brn...\n"
-                 "Times each step of a run, the median of N runs, and its memory; projects from small to large.\n";
+    std::cerr
+        << "usage: brenica-bench [--runs N] PROJECT.brn...\n"
+           "Times each step of a run, the median of N runs, and its memory; projects from small to large.\n";
     return EXIT_FAILURE;
 }
 

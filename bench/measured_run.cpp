@@ -72,8 +72,7 @@ private:
 
     void exportTables() {
         for (const ExportTable& table : form_->ExportTables()) {
-            if (form_->isExportable(table))
-                form_->SaveTable(table, folder_ + "/" + table.FileName + ".txt");
+            if (form_->isExportable(table)) form_->SaveTable(table, folder_ + "/" + table.FileName + ".txt");
         }
     }
 
@@ -120,12 +119,9 @@ const std::vector<StepDesign>& steps() {
 
 double ProjectSize::work(WorkUnit unit) const {
     switch (unit) {
-        case WorkUnit::Cells:
-            return cells();
-        case WorkUnit::CellsByPasses:
-            return cells() * Passes;
-        case WorkUnit::CellsAndRows:
-            return cells() + ResultRows;
+        case WorkUnit::Cells: return cells();
+        case WorkUnit::CellsByPasses: return cells() * Passes;
+        case WorkUnit::CellsAndRows: return cells() + ResultRows;
     }
     return cells();
 }

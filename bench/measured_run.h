@@ -36,7 +36,8 @@ struct ProjectSize {
 
 struct StepMeasure {
     double Milliseconds = 0;
-    double PeakMegabytes = 0;  ///< of the process, from its start to the end of the step; 0 where it is not told
+    double PeakMegabytes =
+        0;  ///< of the process, from its start to the end of the step; 0 where it is not told
 };
 
 struct RunMeasure {

@@ -355,6 +355,10 @@ namespace {
 
 using Form = frmBrenica;
 
+const char* criteriaFailureName(const testing::TestParamInfo<CriteriaFailure>& info) {
+    return info.param.Name;
+}
+
 void chooseSecondSpecies(Form& form) { form.cbxSpeciesName.UserChoose(1); }
 
 }  // namespace
@@ -386,7 +390,7 @@ INSTANTIATE_TEST_SUITE_P(
         CriteriaFailure{"LoadThreats", 6, chooseSecondSpecies, "FlexGridUtilities.GetVulnVals"},
         CriteriaFailure{"LoadFunctions", 8, chooseSecondSpecies, "FlexGridUtilities.GetFuncSEVals"},
         CriteriaFailure{"LoadStatus", 5, chooseSecondSpecies, "Brenica.RefreshSpeciesCriteriaVals"}),
-    [](const testing::TestParamInfo<CriteriaFailure>& info) { return info.param.Name; });
+    criteriaFailureName);
 
 class SeverityFailure : public EntryTest {};
 

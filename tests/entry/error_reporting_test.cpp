@@ -127,3 +127,24 @@ TEST_F(FailingForm, ShowsNoBoxOfItsOwn) {
     EXPECT_TRUE(platform.Transcript.empty());
     EXPECT_EQ(form.CurrentMainTab, 1);
 }
+
+TEST_F(FailingForm, EndsAFileCommandSilentlyAndGoesOn) {
+    platform.Files.push_back(folder.file("missing.brn"));
+    EXPECT_NO_THROW(form.mnuOpenProject.UserClick());
+    EXPECT_TRUE(platform.Transcript.empty());
+    EXPECT_FALSE(form.Unloaded());
+    EXPECT_NO_THROW(form.mnuOpenProject.UserClick());  // cancelled
+    EXPECT_NO_THROW(form.cmdExportResults_Click());    // cancelled
+    EXPECT_TRUE(platform.Transcript.empty());
+}
+
+TEST_F(FailingForm, SkipsWhatFailsInTheHintAndShowsTheSpecies) {
+    open(ProjectText(2, 1, 1, 1).set("Conservation Status", "0.25,0.75"));
+    goTo(2);
+    goTo(3);
+    form.flxSummary(0).Rows(1);
+    form.flxSummary(1).Rows(1);
+    EXPECT_NO_THROW(form.cbxSpeciesName.UserChoose(1));
+    EXPECT_EQ(form.txtCCS.Text(), "0.75");
+    EXPECT_EQ(form.lblPropOccupHint.Caption().substr(0, 6), "Hint: ");
+}

@@ -34,13 +34,13 @@ public:
           global_(global),
           grids_(grids),
           results_(grids.Results),
-          speciesRemoved_(std::move(input.SpeciesRemoved)),
-          habitatThresholds_(std::move(input.HabitatThresholds)),
-          jurisUnitThresholds_(std::move(input.JurisUnitThresholds)),
-          habitatCovered_(static_cast<std::size_t>(global.TotalHabitatTypes)),
-          jurisUnitCovered_(static_cast<std::size_t>(global.TotalJurisUnits)),
-          landUseCovered_(static_cast<std::size_t>(global.TotalLandUses)),
-          threatMaxScores_(static_cast<std::size_t>(global.TotalLandUses)),
+          SpeciesRemoved(std::move(input.SpeciesRemoved)),
+          HabitatThresholds(std::move(input.HabitatThresholds)),
+          JurisUnitThresholds(std::move(input.JurisUnitThresholds)),
+          HabitatCovered(static_cast<std::size_t>(global.TotalHabitatTypes)),
+          JurisUnitCovered(static_cast<std::size_t>(global.TotalJurisUnits)),
+          LandUseCovered(static_cast<std::size_t>(global.TotalLandUses)),
+          ThreatMaxScores(static_cast<std::size_t>(global.TotalLandUses)),
           habitatLevels_(grids.HabitatLevels, use::Level, 1),
           jurisUnitLevels_(grids.JurisUnitLevels, use::Level, 1),
           ratings_(grids.Threats, threat::Urgency, threat::Proportion - threat::Urgency + 1),
@@ -51,7 +51,7 @@ public:
         results_.Redraw(false);
         listUnits();
         firstPass();
-        while (!allCovered() && removedCount_ < global_.TotalSpecies) laterPass();
+        while (!AllCovered() && RemovedCount < global_.TotalSpecies) laterPass();
         report();
         results_.AutoSize(0, results_.Cols() - 1);
         results_.Redraw(true);
@@ -79,14 +79,14 @@ private:
                 results_.Long(row, result::AddThreats)};
     }
     int candidateOf(int row) const { return results_.Long(row, result::Candidate); }
-    bool isRemoved(int species) const { return ui::elementAt(speciesRemoved_, species - 1); }
+    bool isRemoved(int species) const { return ui::elementAt(SpeciesRemoved, species - 1); }
     void remove(int species) {
-        ui::elementAt(speciesRemoved_, species - 1) = true;
-        ++removedCount_;
+        ui::elementAt(SpeciesRemoved, species - 1) = true;
+        ++RemovedCount;
     }
-    bool allCovered() const {
-        return habitatsCovered_ == global_.TotalHabitatTypes &&
-               jurisUnitsCovered_ == global_.TotalJurisUnits && threatsCovered_ == global_.TotalLandUses;
+    bool AllCovered() const {
+        return HabitatsCovered == global_.TotalHabitatTypes && JurisUnitsCovered == global_.TotalJurisUnits &&
+               ThreatsCovered == global_.TotalLandUses;
     }
     void paintRow(int row, ui::Colour colour) {
         results_.Select(row, 1, row, results_.Cols() - 1);
@@ -102,36 +102,36 @@ private:
     const SelectionGrids& grids_;
     ui::Grid& results_;
 
-    Flags speciesRemoved_;
-    Levels habitatThresholds_;
-    Levels jurisUnitThresholds_;
-    Flags habitatCovered_;
-    Flags jurisUnitCovered_;
-    Flags landUseCovered_;
-    std::vector<double> threatMaxScores_;
+    Flags SpeciesRemoved;
+    Levels HabitatThresholds;
+    Levels JurisUnitThresholds;
+    Flags HabitatCovered;
+    Flags JurisUnitCovered;
+    Flags LandUseCovered;
+    std::vector<double> ThreatMaxScores;
     NumberTable habitatLevels_;
     NumberTable jurisUnitLevels_;
     NumberTable ratings_;
     NumberTable threatScores_;
     /// Highest recalculated heterogeneity and vulnerability of the whole run: later passes are measured by early ones.
-    std::array<double, 2> recalcMaxScores_{};
+    std::array<double, 2> RecalcMaxScores{};
 
-    int blockStartRow_ = 0;  ///< first row of the current pass
-    int blockSize_ = 0;      ///< species in it
-    int removedCount_ = 0;
-    int pickOffset_ = 0;
-    int pickRow_ = 0;
-    int pickSpecies_ = 0;
-    int pickNumber_ = 0;
-    int marginCount_ = 0;  ///< of the last pass that looked for species within the margin
-    int habitatsCovered_ = 0;
-    int jurisUnitsCovered_ = 0;
-    int threatsCovered_ = 0;
+    int BlockStartRow = 0;  ///< first row of the current pass
+    int BlockSize = 0;      ///< species in it
+    int RemovedCount = 0;
+    int PickOffset = 0;
+    int PickRow = 0;
+    int PickSpecies = 0;
+    int PickNumber = 0;
+    int MarginCount = 0;  ///< of the last pass that looked for species within the margin
+    int HabitatsCovered = 0;
+    int JurisUnitsCovered = 0;
+    int ThreatsCovered = 0;
 };
 
 void SelectionRun::findThreatMaxScores() {
     for (int t = 1; t <= global_.TotalLandUses; ++t) {
-        double& maximum = threatMaxScores_[at(t)];
+        double& maximum = ThreatMaxScores[at(t)];
         for (int species = 1; species <= global_.TotalSpecies; ++species) {
             const double score = threatScores_.at(species, t + vulnerability::ThreatOffset);
             if (score > maximum) maximum = score;
@@ -152,28 +152,28 @@ void SelectionRun::listUnits() {
 }
 
 void SelectionRun::startBlock(bool first) {
-    blockStartRow_ = results_.Rows();
+    BlockStartRow = results_.Rows();
     const int placed =
-        SetupSelectionSpecies(platform_, global_, results_, grids_.Scores, speciesRemoved_, first);
-    if (first) removedCount_ = global_.TotalSpecies - placed;
-    blockSize_ = 0;
+        SetupSelectionSpecies(platform_, global_, results_, grids_.Scores, SpeciesRemoved, first);
+    if (first) RemovedCount = global_.TotalSpecies - placed;
+    BlockSize = 0;
     for (int species = 1; species <= global_.TotalSpecies; ++species) {
         if (isRemoved(species)) continue;
-        const int row = blockStartRow_ + blockSize_++;
+        const int row = BlockStartRow + BlockSize++;
         writeAdditions(species, row);
         if (!first) writeRecalculatedScores(species, row);
     }
 }
 
 void SelectionRun::writeAdditions(int species, int row) {
-    const int habitats = GetUnitsUsed(habitatLevels_, global_.TotalHabitatTypes, habitatThresholds_, species,
-                                      use::Level, habitatCovered_);
+    const int habitats = GetUnitsUsed(habitatLevels_, global_.TotalHabitatTypes, HabitatThresholds, species,
+                                      use::Level, HabitatCovered);
     results_.TextMatrix(row, result::AddHabitats, ui::toText(habitats));
-    const int zones = GetUnitsUsed(jurisUnitLevels_, global_.TotalJurisUnits, jurisUnitThresholds_, species,
-                                   use::Level, jurisUnitCovered_);
+    const int zones = GetUnitsUsed(jurisUnitLevels_, global_.TotalJurisUnits, JurisUnitThresholds, species,
+                                   use::Level, JurisUnitCovered);
     results_.TextMatrix(row, result::AddJurisUnits, ui::toText(zones));
-    const int threats = GetThreatImpact(threatScores_, global_.ThreatRepresentation, threatMaxScores_,
-                                        species, landUseCovered_);
+    const int threats = GetThreatImpact(threatScores_, global_.ThreatRepresentation, ThreatMaxScores, species,
+                                        LandUseCovered);
     results_.TextMatrix(row, result::AddThreats, ui::toText(threats));
 }
 
@@ -183,11 +183,11 @@ void SelectionRun::writeRecalculatedScores(int species, int row) {
         if (raw > maximum) maximum = rounded;
         results_.TextMatrix(row, col, ui::toText(rounded));
     };
-    write(result::Heterogeneity, recalcMaxScores_[0],
-          RecalcHeteroScore(species, habitatLevels_, jurisUnitLevels_, habitatCovered_, jurisUnitCovered_));
+    write(result::Heterogeneity, RecalcMaxScores[0],
+          RecalcHeteroScore(species, habitatLevels_, jurisUnitLevels_, HabitatCovered, JurisUnitCovered));
     const double status = grids_.ThreatScores.Real(species, vulnerability::ConservationStatus);
-    write(result::Vulnerability, recalcMaxScores_[1],
-          RecalcVulnerabilityScore(species, ratings_, status, landUseCovered_));
+    write(result::Vulnerability, RecalcMaxScores[1],
+          RecalcVulnerabilityScore(species, ratings_, status, LandUseCovered));
 }
 
 void SelectionRun::normaliseRow(int row) {
@@ -195,8 +195,8 @@ void SelectionRun::normaliseRow(int row) {
         const double score = maximum <= 0 ? 0 : ui::roundTo(results_.Real(row, col) / maximum, Places);
         results_.TextMatrix(row, col, ui::toText(score));
     };
-    normalise(result::Heterogeneity, recalcMaxScores_[0]);
-    normalise(result::Vulnerability, recalcMaxScores_[1]);
+    normalise(result::Heterogeneity, RecalcMaxScores[0]);
+    normalise(result::Vulnerability, RecalcMaxScores[1]);
     double aggregate = 0;
     for (const int col : {result::Heterogeneity, result::Vulnerability, result::AreaScore,
                           result::Functionality, result::SocioEcon}) {
@@ -210,13 +210,13 @@ void SelectionRun::firstPass() {
     startBlock(true);
     results_.Select(0, result::Aggregate);
     results_.Sort(ui::SortOrder::GenericDescending);
-    for (int i = 1; i <= blockSize_; ++i) results_.TextMatrix(i, result::Rank, ui::toText(i));
+    for (int i = 1; i <= BlockSize; ++i) results_.TextMatrix(i, result::Rank, ui::toText(i));
     findPick();
-    pickNumber_ = 1;
+    PickNumber = 1;
     takePick();
-    const Additions added = additionsOf(pickRow_);
+    const Additions added = additionsOf(PickRow);
     if (added.none()) {
-        pickNumber_ = 0;
+        PickNumber = 0;
         omitFirstPick(
             " with the highest aggregate score has been removed as it covers no additional habitats, management zones "
             "or threats.");
@@ -228,24 +228,24 @@ void SelectionRun::firstPass() {
 
 void SelectionRun::laterPass() {
     startBlock(false);
-    for (int i = 0; i < blockSize_; ++i) normaliseRow(blockStartRow_ + i);
+    for (int i = 0; i < BlockSize; ++i) normaliseRow(BlockStartRow + i);
     // The range takes in the block's blank row, which stays last.
-    results_.Select(blockStartRow_, result::Aggregate, blockStartRow_ + blockSize_, result::Aggregate);
+    results_.Select(BlockStartRow, result::Aggregate, BlockStartRow + BlockSize, result::Aggregate);
     results_.Sort(ui::SortOrder::GenericDescending);
     omitRowsWithoutAdditions();
     findPick();
-    ++pickNumber_;
+    ++PickNumber;
     takePick();
-    const Additions added = additionsOf(pickRow_);
+    const Additions added = additionsOf(PickRow);
     if (added.none()) {
-        --pickNumber_;
-        pickSpecies_ = candidateOf(pickRow_);
+        --PickNumber;
+        PickSpecies = candidateOf(PickRow);
         // The pick was removed when it was taken, so that it is dropped here without a word.
-        if (!isRemoved(pickSpecies_)) {
+        if (!isRemoved(PickSpecies)) {
             omitFirstPick(
                 " with the highest aggregate score has bee removed as it covers no additional habitats, management "
                 "zones or threats.");
-            remove(pickSpecies_);
+            remove(PickSpecies);
         }
     } else {
         addToSuite(added);
@@ -254,8 +254,8 @@ void SelectionRun::laterPass() {
 }
 
 void SelectionRun::omitRowsWithoutAdditions() {
-    for (int r = 1; r <= blockSize_; ++r) {
-        const int row = blockStartRow_ + r - 1;
+    for (int r = 1; r <= BlockSize; ++r) {
+        const int row = BlockStartRow + r - 1;
         results_.TextMatrix(row, result::Rank, ui::toText(r));
         const Additions added = additionsOf(row);
         if (added.Habitats != 0 || added.JurisUnits != 0 || added.Threats != 0) continue;
@@ -269,63 +269,63 @@ void SelectionRun::omitRowsWithoutAdditions() {
 /// With one survivor at the most there is no margin to look at. The scan for it has no stop: past the last species it
 /// meets the blank row, which names no candidate, and fails.
 void SelectionRun::findPick() {
-    if (removedCount_ >= global_.TotalSpecies - 1) {
-        pickOffset_ = 0;
-        while (isRemoved(candidateOf(blockStartRow_ + pickOffset_))) ++pickOffset_;
+    if (RemovedCount >= global_.TotalSpecies - 1) {
+        PickOffset = 0;
+        while (isRemoved(candidateOf(BlockStartRow + PickOffset))) ++PickOffset;
     } else {
-        marginCount_ = Check4ErrorMargin(global_.ErrorMargin, results_, blockStartRow_, blockSize_,
-                                         speciesRemoved_, pickOffset_);
+        MarginCount = Check4ErrorMargin(global_.ErrorMargin, results_, BlockStartRow, BlockSize,
+                                        SpeciesRemoved, PickOffset);
     }
-    pickRow_ = blockStartRow_ + pickOffset_;
-    pickSpecies_ = candidateOf(pickRow_);
-    results_.Select(pickRow_, 0, pickRow_, 0);
+    PickRow = BlockStartRow + PickOffset;
+    PickSpecies = candidateOf(PickRow);
+    results_.Select(PickRow, 0, PickRow, 0);
     results_.CellBackColor(resultcolour::Margin);
-    if (marginCount_ <= 0) return;
-    pickRow_ = SelectErrorMarginSpecies(platform_, results_, blockStartRow_, pickOffset_, marginCount_,
-                                        speciesRemoved_);
-    pickSpecies_ = candidateOf(pickRow_);
+    if (MarginCount <= 0) return;
+    PickRow =
+        SelectErrorMarginSpecies(platform_, results_, BlockStartRow, PickOffset, MarginCount, SpeciesRemoved);
+    PickSpecies = candidateOf(PickRow);
 }
 
 /// Takes the pick out of the race and marks what it represents as covered.
 void SelectionRun::takePick() {
-    remove(pickSpecies_);
-    HighlightCoverUnitsUsed(habitatLevels_, grids_.HabitatsCovered, global_.TotalHabitatTypes, pickSpecies_,
-                            habitatThresholds_, habitatCovered_, use::Level, pickNumber_);
-    HighlightCoverUnitsUsed(jurisUnitLevels_, grids_.JurisUnitsCovered, global_.TotalJurisUnits, pickSpecies_,
-                            jurisUnitThresholds_, jurisUnitCovered_, use::Level, pickNumber_);
+    remove(PickSpecies);
+    HighlightCoverUnitsUsed(habitatLevels_, grids_.HabitatsCovered, global_.TotalHabitatTypes, PickSpecies,
+                            HabitatThresholds, HabitatCovered, use::Level, PickNumber);
+    HighlightCoverUnitsUsed(jurisUnitLevels_, grids_.JurisUnitsCovered, global_.TotalJurisUnits, PickSpecies,
+                            JurisUnitThresholds, JurisUnitCovered, use::Level, PickNumber);
     HighlightThreatsEncountered(threatScores_, grids_.ThreatsCovered, global_.ThreatRepresentation,
-                                threatMaxScores_, pickSpecies_, landUseCovered_, pickNumber_);
+                                ThreatMaxScores, PickSpecies, LandUseCovered, PickNumber);
 }
 
 void SelectionRun::omitFirstPick(const char* message) {
-    showOmitted(pickRow_, message);
-    paintRow(pickRow_, resultcolour::Omitted);
+    showOmitted(PickRow, message);
+    paintRow(PickRow, resultcolour::Omitted);
 }
 
 void SelectionRun::addToSuite(const Additions& added) {
     ui::Grid& suite = grids_.Suite;
-    suite.Rows(pickNumber_ + 1);
-    suite.TextMatrix(pickNumber_, 0, ui::toText(pickNumber_));
-    suite.TextMatrix(pickNumber_, 1, results_.TextMatrix(pickRow_, result::Name));
-    suite.TextMatrix(pickNumber_, 2, ui::toText(added.Habitats));
-    suite.TextMatrix(pickNumber_, 3, ui::toText(added.JurisUnits));
-    suite.TextMatrix(pickNumber_, 4, ui::toText(added.Threats));
-    suite.Select(pickNumber_, 2, pickNumber_, 4);
-    suite.CellBackColor(GetCellColor(pickNumber_));
-    paintRow(pickRow_, resultcolour::Picked);
+    suite.Rows(PickNumber + 1);
+    suite.TextMatrix(PickNumber, 0, ui::toText(PickNumber));
+    suite.TextMatrix(PickNumber, 1, results_.TextMatrix(PickRow, result::Name));
+    suite.TextMatrix(PickNumber, 2, ui::toText(added.Habitats));
+    suite.TextMatrix(PickNumber, 3, ui::toText(added.JurisUnits));
+    suite.TextMatrix(PickNumber, 4, ui::toText(added.Threats));
+    suite.Select(PickNumber, 2, PickNumber, 4);
+    suite.CellBackColor(GetCellColor(PickNumber));
+    paintRow(PickRow, resultcolour::Picked);
 }
 
 void SelectionRun::count(const Additions& added) {
-    habitatsCovered_ += added.Habitats;
-    jurisUnitsCovered_ += added.JurisUnits;
-    threatsCovered_ += added.Threats;
+    HabitatsCovered += added.Habitats;
+    JurisUnitsCovered += added.JurisUnits;
+    ThreatsCovered += added.Threats;
 }
 
 void SelectionRun::report() {
     const auto show = [&](const std::string& text) {
         platform_.showMessage(text, "Selection Report", ui::MessageIcon::Exclamation);
     };
-    if (allCovered()) {
+    if (AllCovered()) {
         return show(
             "All habitat types, management zones and threats are covered by the current suite of brenic species.");
     }
@@ -338,9 +338,9 @@ void SelectionRun::report() {
         }
         text += prefix + ui::join(uncovered, ", ") + "\r";
     };
-    add("Habitat types: ", grids_.HabitatTypes, habitatCovered_, habitatsCovered_);
-    add("Management Zones: ", grids_.JurisUnits, jurisUnitCovered_, jurisUnitsCovered_);
-    add("Threats: ", grids_.Threats, landUseCovered_, threatsCovered_);
+    add("Habitat types: ", grids_.HabitatTypes, HabitatCovered, HabitatsCovered);
+    add("Management Zones: ", grids_.JurisUnits, JurisUnitCovered, JurisUnitsCovered);
+    add("Threats: ", grids_.Threats, LandUseCovered, ThreatsCovered);
     show(text);
 }
 

@@ -81,12 +81,47 @@ TEST_F(GridEditing, EnterAndTabCommit) {
     }
 }
 
-TEST_F(GridEditing, DISABLED_EnterAndTabMoveOnAfterTheyCommitted) {
-    for (const int key : {13, 9}) {
-        grid.Select(1, 1);
+TEST_F(GridEditing, EnterTabAndTheArrowsMoveOnAfterTheyCommitted) {
+    struct Row {
+        int Key;
+        std::string To;
+    };
+    for (const Row& row : std::vector<Row>{{ui::LeftKey, "2.0"},
+                                           {ui::RightKey, "2.2"},
+                                           {ui::UpKey, "1.1"},
+                                           {ui::DownKey, "3.1"},
+                                           {9, "2.2"}}) {
+        grid.Select(2, 1);
+        grid.UserBeginEdit();
+        typeInEditor("x");
+        grid.UserEditKey(row.Key);
+        EXPECT_EQ(grid.TextMatrix(2, 1), "x");
+        EXPECT_EQ(at(grid.Row(), grid.Col()), row.To);
+        grid.TextMatrix(2, 1, "2.1");
+    }
+    grid.Select(2, 1);
+    grid.UserBeginEdit();
+    grid.UserEditKey(13);
+    EXPECT_NE(at(grid.Row(), grid.Col()), "2.1");
+}
+
+TEST_F(GridEditing, AKeyThatEndsTheEditMovesNothingWhileTheEditorRefusesToClose) {
+    refuseToClose();
+    grid.UserBeginEdit();
+    for (const int key : {13, 9, ui::UpKey, ui::DownKey, ui::LeftKey, ui::RightKey}) {
+        grid.UserEditKey(key);
+        EXPECT_TRUE(grid.Editing());
+        EXPECT_EQ(at(grid.Row(), grid.Col()), "1.1");
+    }
+}
+
+TEST_F(GridEditing, AtTheEdgeTheCellStays) {
+    grid.Select(3, 2);
+    for (const int key : {9, ui::DownKey, ui::RightKey}) {
         grid.UserBeginEdit();
         grid.UserEditKey(key);
-        EXPECT_NE(at(grid.Row(), grid.Col()), "1.1") << key;
+        EXPECT_FALSE(grid.Editing());
+        EXPECT_EQ(at(grid.Row(), grid.Col()), "3.2");
     }
 }
 

@@ -53,6 +53,7 @@ void ScriptedPlatform::saveClipboardPicture(const std::string& path) {
 }
 
 int ScriptedPlatform::textWidth(std::string_view text, const ui::Font& font) const {
+    if (TextWidth) return TextWidth(text, font);
     constexpr int TwipsAPoint = 20;
     const int half = static_cast<int>(ui::length(text)) * font.Size * TwipsAPoint / 2;
     return font.Bold ? half * 11 / 10 : half;

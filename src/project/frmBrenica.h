@@ -240,8 +240,21 @@ private:
     void showDataQuality();
     void storeShownConservationStatus();
 
-    // entry/form_layout.cpp
+    // entry/form_layout.cpp, entry/form_layout_pages.cpp
     void arrangeListPages();
+    void arrangeCriteriaPage();
+    void arrangeAreaFrame();
+    void placeCriteriaGrids();
+    void arrangeSummaryPage();
+    void placeSummaryGrids();
+    void arrangeGraphPage();
+    void arrangeScorePage();
+    void placeScoreViews();
+    void arrangeResultsPage();
+    void placeResultGrids();
+    void fitGridsWhenShown();
+    void fitShownGrids();
+    bool arranging_ = false;  ///< a layout is running
 
     // project/recalculation.cpp
     void leavePage(int page);

@@ -52,7 +52,7 @@ struct frmBrenicaControls : ui::FormWindow {
          {"Summary Graphs", "Shift-G", "Summary graphs of Brenica data"},
          {"Aggregate Scores", "Shift-A", "The scores for the brenic species over all selection criteria."},
          {"Complementarity", "Shift-O", "Selection of the suite of brenic species using complementarity."}}};
-    ui::ControlArray<ui::Frame> fraTabContents{*this, "fraTabContents", 7};
+    ui::ControlArray<ui::Frame> fraTabContents{tabBrenica, "fraTabContents", 7};
 
     // Page 1: candidate species.
     ui::Grid flxCandidateSpecies{fraTabContents(0), "flxCandidateSpecies"};
@@ -152,7 +152,7 @@ struct frmBrenicaControls : ui::FormWindow {
         fraTabContents(2),
         "tabCriteria",
         {{"Heterogeneity"}, {"Area"}, {"Vulnerability"}, {"Functionality"}, {"Socio-economics"}}};
-    ui::ControlArray<ui::Frame> fraCriteria{fraTabContents(2), "fraCriteria", 5};
+    ui::ControlArray<ui::Frame> fraCriteria{tabCriteria, "fraCriteria", 5};
     ui::Grid flxHabitatHetero{fraCriteria(0), "flxHabitatHetero"};
     ui::Grid flxJurisUnitHetero{fraCriteria(0), "flxJurisUnitHetero"};
     ui::Label lblDispersalYN{fraCriteria(1), "lblDispersalYN", {.Caption = "Dispersal > 10 km:"}};
@@ -198,7 +198,7 @@ struct frmBrenicaControls : ui::FormWindow {
                                      {"Functionality"},
                                      {"Socio-economics"},
                                      {"Data quality"}}};
-    ui::ControlArray<ui::Grid> flxSummary{fraTabContents(3), "flxSummary", summary::Count};
+    ui::ControlArray<ui::Grid> flxSummary{tabCriteriaSummary, "flxSummary", summary::Count};
     ui::CheckBox chkAllowSummaryEdit{
         fraTabContents(3), "chkAllowSummaryEdit", false, {.Caption = "Allow summary table editing"}};
 
@@ -213,7 +213,7 @@ struct frmBrenicaControls : ui::FormWindow {
                                   {"Species by vulnerability"},
                                   {"Threats by species"},
                                   {"Vulnerability by species"}}};
-    ui::ControlArray<ui::Chart> chtSummary{fraTabContents(4), "chtSummary", 10};
+    ui::ControlArray<ui::Chart> chtSummary{tabGraphSummary, "chtSummary", 10};
 
     // Page 6: scores.
     ui::ControlArray<ui::OptionButton> optScoreDisplay{

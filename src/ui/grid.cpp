@@ -78,7 +78,8 @@ void Grid::forgetWidths() {
 }
 
 void Grid::keepCurrentCellInside() {
-    const auto inside = [](int index, int count) { return std::clamp(index, 0, std::max(count - 1, 0)); };
+    const bool anyCell = Rows() > 0 && Cols() > 0;
+    const auto inside = [&](int index, int count) { return anyCell ? std::clamp(index, 0, count - 1) : 0; };
     row_ = inside(row_, Rows());
     rowSel_ = inside(rowSel_, Rows());
     col_ = inside(col_, Cols());

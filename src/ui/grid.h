@@ -152,6 +152,8 @@ public:
     bool UserEditPaste(std::string_view text);
     bool UserCommitEdit();
     void UserCancelEdit();
+    /// Empties the current cell through an edit of its own; a cell with a list, or one that refuses, keeps its text.
+    bool UserDelete();
     /// Moves there, opens the editor, puts `text` in and commits; a refused edit is cancelled.
     bool UserEditCell(int row, int col, std::string_view text);
     void UserMouseMove(int row, int col);
@@ -207,7 +209,7 @@ private:
     void setCurrent(int row, int col);
     bool mayLeaveFor(int row, int col);
     int measure(int col) const;
-    bool offers(std::string_view item) const;
+    bool accept(TextEditor edited);
     void closeEditor();
 
     const DecimalSeparator separator_;

@@ -59,24 +59,19 @@ void Grid::UserEditKey(int key) {
         if (UserCommitEdit()) UserMoveTo(row_ + step->Rows, col_ + step->Cols);
         return;
     }
+    if (key < ' ' && key != BackspaceKey) return;
     KeyPressEdit(row_, col_, key);
     if (key == 0) return;
     TextEditor typed = editor_;
     typed.Type(key);
-    if (!comboList_.empty() && !offers(typed.Text())) return platform().beep();
-    editor_ = typed;
+    accept(std::move(typed));
 }
 
 bool Grid::UserEditPaste(std::string_view text) {
     if (!editing_) return false;
     TextEditor pasted = editor_;
     pasted.Insert(text);
-    if (!comboList_.empty() && !offers(pasted.Text())) {
-        platform().beep();
-        return false;
-    }
-    editor_ = pasted;
-    return true;
+    return accept(std::move(pasted));
 }
 
 bool Grid::UserCommitEdit() {
@@ -122,10 +117,34 @@ void Grid::UserMouseDown(int row, int col) {
     if (body) Select(row, col);
 }
 
-bool Grid::offers(std::string_view item) const {
-    const auto items = split(comboList_, ListSeparator);
-    return std::any_of(items.begin(), items.end(),
-                       [&](std::string_view offered) { return equalsIgnoringCase(offered, item); });
+/// Takes over what was typed or pasted, unless the cell has a list and the text is none of its items; an item is taken
+/// over as the list spells it.
+bool Grid::accept(TextEditor edited) {
+    if (!comboList_.empty()) {
+        const auto items = split(comboList_, ListSeparator);
+        const auto item = std::find_if(items.begin(), items.end(), [&](std::string_view offered) {
+            return equalsIgnoringCase(offered, edited.Text());
+        });
+        if (item == items.end()) {
+            platform().beep();
+            return false;
+        }
+        if (*item != edited.Text()) edited.Text(std::string(*item));
+    }
+    editor_ = std::move(edited);
+    return true;
+}
+
+bool Grid::UserDelete() {
+    if (!UserBeginEdit()) return false;
+    if (comboList_.empty()) {
+        editor_.Text("");
+        if (UserCommitEdit()) return true;
+    } else {
+        platform().beep();
+    }
+    UserCancelEdit();
+    return false;
 }
 
 }  // namespace ui

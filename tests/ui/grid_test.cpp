@@ -37,7 +37,7 @@ TEST_F(GridTest, MayHaveNoRowsAtAll) {
     EXPECT_THAT(column(0), ElementsAre(""));
 }
 
-TEST_F(GridTest, DISABLED_HasCellZeroAsItsCurrentOneWhenItHasNone) {
+TEST_F(GridTest, HasCellZeroAsItsCurrentOneWhenItHasNone) {
     grid.Select(2, 2);
     grid.Rows(0);
     EXPECT_EQ(at(grid.Row(), grid.Col()), "0.0");

@@ -124,7 +124,6 @@ TEST_F(PageMoves, EnteringAPageDoesTheWorkOfItsRow) {
         for (ui::Grid& grid : form.flxScores) {
             for (int row = 1; row < grid.Rows(); ++row) grid.TextMatrix(row, 1, "");
         }
-        // Without the totals of habitats the work that reads them cannot be told from their lack: keep the size.
         const int refreshes = form.chtSummary(0).Refreshes();
         goTo(c.To);
         EXPECT_EQ(tablesCalculated(), c.Tables);

@@ -35,10 +35,12 @@ void frmBrenica::MenuSelectionGraph(std::string_view action) try {
     if (chart == nullptr) {
         platform().showMessage("Graphs currently not visible!", "Graph error", ui::MessageIcon::Exclamation);
     } else if (ui::equalsIgnoringCase(action, "Save")) {
+        cdgFileDialog.FileName.clear();
         cdgFileDialog.Filter = "Pictures (*.bmp)|*.bmp";
         cdgFileDialog.DefaultExt = "bmp";
         cdgFileDialog.ShowSave();
         saveGraph(*chart);
+        cdgFileDialog.InitDir.clear();
     } else if (ui::equalsIgnoringCase(action, "Copy")) {
         chart->EditCopy();
     } else if (ui::equalsIgnoringCase(action, "Print")) {

@@ -45,7 +45,9 @@ void frmBrenica::flxScoresSort_MouseDown(int index) try {
         memory.Col = -1;
     }
     bool& sorted = memory.Sorted[static_cast<std::size_t>(index)];
-    if ((row != -1 && col != -1 && !sorted) || (col != memory.Col && row == 0)) {
+    const bool onCell = row != -1 && col != -1;
+    const bool onAnotherHeading = row == 0 && col != memory.Col;
+    if (onCell && (!sorted || onAnotherHeading)) {
         sorted = true;
         grid.Select(0, col);
         grid.Sort(sortOrderOf(index, col));

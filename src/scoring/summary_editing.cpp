@@ -142,7 +142,7 @@ std::string frmBrenica::summaryTip(int index, int row, int col) const {
     };
     const ui::Grid& grid = flxSummary(index);
     for (const CrossTableTips& table : Tables) {
-        if (table.Member != index) continue;
+        if (table.Member != index || row < 0) continue;
         if (row == grid.Rows() - 2) return table.TotalByUnit;
         if (row == grid.Rows() - 1) return table.CountByUnit;
         if (row != 0 || col < 1 || global_.TotalSpecies < 1) return "";

@@ -162,8 +162,8 @@ double leadingNumber(std::string_view text) {
     const std::size_t length = numberLength(start);
     if (length == 0) return 0;
     const Conversion conversion = valueOf(start.substr(0, length));
-    if (conversion.Error) raise(*conversion.Error);
-    return conversion.Value;
+    if (!conversion.Error) return conversion.Value;
+    return start.front() == '-' ? std::numeric_limits<double>::lowest() : std::numeric_limits<double>::max();
 }
 
 std::string toText(std::int32_t value) { return std::to_string(value); }

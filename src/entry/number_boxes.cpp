@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "entry/number_boxes.h"
 
+#include <algorithm>
+
 #include "entry/modErrorHandling.h"
 #include "entry/modGeneralUtilities.h"
 #include "entry/modValidationUtilities.h"
@@ -78,8 +80,9 @@ std::vector<NumberBox> frmBrenica::makeNumberBoxes() {
 }
 
 void frmBrenica::numberBox_Change(const NumberBox& box) try {
-    const std::string maximum =
-        box.Maximum != nullptr ? std::string(box.Maximum) : ui::toText(box.MaximumRows->Rows() - 1);
+    // A grid that has lost even its heading has no row: bounds that exclude each other would never come to rest.
+    const std::string maximum = box.Maximum != nullptr ? std::string(box.Maximum)
+                                                       : ui::toText(std::max(box.MaximumRows->Rows() - 1, 0));
     modValidationUtilities::CheckTotal(platform(), *box.Bounded, box.Name, box.Minimum, maximum, box.Default);
     if (box.Normalises) box.Box->Text(ui::toText(box.Box->Long()));
     if (box.Store != nullptr) (this->*box.Store)();

@@ -150,6 +150,8 @@ public:
     /// Types a key into the editor; Enter, Tab and the arrows commit and move, Escape cancels.
     void UserEditKey(int key);
     bool UserEditPaste(std::string_view text);
+    /// Chooses an item of the open cell's list.
+    bool UserEditChoose(std::string_view item);
     bool UserCommitEdit();
     void UserCancelEdit();
     /// Empties the current cell through an edit of its own; a cell with a list, or one that refuses, keeps its text.

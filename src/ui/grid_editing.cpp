@@ -59,7 +59,7 @@ void Grid::UserEditKey(int key) {
         if (UserCommitEdit()) UserMoveTo(row_ + step->Rows, col_ + step->Cols);
         return;
     }
-    if (key < ' ' && key != BackspaceKey) return;
+    if (!isPrintable(key) && key != BackspaceKey) return;
     KeyPressEdit(row_, col_, key);
     if (key == 0) return;
     TextEditor typed = editor_;
@@ -70,8 +70,15 @@ void Grid::UserEditKey(int key) {
 bool Grid::UserEditPaste(std::string_view text) {
     if (!editing_) return false;
     TextEditor pasted = editor_;
-    pasted.Insert(text);
+    pasted.Insert(asOneLine(text));
     return accept(std::move(pasted));
+}
+
+bool Grid::UserEditChoose(std::string_view item) {
+    if (!editing_) return false;
+    TextEditor chosen;
+    chosen.Text(std::string(item));
+    return accept(std::move(chosen));
 }
 
 bool Grid::UserCommitEdit() {
@@ -129,7 +136,8 @@ bool Grid::accept(TextEditor edited) {
             platform().beep();
             return false;
         }
-        if (*item != edited.Text()) edited.Text(std::string(*item));
+        edited.Text(std::string(*item));
+        edited.SelectAll();
     }
     editor_ = std::move(edited);
     return true;

@@ -29,19 +29,12 @@ void TabStrip::UserSelectTab(int index) {
     if (acceptsUserAction()) SelectedItem(index);
 }
 
-const std::vector<int>& TabStrip::captionWidths() const {
-    if (captionWidths_.empty()) {
-        for (const Tab& tab : tabs_) captionWidths_.push_back(platform().textWidth(tab.Caption, Font{}));
-    }
-    return captionWidths_;
-}
-
 std::vector<TabPlace> TabStrip::TabPlaces() const {
     std::vector<TabPlace> places;
     int left = 0;
     int top = 0;
-    for (const int captionWidth : captionWidths()) {
-        const int width = std::min(captionWidth + RoomBesideCaption, std::max(Width(), 0));
+    for (const Tab& tab : tabs_) {
+        const int width = std::min(platform().textWidth(tab.Caption, Font{}) + RoomBesideCaption, Width());
         if (left > 0 && left + width > Width()) {
             left = 0;
             top += RowHeight;

@@ -50,10 +50,7 @@ public:
     static constexpr int RowHeight = 300;
 
 private:
-    const std::vector<int>& captionWidths() const;
-
     std::vector<Tab> tabs_;
-    mutable std::vector<int> captionWidths_;  // measured once: captions never change
     int selectedItem_ = 1;
 };
 

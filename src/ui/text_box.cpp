@@ -30,7 +30,7 @@ void TextBox::UserFocus() {
 }
 
 void TextBox::UserKey(int key) {
-    const bool reachesBox = key >= ' ' || key == BackspaceKey || key == EnterKey || key == EscapeKey;
+    const bool reachesBox = isPrintable(key) || key == BackspaceKey || key == EnterKey || key == EscapeKey;
     if (!reachesBox || !acceptsUserAction()) return;
     KeyPress(key);
     if (key == 0) return;
@@ -39,7 +39,7 @@ void TextBox::UserKey(int key) {
 
 void TextBox::UserPaste(std::string_view text) {
     if (!acceptsUserAction()) return;
-    edit([&] { editor_.Insert(text); });
+    edit([&] { editor_.Insert(asOneLine(text)); });
 }
 
 }  // namespace ui

@@ -9,6 +9,12 @@
 
 namespace ui {
 
+std::string asOneLine(std::string_view text) {
+    std::string line(text.substr(0, text.find_first_of("\r\n")));
+    std::replace(line.begin(), line.end(), '\t', ' ');
+    return line;
+}
+
 void TextEditor::Text(std::string text) {
     text_ = std::move(text);
     Select(static_cast<int>(length(text_)), 0);
@@ -33,7 +39,7 @@ void TextEditor::Type(int key) {
     if (key == BackspaceKey) {
         if (selLength_ == 0 && selStart_ > 0) Select(selStart_ - 1, 1);
         Insert("");
-    } else if (key >= ' ') {
+    } else if (isPrintable(key)) {
         std::string typed;
         appendCharacter(typed, static_cast<char32_t>(key));
         Insert(typed);

@@ -17,6 +17,12 @@ inline constexpr int UpKey = -2;
 inline constexpr int RightKey = -3;
 inline constexpr int DownKey = -4;
 
+/// Whether a key is a character that a text can take.
+constexpr bool isPrintable(int key) { return key >= ' ' && !(key >= 127 && key < 160); }
+
+/// What a paste into one line takes of a text: up to the first line break, tabs as blanks.
+std::string asOneLine(std::string_view text);
+
 /// A line of text with a caret and a selection, both counted in characters. What a box and a cell editor share.
 class TextEditor {
 public:

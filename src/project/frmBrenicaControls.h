@@ -125,7 +125,7 @@ struct frmBrenicaControls : ui::FormWindow {
         {{.Caption = "Continuous data"},
          {.Caption = "Default bins (0-1, 1-10, 10-25, 25-50, 50-100, 100+ square kilometers)"},
          {.Caption = "User-defined bins (in square kilometers)"}}};
-    ui::Grid flxBins{fraLandCharInfo(3), "flxBins"};
+    ui::Grid flxBins{fraLandCharInfo(3), "flxBins", {.Enabled = false}};
     ui::Label lblAddBins{fraLandCharInfo(3), "lblAddBins", {.Caption = "Add"}};
     ui::TextBox txtTotalBins{fraLandCharInfo(3), "txtTotalBins", "0"};
     ui::Label lblNewBins{fraLandCharInfo(3), "lblNewBins", {.Caption = "new breakpoints"}};

@@ -20,10 +20,10 @@ void center(ui::Control& control, const ui::Control& form, int top) {
 
 }  // namespace
 
-frmSplash::frmSplash(ui::Platform& platform, std::function<void()> showMainForm)
+frmSplash::frmSplash(ui::Platform& platform, std::function<void()> showMainForm, ui::Size picture)
     : FormWindow(platform, "frmSplash"), showMainForm_(std::move(showMainForm)) {
     Caption(ui::ApplicationTitle);
-    imgSplash.Move(0, 0, 10000, 6000);
+    imgSplash.Move(0, 0, picture.Width, picture.Height);
     picHalvornLogo.Move(0, 0, 1200, 1200);
     lblBrenicaSoftware.Move(0, 0, 6000, 700);
     lblVersion.Move(0, 0, 3000, 400);
@@ -57,9 +57,18 @@ void frmSplash::Form_Load() {
 
 /// The pending events that are let through may be another click: it must not start a second main form.
 void frmSplash::handOver() {
-    if (std::exchange(handingOver_, true)) return;
-    showMainForm_();
+    if (Unloaded() || std::exchange(handingOver_, true)) return;
+    try {
+        showMainForm_();
+    } catch (...) {
+        unloadSplash();
+        throw;
+    }
     platform().processPendingEvents();
+    unloadSplash();
+}
+
+void frmSplash::unloadSplash() {
     SplashTimer.Enabled = false;
     Unload();
     Form_Unload();

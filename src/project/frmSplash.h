@@ -12,7 +12,8 @@
 class frmSplash : public ui::FormWindow {
 public:
     /// `showMainForm` shows the main form, which runs its load in full.
-    frmSplash(ui::Platform& platform, std::function<void()> showMainForm);
+    /// `picture` is the size of the platform's splash picture.
+    frmSplash(ui::Platform& platform, std::function<void()> showMainForm, ui::Size picture = {10000, 6000});
 
     ui::Picture imgSplash{*this, "imgSplash"};
     ui::Picture picHalvornLogo{*this, "picHalvornLogo"};
@@ -24,6 +25,7 @@ public:
 private:
     void Form_Load();
     void handOver();
+    void unloadSplash();
     void Form_Unload();
 
     std::function<void()> showMainForm_;

@@ -18,8 +18,11 @@ public:
     frmSplash* Splash() const { return splash_.get(); }
     /// Nothing until the splash hands over.
     frmBrenica* MainForm() const { return mainForm_.get(); }
-    /// Whether the program has ended: its main form was unloaded.
-    bool Ended() const { return mainForm_ != nullptr && mainForm_->Unloaded(); }
+    /// Whether the program has ended: its main form was unloaded, or the splash before there was one.
+    bool Ended() const {
+        if (mainForm_ != nullptr) return mainForm_->Unloaded();
+        return splash_ != nullptr && splash_->Unloaded();
+    }
     ui::Files& GetFiles() { return files_; }
     modGlobal& Global() { return global_; }
 

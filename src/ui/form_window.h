@@ -36,7 +36,7 @@ public:
     void Unload() { unloaded_ = true; }
     bool Unloaded() const { return unloaded_; }
 
-    /// A click beside all controls, and a key of any kind.
+    /// A click that no control takes, as pictures and labels take none, and a key of any kind.
     void UserClick() { Click(); }
     void UserKeyPress() { KeyPress(); }
     void UserResize(ui::WindowState state, int left, int top, int width, int height);

@@ -72,8 +72,7 @@ std::vector<HeadingTips> frmBrenica::makeHeadingTips() {
 }
 
 void frmBrenica::wireHeadingTips() {
-    for (HeadingTips& tips : headingTips_)
-        tips.Grid->MouseMove = [this, &tips] { headingTips_MouseMove(tips); };
+    for (HeadingTips& tips : headingTips_) tips.Grid->MouseMove = [&tips] { headingTips_MouseMove(tips); };
 }
 
 /// Only headings are remembered: a mouse that comes back from the body to the same heading finds no tip there until it

@@ -14,12 +14,14 @@ constexpr int LastCase = 6;
 /// How the fields of a record go to the columns of its row from column 1 on: as they are, or without the number that
 /// stands before them.
 struct RecordForm {
+    enum class Order { Plain, Numbered, NumberedIfNumeric };
+
     int Fields;
-    enum { Plain, Numbered, NumberedIfNumeric } Kind;
+    Order Kind;
 };
 
 const std::vector<RecordForm>& formsOf(int importCase) {
-    using enum decltype(RecordForm::Kind);
+    using enum RecordForm::Order;
     static const std::vector<RecordForm> Species = {{1, Plain}, {2, Plain}, {3, Numbered}};
     static const std::vector<RecordForm> Units = {
         {1, Plain}, {2, NumberedIfNumeric}, {3, NumberedIfNumeric}, {4, Numbered}};
@@ -43,8 +45,8 @@ std::vector<std::string> fieldsToStore(int importCase, const std::vector<std::st
     for (const RecordForm& form : formsOf(importCase)) {
         if (form.Fields != static_cast<int>(fields.size())) continue;
         const bool numbered =
-            form.Kind == RecordForm::Numbered ||
-            (form.Kind == RecordForm::NumberedIfNumeric && ui::isNumeric(fields[0], separator));
+            form.Kind == RecordForm::Order::Numbered ||
+            (form.Kind == RecordForm::Order::NumberedIfNumeric && ui::isNumeric(fields[0], separator));
         return {fields.begin() + (numbered ? 1 : 0), fields.end()};
     }
     return {};

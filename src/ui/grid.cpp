@@ -16,8 +16,16 @@ constexpr int ScrollBarWidth = 255;
 constexpr int RowHeight = 240;
 constexpr int CellPadding = 120;
 // More cells than any landscape has, and few enough that a slip of the finger does not exhaust the machine.
-constexpr long long MostCells = 1LL << 25;
+constexpr long long MostCells = 1LL << 24;
 const Font CellFont{};
+
+/// Keeps the elements that both sizes have.
+template <class T>
+void resizeArray(std::unique_ptr<T[]>& array, std::size_t before, std::size_t after) {
+    auto resized = std::make_unique<T[]>(after);
+    std::move(array.get(), array.get() + std::min(before, after), resized.get());
+    array = std::move(resized);
+}
 
 }  // namespace
 
@@ -49,10 +57,11 @@ void Grid::Rows(int count) {
 void Grid::Cols(int count) {
     requireRoomFor(Rows(), count);
     if (count == Cols()) return;
+    const std::size_t before = columns_.size();
     columns_.resize(static_cast<std::size_t>(count));
     for (std::size_t i = 0; i < rows_.size(); ++i) {
-        rows_[i].Cells.resize(columns_.size());
-        if (!rows_[i].Formats.empty()) rows_[i].Formats.resize(columns_.size());
+        resizeArray(rows_[i].Cells, before, columns_.size());
+        if (rows_[i].Formats) resizeArray(rows_[i].Formats, before, columns_.size());
     }
     keepCurrentCellInside();
 }
@@ -61,7 +70,7 @@ void Grid::AddItem(std::string_view text, int row) {
     if (row < 0 || row > Rows()) raise(ErrorNumber::SubscriptOutOfRange);
     requireRoomFor(Rows() + 1, Cols());
     RowData added = emptyRow();
-    if (!added.Cells.empty()) added.Cells.front() = text;
+    if (!columns_.empty()) added.Cells[0] = text;
     rows_.insert(static_cast<std::size_t>(row), std::move(added));
     forgetWidths();
 }
@@ -113,7 +122,7 @@ const Grid::CellFormat& Grid::format(int row, int col) const {
     static const CellFormat Unset;
     requireCell(row, col);
     const RowData& data = rows_[static_cast<std::size_t>(row)];
-    return data.Formats.empty() ? Unset : data.Formats[static_cast<std::size_t>(col)];
+    return data.Formats ? data.Formats[static_cast<std::size_t>(col)] : Unset;
 }
 
 /// Changes the format of each selected cell; a row gets formats only when one of its cells needs one.
@@ -129,9 +138,9 @@ void Grid::changeFormats(Change change) {
     const bool needsFormats = !same(unset, CellFormat());
     const CellRange range = selection();
     for (int row = range.FirstRow; row <= range.LastRow; ++row) {
-        std::vector<CellFormat>& formats = rows_[static_cast<std::size_t>(row)].Formats;
-        if (formats.empty() && !needsFormats) continue;
-        formats.resize(columns_.size());
+        std::unique_ptr<CellFormat[]>& formats = rows_[static_cast<std::size_t>(row)].Formats;
+        if (!formats && !needsFormats) continue;
+        if (!formats) formats = std::make_unique<CellFormat[]>(columns_.size());
         for (int col = range.FirstCol; col <= range.LastCol; ++col)
             change(formats[static_cast<std::size_t>(col)]);
     }

@@ -168,9 +168,11 @@ private:
         CheckState Checked = CheckState::None;
         bool Bold = false;
     };
+    /// As many cells as the grid has columns; formats only while a cell of the row has one. Two pointers, since rows
+    /// are moved when others are put in or taken out.
     struct RowData {
-        std::vector<std::string> Cells;
-        std::vector<CellFormat> Formats;  // empty while no cell of the row has one
+        std::unique_ptr<std::string[]> Cells;
+        std::unique_ptr<CellFormat[]> Formats;
     };
     struct ColumnData {
         int Width = DefaultColumnWidth;
@@ -202,7 +204,7 @@ private:
     const CellFormat& format(int row, int col) const;
     const ColumnData& column(int col) const;
     ColumnData& column(int col);
-    RowData emptyRow() const { return {std::vector<std::string>(columns_.size()), {}}; }
+    RowData emptyRow() const { return {std::make_unique<std::string[]>(columns_.size()), nullptr}; }
     void forgetWidths();
     void keepCurrentCellInside();
     CellRange selection() const;

@@ -94,6 +94,7 @@ private:
     ExitCode walkAndSelect();
     void sayWhatIsMissing();
     void writeOutputs(const Outputs& outputs, ExitCode code);
+    void writeMessages(OutputFile& file);
     void writeResults(OutputFile& file);
     void writeTables();
     void printSuite();
@@ -179,15 +180,19 @@ void BatchRun::sayWhatIsMissing() {
     }
 }
 
+/// The messages come first: they are written whatever becomes of the other files.
 void BatchRun::writeOutputs(const Outputs& outputs, ExitCode code) {
+    if (outputs.Messages) writeMessages(*outputs.Messages);
     if (outputs.Results && code == ExitDone) writeResults(*outputs.Results);
     if (options_.Tables && code != ExitUnreadableProject) writeTables();
-    if (!outputs.Messages) return;
+}
+
+void BatchRun::writeMessages(OutputFile& file) {
     try {
-        outputs.Messages->write(messageLines(platform_.Transcript));
-        outputs.Messages->commit();
+        file.write(messageLines(platform_.Transcript));
+        file.commit();
     } catch (const ui::RunTimeError& error) {
-        throw UsageFault{outputs.Messages->path() + ": cannot be written: " + error.Description};
+        throw UsageFault{file.path() + ": cannot be written: " + error.Description};
     }
 }
 

@@ -110,8 +110,8 @@ void frmBrenica::arrangeCriteriaPage() {
     Flow last(Edge, lastTop, page.Width() - Edge, BoxHeight);
     last.add({{lblDataQuality, widthOf(lblDataQuality), LabelHeight},
               {cbxDataQuality, widthOf(cbxDataQuality), BoxHeight}});
-    last.add({{lblCCS, widthOf(lblCCS), LabelHeight},
-              {txtCCS, boxWidth(txtCCS, LongestProportion), BoxHeight}});
+    last.add(
+        {{lblCCS, widthOf(lblCCS), LabelHeight}, {txtCCS, boxWidth(txtCCS, LongestProportion), BoxHeight}});
 
     tabCriteria.Move(Edge, stripTop, page.Width() - 2 * Edge, lastTop - Gap - stripTop);
     for (ui::Frame& frame : fraCriteria) moveTo(frame, restBelow(tabCriteria, tabCriteria.HeaderHeight()));
@@ -124,9 +124,8 @@ void frmBrenica::arrangeAreaFrame() {
     constexpr int RowPitch = 450;
     const ui::Frame& frame = fraCriteria(1);
     int labelWidth = 0;
-    for (const ui::Label* label :
-         {&lblDispersalYN, &lblConnectivity, &lblContinuousHR, &lblDefaultBinsHR, &lblUserDefBinsHR,
-          &lblPropOccupied}) {
+    for (const ui::Label* label : {&lblDispersalYN, &lblConnectivity, &lblContinuousHR, &lblDefaultBinsHR,
+                                   &lblUserDefBinsHR, &lblPropOccupied}) {
         labelWidth = std::max(labelWidth, widthOf(*label));
     }
     const auto place = [&](int row, ui::Label& label, ui::Control& box, int boxWidth) {

@@ -36,15 +36,15 @@ struct WindowSize {
 };
 
 std::string nameOf(const WindowSize& size) {
-    return std::string(size.State == WindowState::Normal ? "Normal" : "Maximized") + std::to_string(size.Width) +
-           "x" + std::to_string(size.Height);
+    return std::string(size.State == WindowState::Normal ? "Normal" : "Maximized") +
+           std::to_string(size.Width) + "x" + std::to_string(size.Height);
 }
 
 void PrintTo(const WindowSize& size, std::ostream* out) { *out << nameOf(size); }
 
 std::string describe(const ui::Control& control) {
-    return control.Name() + " at " + std::to_string(control.Left()) + "," + std::to_string(control.Top()) + " " +
-           std::to_string(control.Width()) + "x" + std::to_string(control.Height());
+    return control.Name() + " at " + std::to_string(control.Left()) + "," + std::to_string(control.Top()) +
+           " " + std::to_string(control.Width()) + "x" + std::to_string(control.Height());
 }
 
 bool overlap(const ui::Control& a, const ui::Control& b) {
@@ -108,8 +108,8 @@ protected:
             EXPECT_LE(places[i].Left + places[i].Width, strip.Width()) << caption;
             EXPECT_LE(places[i].Top + places[i].Height, strip.HeaderHeight()) << caption;
             for (std::size_t k = 0; k < i; ++k) {
-                const bool apart = places[k].Top != places[i].Top ||
-                                   places[k].Left + places[k].Width <= places[i].Left;
+                const bool apart =
+                    places[k].Top != places[i].Top || places[k].Left + places[k].Width <= places[i].Left;
                 EXPECT_TRUE(apart) << caption << " on " << strip.Tabs()[k].Caption;
             }
         }
@@ -118,14 +118,15 @@ protected:
     /// The longest text that a box admits.
     std::string longestText(const ui::TextBox& box) {
         if (&box == &form.txtContinuousHR) return "10000000";
-        const std::set<const ui::TextBox*> proportions = {&form.txtPropOccupied, &form.txtCCS, &form.txtCCSRep,
-                                                          &form.txtThreatRep, &form.txtErrorMargin};
+        const std::set<const ui::TextBox*> proportions = {
+            &form.txtPropOccupied, &form.txtCCS, &form.txtCCSRep, &form.txtThreatRep, &form.txtErrorMargin};
         return proportions.count(&box) != 0 ? "0.999999" : "1000";
     }
 
     void expectTextsFit(const ui::Control& control) {
         if (const auto* box = dynamic_cast<const ui::TextBox*>(&control)) {
-            EXPECT_LE(textWidth(longestText(*box)) + leastPadding(box->Kind()), box->Width()) << describe(*box);
+            EXPECT_LE(textWidth(longestText(*box)) + leastPadding(box->Kind()), box->Width())
+                << describe(*box);
         }
         if (const auto* box = dynamic_cast<const ui::ComboBox*>(&control)) {
             for (int i = 0; i < box->ListCount(); ++i)
@@ -154,7 +155,8 @@ protected:
             if (const auto* grid = dynamic_cast<const ui::Grid*>(&control)) expectColumnsFill(*grid);
             for (std::size_t k = 0; k < i; ++k) {
                 if (&shown[k]->Container() != &control.Container()) continue;
-                EXPECT_FALSE(overlap(*shown[k], control)) << describe(*shown[k]) << " and " << describe(control);
+                EXPECT_FALSE(overlap(*shown[k], control))
+                    << describe(*shown[k]) << " and " << describe(control);
             }
         }
     }
@@ -203,7 +205,8 @@ protected:
 
     void expectGoodViews() {
         onEveryView([this](const std::string& view) {
-            EXPECT_TRUE(platform.Transcript.empty() || platform.Transcript.back().BoxKind != ShownBox::Kind::Message)
+            EXPECT_TRUE(platform.Transcript.empty() ||
+                        platform.Transcript.back().BoxKind != ShownBox::Kind::Message)
                 << view << ": " << lastBox().Text;
             expectGoodView(view);
         });
@@ -366,7 +369,9 @@ TEST_F(FormLayoutTest, AResizeInsideAResizeIsNotLaidOut) {
 }
 
 TEST_F(FormLayoutTest, AFailureOfTheLayoutIsReportedUnderItsName) {
-    platform.TextWidth = [](std::string_view, const ui::Font&) -> int { ui::raise(ui::ErrorNumber::Overflow); };
+    platform.TextWidth = [](std::string_view, const ui::Font&) -> int {
+        ui::raise(ui::ErrorNumber::Overflow);
+    };
     const ui::RunTimeError error = failureOf([&] { form.ResizeForm(); });
     EXPECT_EQ(error.Description, reportOf("Brenica.ResizeForm", 6, "Overflow"));
 }
@@ -390,7 +395,9 @@ TEST_F(FormLayoutTest, AFailureInAListFrameEndsItSilently) {
 
 TEST_F(FormLayoutTest, AFailureOfAFitOnAPageMoveIsReported) {
     open(ProjectText(2, 2, 2, 2));
-    platform.TextWidth = [](std::string_view, const ui::Font&) -> int { ui::raise(ui::ErrorNumber::Overflow); };
+    platform.TextWidth = [](std::string_view, const ui::Font&) -> int {
+        ui::raise(ui::ErrorNumber::Overflow);
+    };
     const ui::RunTimeError error = failureOf([&] { goTo(3); });
     EXPECT_EQ(error.Description, reportOf("FlexGridUtilities.ResizeGrid", 6, "Overflow"));
 }
@@ -490,7 +497,8 @@ TEST_F(FormLayoutTest, GridsAndChartsEndAtTheBottomOfWhatHoldsThem) {
     for (ui::Control* control : form.Controls()) {
         const bool view = control->Kind() == ControlKind::Grid || control->Kind() == ControlKind::Chart;
         if (!view || control == &form.flxSummary(summary::HabitatUse)) continue;
-        EXPECT_EQ(control->Top() + control->Height(), control->Container().Height() - 50) << describe(*control);
+        EXPECT_EQ(control->Top() + control->Height(), control->Container().Height() - 50)
+            << describe(*control);
     }
 }
 
@@ -506,9 +514,9 @@ TEST_F(FormLayoutTest, AllTablesAndChartsOfTheScoresHaveOnePlace) {
     open(ProjectText(3, 3, 3, 3));
     maximise();
     goTo(6);
-    for (ui::Control* control : std::initializer_list<ui::Control*>{
-             &form.flxScores(0), &form.flxScores(1), &form.flxScoresSort(1), &form.chtScores(0),
-             &form.chtScores(1), &form.chtScores(2)}) {
+    for (ui::Control* control :
+         std::initializer_list<ui::Control*>{&form.flxScores(0), &form.flxScores(1), &form.flxScoresSort(1),
+                                             &form.chtScores(0), &form.chtScores(1), &form.chtScores(2)}) {
         EXPECT_EQ(control->Left(), form.flxScoresSort(0).Left()) << control->Name();
         EXPECT_EQ(control->Top(), form.flxScoresSort(0).Top()) << control->Name();
         EXPECT_EQ(control->Height(), form.flxScoresSort(0).Height()) << control->Name();

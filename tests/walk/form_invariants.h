@@ -21,6 +21,8 @@ struct Leeway {
     /// Removing a habitat or zone shifts no cells of its cross table.
     bool StrayHabitatCells = false;
     bool StrayZoneCells = false;
+    /// A rating edited in the table by activity while there is no activity goes to the first row of the table by species.
+    bool StrayRatings = false;
     /// Removal leaves the data quality table's rows as they are: how many there were.
     int DataQualityRows = 1;
     int SpeciesBefore = 0;
@@ -54,8 +56,20 @@ public:
         names();
         if (!leeway_.StrayHabitatCells) copiesOfUse(summary::HabitatUse, global_.TotalHabitatTypes);
         if (!leeway_.StrayZoneCells) copiesOfUse(summary::JurisUnitUse, global_.TotalJurisUnits);
-        copiesOfThreats();
+        if (!leeway_.StrayRatings) copiesOfThreats();
         return std::move(problems_);
+    }
+
+    bool ratingsDifferWithoutActivities() const {
+        if (global_.TotalLandUses > 0) return false;
+        for (int s = 1; s <= global_.TotalSpecies; ++s) {
+            for (int i = 0; i < 3; ++i) {
+                if (form_.flxSummary(6).TextMatrix(s, threat::Severity + i) !=
+                    form_.flxSummary(7).TextMatrix(s, 2 + i))
+                    return true;
+            }
+        }
+        return false;
     }
 
     /// What holds even of a project that a command has left halfway.

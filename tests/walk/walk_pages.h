@@ -115,13 +115,13 @@ private:
     void listPage(const ListPage& page) {
         walker_.randomAnswers();
         const bool bins = &page.Grid == &form_.flxBins;
+        // Without even a heading row there is no number that the bounds of the box to remove a row allow.
+        if (page.Grid.Rows() == 0) return addRows(page, bins);
         switch (random_.below(12)) {
             case 0:
             case 1: return addRows(page, bins);
             case 2: return numberBox(page.NewRows);
-            case 3:
-                // Without even a heading row the box has no number that its bounds allow.
-                return bins && form_.flxBins.Rows() == 0 ? focus(page.NewRows) : numberBox(page.RemoveIndex);
+            case 3: return numberBox(page.RemoveIndex);
             case 4:
                 put(page.RemoveIndex, std::to_string(random_.below(std::max(page.Grid.Rows(), 1))));
                 return push(Deed::RemoveRow, page.Remove);

@@ -160,6 +160,7 @@ inline void Walker::lookOver(Deed deed) {
     noteRemovals();
     report(invariants.problems());
     if (running()) report(invariants.problemsOfView());
+    if (running() && invariants.ratingsDifferWithoutActivities()) leeway_.StrayRatings = true;
     if (running() && deed != Deed::MouseMove) report(invariants.problemsOfContent());
     trackShapes();
 }

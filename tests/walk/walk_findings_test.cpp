@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 The Brenica developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/form_test.h"
+
+/// What random walks have come upon, each by the shortest way.
+using WalkFindings = FormTest;
+
+// The box for new breakpoints is not held within bounds, so that -1 takes even the heading row of the list. The box to
+// remove a breakpoint then has no number between its bounds, 0 and -1: each one that it is set to calls for the other.
+// The two must not take turns until the program's stack is full.
+TEST_F(WalkFindings, DISABLED_RemoveBoxOfAListWithoutHeadingRowComesToRest) {
+    goTo(2);
+    form.optLandChar(3).UserClick();
+    form.optHomeRangeType(2).UserClick();
+    form.txtTotalBins.SelStart(0);
+    form.txtTotalBins.SelLength(1);
+    form.txtTotalBins.UserPaste("-1");
+    form.cmdUpdateBins.UserClick();
+    ASSERT_EQ(form.flxBins.Rows(), 0);
+    ASSERT_EQ(global.TotalBins, -1);
+    try {
+        form.txtRemoveBinIndex.UserKey('5');
+    } catch (const ui::RunTimeError& error) {
+        EXPECT_THAT(error.Description, testing::StartsWith("Unexpected error in Brenica System."));
+    }
+    SUCCEED() << "came to rest at " << form.txtRemoveBinIndex.Text();
+}
+
+// Walks 10898884866352864291 and 1235451515574417066: the row of the table by species is counted in blocks of no rows.
+TEST_F(WalkFindings, RatingEditedByActivityWithoutActivitiesGoesToTheFirstRow) {
+    open(ProjectText(2, 1, 1, 0));
+    goTo(4);
+    form.tabCriteriaSummary.UserSelectTab(6);
+    form.chkAllowSummaryEdit.UserClick();
+    ASSERT_TRUE(form.flxSummary(7).UserEditCell(2, 2, "3"));
+    EXPECT_EQ(form.flxSummary(6).TextMatrix(1, threat::Severity), "3");
+    EXPECT_EQ(form.flxSummary(6).TextMatrix(2, threat::Severity), "");
+}

@@ -115,8 +115,6 @@ private:
     void listPage(const ListPage& page) {
         walker_.randomAnswers();
         const bool bins = &page.Grid == &form_.flxBins;
-        // Without even a heading row there is no number that the bounds of the box to remove a row allow.
-        if (page.Grid.Rows() == 0) return addRows(page, bins);
         switch (random_.below(12)) {
             case 0:
             case 1: return addRows(page, bins);

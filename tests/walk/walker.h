@@ -47,6 +47,8 @@ public:
 
     /// Saves the project as it stands; the path, or nothing where a save is not possible.
     std::string saveNow();
+    /// Whether a file saved now gives grids in step.
+    bool savesInStep();
     bool running() const { return End == WalkEnd::Running; }
     void act(Deed deed, const std::string& detail, const std::function<void()>& action);
 
@@ -81,7 +83,7 @@ private:
     void openProject();
     void saveProject();
     ProjectFile randomProjectFile();
-    bool savesInStep();
+
     std::string newPath(const char* extension) {
         return folder_.file("f" + std::to_string(++fileNumber_) + extension);
     }
@@ -204,6 +206,7 @@ inline void Walker::projectCommand(Deed deed, ui::MenuItem& item, const ProjectF
     }
     const std::string title = form.Caption();
     const bool savePossible = !files.IsOpen(2);
+    const bool openPossible = !files.IsOpen(1) && !form.ProjectLoading;
     bool reached = false;
     act(deed, opened != nullptr ? opened->Path : "", [&] {
         files.ClearLastFault();
@@ -232,6 +235,8 @@ inline void Walker::projectCommand(Deed deed, ui::MenuItem& item, const ProjectF
                 defect("a file that cannot be opened leaves no empty project");
         } else {
             OutOfStep = true;
+            if (opened != nullptr && opened->InStep && openPossible && form.ProjectLoading)
+                defect("a sound file cannot be read");
         }
         if (!finished && form.Caption() != title) defect("a failed open changed the title");
         noteStrays();
@@ -289,6 +294,8 @@ inline std::string Walker::saveNow() {
 /// list at all: then what is opened again may not fit.
 inline bool Walker::savesInStep() {
     if (OutOfStep) return false;
+    // Without activities each species still has a row of ratings, which is written; reading it divides by their number.
+    if (global.TotalSpecies > 1 && global.TotalLandUses == 0) return false;
     for (const ui::Grid* grid : {&form.flxCandidateSpecies, &form.flxHabitatTypes, &form.flxJurisUnits,
                                  &form.flxLandUses, &form.flxFunctions, &form.flxBins}) {
         if (grid->Rows() == 2 && ui::isBlank(grid->TextMatrix(1, list::Name))) return false;

@@ -47,7 +47,7 @@ std::optional<std::string> ScriptedPlatform::chooseFile(const ui::FileDialogRequ
 
 void ScriptedPlatform::copyPicture(const ui::Chart& chart) { CopiedPictures.push_back(chart.Name()); }
 
-void ScriptedPlatform::saveClipboardPicture(const std::string& path) {
+void ScriptedPlatform::SavePicture(const std::string& path) {
     if (BeforeSavePicture) BeforeSavePicture();
     SavedPictures.push_back(path);
 }

@@ -53,7 +53,7 @@ public:
     std::optional<std::string> chooseFile(const ui::FileDialogRequest& request) override;
     void beep() override { ++Beeps; }
     void copyPicture(const ui::Chart& chart) override;
-    void saveClipboardPicture(const std::string& path) override;
+    void SavePicture(const std::string& path) override;
     int textWidth(std::string_view text, const ui::Font& font) const override;
     ui::Size screenSize() const override { return Screen; }
     void setMousePointer(ui::MousePointer pointer) override { Pointer = pointer; }

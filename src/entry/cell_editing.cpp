@@ -94,8 +94,8 @@ void frmBrenica::filterCellKey(const CellEditing& editing, int col, int& key) tr
 void frmBrenica::validateCell(const CellEditing& editing, int col, bool& cancel) try {
     if (col != editing.NumberCol) return;
     const std::string& text = editing.Grid->EditText();
-    const bool noNumber = !text.empty() && !ui::isNumeric(text, separator());
-    const bool tooMuch = editing.Most && ui::leadingNumber(text) > *editing.Most;
+    const bool noNumber = !text.empty() && !ui::IsNumeric(text, separator());
+    const bool tooMuch = editing.Most && ui::Val(text) > *editing.Most;
     if (!noNumber && !tooMuch) return;
     platform().beep();
     cancel = true;

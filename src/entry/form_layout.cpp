@@ -101,7 +101,6 @@ void ArrangeHRFrameContents(const HomeRangePage& page, int topOffset) try {
 void frmBrenica::ResizeForm() try {
     if (WindowState() == ui::WindowState::Minimized || arranging_) return;
     const Pass pass(arranging_);
-    fitGridsWhenShown();
     if (WindowState() == ui::WindowState::Normal) {
         Move(NormalLeft, NormalTop, std::max(Width(), LeastWidth), std::max(Height(), LeastHeight));
     }

@@ -58,7 +58,7 @@ int bottomOf(const ui::Control& control) { return control.Top() + control.Height
 
 }  // namespace
 
-/// Runs before the first tab can be clicked, and again with every resize to no effect.
+/// A grid that is not on view is not fitted; it is when its page or tab comes on view.
 void frmBrenica::fitGridsWhenShown() {
     const auto fit = [this] {
         try {

@@ -72,9 +72,9 @@ int ValidateKey(ui::Platform& platform, int key, std::string_view allowed, bool 
 std::string ExtraNumericKeys(const ui::Platform& platform) try {
     const ui::DecimalSeparator separator = platform.decimalSeparator();
     std::string keys;
-    if (ui::isNumeric("0 0", separator)) keys += " ";
-    if (ui::isNumeric("0.0", separator)) keys += "\\.";
-    if (ui::isNumeric("0,0", separator)) keys += ",";
+    if (ui::IsNumeric("0 0", separator)) keys += " ";
+    if (ui::IsNumeric("0.0", separator)) keys += "\\.";
+    if (ui::IsNumeric("0,0", separator)) keys += ",";
     return keys;
 } catch (...) {
     ReportError(9999, "ValidationUtilities.ExtraNumericKeys", "");

@@ -52,7 +52,7 @@ void frmBrenica::MenuSelectionGraph(std::string_view action) try {
 
 void frmBrenica::saveGraph(ui::Chart& chart) try {
     chart.EditCopy();
-    platform().saveClipboardPicture(cdgFileDialog.FileName);
+    platform().SavePicture(cdgFileDialog.FileName);
 } catch (...) {
     platform().showMessage(CurrentError().Description, ui::ApplicationTitle, ui::MessageIcon::None);
 }

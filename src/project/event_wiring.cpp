@@ -17,7 +17,7 @@ frmBrenica::frmBrenica(ui::Platform& platform, ui::Files& files, modGlobal& glob
 }
 
 void frmBrenica::wireEvents() {
-    Resize = [this] { ResizeForm(); };
+    Resize = [this] { Form_Resize(); };
     tabBrenica.Click = [this] { tabBrenica_Click(); };
     wireMenu();
     wireLists();
@@ -28,6 +28,7 @@ void frmBrenica::wireEvents() {
     wireSummaryTables();
     wireScores();
     wireResults();
+    fitGridsWhenShown();
 }
 
 void frmBrenica::wireMenu() {

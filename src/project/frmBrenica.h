@@ -60,6 +60,7 @@ public:
     void optLandChar_Click(int index);
 
     // entry/form_layout.cpp
+    void Form_Resize() { ResizeForm(); }
     void ResizeForm();
 
     // entry/candidate_species.cpp

@@ -46,7 +46,7 @@ std::vector<std::string> fieldsToStore(int importCase, const std::vector<std::st
         if (form.Fields != static_cast<int>(fields.size())) continue;
         const bool numbered =
             form.Kind == RecordForm::Order::Numbered ||
-            (form.Kind == RecordForm::Order::NumberedIfNumeric && ui::isNumeric(fields[0], separator));
+            (form.Kind == RecordForm::Order::NumberedIfNumeric && ui::IsNumeric(fields[0], separator));
         return {fields.begin() + (numbered ? 1 : 0), fields.end()};
     }
     return {};

@@ -98,8 +98,8 @@ void frmBrenica::flxSummary_ValidateEdit(int index, int row, int col, bool& canc
                         row <= global_.TotalSpecies;
     if (!occupied && !status) return;
     const std::string& text = flxSummary(index).EditText();
-    const bool noNumber = !text.empty() && !ui::isNumeric(text, separator());
-    const double value = ui::leadingNumber(text);
+    const bool noNumber = !text.empty() && !ui::IsNumeric(text, separator());
+    const double value = ui::Val(text);
     if (!noNumber && value <= 1 && value >= 0) return;
     platform().beep();
     cancel = true;

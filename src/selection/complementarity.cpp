@@ -47,6 +47,7 @@ void frmBrenica::cmdComplement_Click() try {
     for (ui::OptionButton& button : optCompResults) button.Enabled(true);
     optCompResults(0).Value(true);
     cmdExportResults.Enabled(true);
+    fitShownGrids();
 } catch (...) {
     ReportError(9999, "Brenica.cmdComplement_Click", "");
 }

@@ -153,11 +153,11 @@ std::int32_t toLong(std::string_view text, DecimalSeparator separator) {
     return toLong(toReal(text, separator));
 }
 
-bool isNumeric(std::string_view text, DecimalSeparator separator) {
+bool IsNumeric(std::string_view text, DecimalSeparator separator) {
     return tryReal(text, separator).has_value();
 }
 
-double leadingNumber(std::string_view text) {
+double Val(std::string_view text) {
     const std::string_view start = trim(text);
     const std::size_t length = numberLength(start);
     if (length == 0) return 0;

@@ -32,11 +32,11 @@ std::int32_t toLong(double value);
 std::int32_t toLong(std::string_view text, DecimalSeparator separator = DecimalSeparator::Point);
 
 /// Whether toReal succeeds.
-bool isNumeric(std::string_view text, DecimalSeparator separator = DecimalSeparator::Point);
+bool IsNumeric(std::string_view text, DecimalSeparator separator = DecimalSeparator::Point);
 
 /// The number that the text begins with, after blanks; 0 where it begins with none. A point only, no grouping.
 /// Never raises: a number too large for a double is the largest one.
-double leadingNumber(std::string_view text);
+double Val(std::string_view text);
 
 /// Plain decimal text with at most 15 significant digits: no exponent, no trailing zeros, no "-0". Raises Overflow for
 /// what is no finite number.

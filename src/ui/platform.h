@@ -57,7 +57,7 @@ public:
     /// Puts the picture of a chart on the clipboard.
     virtual void copyPicture(const Chart& chart) = 0;
     /// Writes the picture that is on the clipboard to a bitmap file. Raises a file error when it cannot.
-    virtual void saveClipboardPicture(const std::string& path) = 0;
+    virtual void SavePicture(const std::string& path) = 0;
 
     /// Width in twips.
     virtual int textWidth(std::string_view text, const Font& font) const = 0;

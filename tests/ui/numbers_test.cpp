@@ -67,7 +67,7 @@ TEST(TextToReal, ReadsSignDigitsPointAndExponent) {
     for (const RealRow& row : Reals) {
         EXPECT_EQ(ui::toReal(row.Text), row.Value) << row.Text;
         EXPECT_EQ(ui::tryReal(row.Text), row.Value) << row.Text;
-        EXPECT_TRUE(ui::isNumeric(row.Text)) << row.Text;
+        EXPECT_TRUE(ui::IsNumeric(row.Text)) << row.Text;
     }
 }
 
@@ -79,7 +79,7 @@ TEST(TextToReal, RefusesAnythingElseAsATypeMismatch) {
           "1e1.5", "(1)", "1-",   "1_0",   "..5", "5..",  "+.",  "True", "N/A", "0 0"}) {
         EXPECT_EQ(errorOf([&] { ui::toReal(text); }), 13) << "'" << text << "'";
         EXPECT_FALSE(ui::tryReal(text)) << "'" << text << "'";
-        EXPECT_FALSE(ui::isNumeric(text)) << "'" << text << "'";
+        EXPECT_FALSE(ui::IsNumeric(text)) << "'" << text << "'";
     }
 }
 
@@ -87,7 +87,7 @@ TEST(TextToReal, EndsInOverflowBeyondTheRangeOfADouble) {
     for (const std::string& text : {std::string("1e309"), std::string("-1e309"), std::string("+1.8e308"),
                                     std::string("1e99999999999"), std::string(400, '9')}) {
         EXPECT_EQ(errorOf([&] { ui::toReal(text); }), 6) << text;
-        EXPECT_FALSE(ui::isNumeric(text)) << text;
+        EXPECT_FALSE(ui::IsNumeric(text)) << text;
     }
 }
 
@@ -213,12 +213,12 @@ TEST(LeadingNumber, ReadsAsFarAsTheTextIsANumber) {
     const std::vector<RealRow> rows = {{"12abc", 12},  {"1,5", 1}, {"-3.5x", -3.5}, {"  7 km", 7},
                                        {"1e3x", 1000}, {"1e", 1},  {"1e+", 1},      {".5", 0.5},
                                        {"5.", 5},      {"+2", 2},  {"1.2.3", 1.2},  {"1.2km", 1.2}};
-    for (const RealRow& row : rows) EXPECT_EQ(ui::leadingNumber(row.Text), row.Value) << row.Text;
+    for (const RealRow& row : rows) EXPECT_EQ(ui::Val(row.Text), row.Value) << row.Text;
 }
 
 TEST(LeadingNumber, IsZeroWhereTheTextBeginsWithNone) {
     for (const std::string text : {"", " ", "abc", "-", ".", "e5", ",5", "-x1", "km 5"})
-        EXPECT_EQ(ui::leadingNumber(text), 0) << text;
+        EXPECT_EQ(ui::Val(text), 0) << text;
 }
 
 TEST(WholeNumbers, RaiseInsteadOfWrapping) {

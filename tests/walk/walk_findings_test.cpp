@@ -31,3 +31,13 @@ TEST_F(WalkFindings, RatingEditedByActivityWithoutActivitiesGoesToTheFirstRow) {
     EXPECT_EQ(form.flxSummary(6).TextMatrix(1, threat::Severity), "3");
     EXPECT_EQ(form.flxSummary(6).TextMatrix(2, threat::Severity), "");
 }
+
+// Each area is a number, their sum is out of its range.
+TEST_F(WalkFindings, DISABLED_AreasWhoseSumIsOutOfRangeOverflow) {
+    open(ProjectText(1, 2, 1, 1)
+             .set("Home-range definition", "user-defined bins,1")
+             .set("Habitat Area", "1e308,1e308"));
+    goTo(2);
+    const ui::RunTimeError error = failureOf([&] { goTo(3); });
+    EXPECT_EQ(error.Description, reportOf("FlexGridUtilities.GetAreaTotal", 6, "Overflow"));
+}

@@ -109,7 +109,7 @@ double GetAreaTotal(const ui::Grid& grid, int count, std::vector<double>& areas)
     for (int row = 1; row <= count; ++row) {
         if (grid.TextMatrix(row, list::Area).empty()) return count;
         const double area = grid.Real(row, list::Area);
-        sum += area;
+        sum = ui::finite(sum + area);
         ui::elementAt(areas, row - 1) = area;
     }
     return sum;

@@ -83,10 +83,12 @@ void frmBrenica::SaveProject(const std::string& path) try {
     printColumn(projectfile::Occupied, flxSummary(summary::Area), area::Occupied, species);
     printColumn(projectfile::ConservationStatus, flxSummary(summary::Vulnerability),
                 vulnerability::ConservationStatus, species);
+    // Without activities each species has one row all the same, which is no rating.
     const ui::Grid& threats = flxSummary(summary::ThreatsBySpecies);
-    printColumn(projectfile::Severity, threats, threat::Severity, threats.Rows() - 1);
-    printColumn(projectfile::Recovery, threats, threat::Recovery, threats.Rows() - 1);
-    printColumn(projectfile::Proportion, threats, threat::Proportion, threats.Rows() - 1);
+    const int ratings = ui::multiplyLong(species, global_.TotalLandUses);
+    printColumn(projectfile::Severity, threats, threat::Severity, ratings);
+    printColumn(projectfile::Recovery, threats, threat::Recovery, ratings);
+    printColumn(projectfile::Proportion, threats, threat::Proportion, ratings);
     printNumbered(projectfile::Function, flxSummary(summary::Functionality));
     printNumbered(projectfile::SocioEcon, flxSummary(summary::SocioEcon));
     printNumbered(projectfile::DataQuality, flxSummary(summary::DataQuality));

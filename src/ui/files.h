@@ -47,6 +47,8 @@ public:
     void Print(int number, std::string_view line);
     /// Closing a number that is not open does nothing; one that fails to close stays open.
     void Close(int number);
+    /// Gives the number up, whatever becomes of the file.
+    void Abandon(int number) { open_.erase(number); }
 
     const std::optional<FileFault>& LastFault() const { return lastFault_; }
     void ClearLastFault() { lastFault_.reset(); }

@@ -128,8 +128,8 @@ public:
     int FillStyle = 0;
     int MergeCells = 0;
 
-    /// Writes every row and column, hidden and fixed ones included, as lines of tab-separated cells. The file is open
-    /// as number 2 meanwhile.
+    /// Writes every row and column, hidden and fixed ones included, as lines of tab-separated cells. A failure
+    /// leaves no file open.
     void SaveGrid(Files& files, const std::string& path, GridFileFormat format) const;
 
     // The edit session. ComboList is the list of items, separated by "|", that the cell to be edited offers.
@@ -213,6 +213,7 @@ private:
     void setCurrent(int row, int col);
     bool mayLeaveFor(int row, int col);
     int measure(int col) const;
+    void printRows(Files& files, int fileNumber) const;
     bool accept(TextEditor edited);
     void closeEditor();
 

@@ -63,8 +63,18 @@ void Grid::Sort(SortOrder order) {
 }
 
 void Grid::SaveGrid(Files& files, const std::string& path, GridFileFormat) const {
-    constexpr int FileNumber = 2;
+    constexpr int FileNumber = 3;  // its own: a project that failed to save keeps number 2
     files.Open(path, FileMode::Output, FileNumber);
+    try {
+        printRows(files, FileNumber);
+        files.Close(FileNumber);
+    } catch (...) {
+        files.Abandon(FileNumber);
+        throw;
+    }
+}
+
+void Grid::printRows(Files& files, int fileNumber) const {
     std::string line;
     for (int row = 0; row < Rows(); ++row) {
         line.clear();
@@ -72,9 +82,8 @@ void Grid::SaveGrid(Files& files, const std::string& path, GridFileFormat) const
             if (col > 0) line += '\t';
             line += TextMatrix(row, col);
         }
-        files.Print(FileNumber, line);
+        files.Print(fileNumber, line);
     }
-    files.Close(FileNumber);
 }
 
 }  // namespace ui

@@ -487,7 +487,7 @@ TEST_F(ExportFaults, TableThatFailsKeepsTheLongHeadings) {
 }
 
 // The grid writes its file itself, by its path; the number that a failed save keeps is none of its concern.
-TEST_F(ExportFaults, DISABLED_TableIsExportedAfterAFailedSave) {
+TEST_F(ExportFaults, TableIsExportedAfterAFailedSave) {
     Program program;
     program.open(first);
     program.failAt(Operation::Write, 3, ui::ErrorNumber::DiskFull, false);

@@ -33,7 +33,7 @@ TEST_F(WalkFindings, RatingEditedByActivityWithoutActivitiesGoesToTheFirstRow) {
 }
 
 // Each area is a number, their sum is out of its range.
-TEST_F(WalkFindings, DISABLED_AreasWhoseSumIsOutOfRangeOverflow) {
+TEST_F(WalkFindings, AreasWhoseSumIsOutOfRangeOverflow) {
     open(ProjectText(1, 2, 1, 1)
              .set("Home-range definition", "user-defined bins,1")
              .set("Habitat Area", "1e308,1e308"));

@@ -294,8 +294,6 @@ inline std::string Walker::saveNow() {
 /// list at all: then what is opened again may not fit.
 inline bool Walker::savesInStep() {
     if (OutOfStep) return false;
-    // Without activities each species still has a row of ratings, which is written; reading it divides by their number.
-    if (global.TotalSpecies > 1 && global.TotalLandUses == 0) return false;
     for (const ui::Grid* grid : {&form.flxCandidateSpecies, &form.flxHabitatTypes, &form.flxJurisUnits,
                                  &form.flxLandUses, &form.flxFunctions, &form.flxBins}) {
         if (grid->Rows() == 2 && ui::isBlank(grid->TextMatrix(1, list::Name))) return false;

@@ -22,8 +22,8 @@ public:
         Steps.push_back("copy");
         ScriptedPlatform::copyPicture(chart);
     }
-    void saveClipboardPicture(const std::string& path) override {
-        ScriptedPlatform::saveClipboardPicture(path);
+    void SavePicture(const std::string& path) override {
+        ScriptedPlatform::SavePicture(path);
         Steps.push_back("save");
     }
 };

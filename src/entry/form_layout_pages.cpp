@@ -5,6 +5,7 @@
 #include "entry/form_layout.h"
 #include "entry/modErrorHandling.h"
 #include "project/frmBrenica.h"
+#include "project/pages.h"
 
 /// The pages behind the lists. Their grids grow with the project and are fitted when they come on view, and again by a
 /// resize while they are: a long table that nobody looks at is not measured.
@@ -12,11 +13,6 @@
 using namespace layout;
 
 namespace {
-
-constexpr int CriteriaPage = 3;
-constexpr int SummaryPage = 4;
-constexpr int ScorePage = 6;
-constexpr int ResultsPage = 7;
 
 constexpr int NameBoxWidth = 4500;  // names have no greatest length
 constexpr int BinBoxWidth = 2500;   // nor have breakpoints
@@ -77,20 +73,20 @@ void frmBrenica::fitShownGrids() {
         for (ui::Grid* grid : grids) fitColumns(*grid);
     };
     switch (CurrentMainTab) {
-        case CriteriaPage:
+        case page::Criteria:
             placeCriteriaGrids();
             return fitAll({&flxHabitatHetero, &flxJurisUnitHetero, &flxLandUsesVulnerability,
                            &flxFunctionality, &flxSocioEcon});
-        case SummaryPage:
+        case page::Summary:
             placeSummaryGrids();
             for (ui::Grid& grid : flxSummary) {
                 if (grid.Visible()) fitColumns(grid);
             }
             return;
-        case ScorePage:
+        case page::Scores:
             placeScoreViews();
             return fitAll({&flxScoresSort(0), &flxScoresSort(1), &flxScores(0), &flxScores(1)});
-        case ResultsPage:
+        case page::Results:
             placeResultGrids();
             fitColumns(flxBrenicSuite);
             for (ui::Grid& grid : flxCompResults) fitColumns(grid);

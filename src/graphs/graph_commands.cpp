@@ -2,12 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "entry/modErrorHandling.h"
 #include "project/frmBrenica.h"
+#include "project/pages.h"
 #include "ui/text.h"
 
 namespace {
 
-constexpr int GraphPage = 5;
-constexpr int ScorePage = 6;
 constexpr int SummaryChartsWithTab = 8;
 
 template <class Charts>
@@ -22,8 +21,8 @@ ui::Chart* lastVisible(Charts& charts, int count) {
 }  // namespace
 
 ui::Chart* frmBrenica::GetCurrentChart() try {
-    if (CurrentMainTab == GraphPage) return lastVisible(chtSummary, SummaryChartsWithTab);
-    if (CurrentMainTab == ScorePage) return lastVisible(chtScores, chtScores.Count());
+    if (CurrentMainTab == page::Graphs) return lastVisible(chtSummary, SummaryChartsWithTab);
+    if (CurrentMainTab == page::Scores) return lastVisible(chtScores, chtScores.Count());
     return nullptr;
 } catch (...) {
     ReportError(9999, "Brenica.GetCurrentChart", "");

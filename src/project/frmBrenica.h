@@ -121,7 +121,7 @@ public:
     void numberBox_GotFocus(const NumberBox& box);
 
     // scoring/validation_gates.cpp
-    bool ValidateMainTab(int page);
+    bool ValidateMainTab(int tab);
     bool ValidateLandChar(int index);
     bool ValidateScoreValues();
     void GetFlexGridsUpdated(int index);
@@ -258,8 +258,8 @@ private:
     bool arranging_ = false;  ///< a layout is running
 
     // project/recalculation.cpp
-    void leavePage(int page);
-    void enterPage(int page, int oldPage);
+    void leavePage(int left);
+    void enterPage(int entered, int left);
     void calculateTables();
     void rebuildUserBins();
     void updateAreaTotals();

@@ -3,18 +3,11 @@
 #include "entry/modFlexGridUtilities.h"
 #include "entry/modGeneralUtilities.h"
 #include "project/frmBrenica.h"
+#include "project/pages.h"
 
 /// What a move between pages brings up to date. There is no other occasion: edits only write cells.
 
 namespace {
-
-constexpr int SpeciesPage = 1;
-constexpr int ParameterPage = 2;
-constexpr int CriteriaPage = 3;
-constexpr int SummaryPage = 4;
-constexpr int GraphPage = 5;
-constexpr int ScorePage = 6;
-constexpr int ResultsPage = 7;
 
 void sortBack(ui::Grid& grid, int keyColumn) {
     grid.Select(0, keyColumn);
@@ -23,17 +16,17 @@ void sortBack(ui::Grid& grid, int keyColumn) {
 
 }  // namespace
 
-void frmBrenica::leavePage(int page) {
-    switch (page) {
-        case SpeciesPage: UpdateSpeciesList(); break;
-        case ParameterPage:
+void frmBrenica::leavePage(int left) {
+    switch (left) {
+        case page::Species: UpdateSpeciesList(); break;
+        case page::Parameters:
             // Bins and area sums follow the lists only where the bins are the user's own.
             if (HomeRangeType != 2) break;
             rebuildUserBins();
             updateAreaTotals();
             break;
-        case CriteriaPage: storeShownConservationStatus(); break;
-        case ScorePage:
+        case page::Criteria: storeShownConservationStatus(); break;
+        case page::Scores:
             sortBack(flxScoresSort(0), score::SortKey);
             sortBack(flxScoresSort(1), score::OriginalSortKey);
             break;
@@ -41,20 +34,20 @@ void frmBrenica::leavePage(int page) {
     }
 }
 
-void frmBrenica::enterPage(int page, int oldPage) {
-    switch (page) {
-        case CriteriaPage: RefreshSpeciesCriteriaVals(); break;
-        case SummaryPage: calculateTables(); break;
-        case GraphPage:
-            if (oldPage != SummaryPage) calculateTables();
+void frmBrenica::enterPage(int entered, int left) {
+    switch (entered) {
+        case page::Criteria: RefreshSpeciesCriteriaVals(); break;
+        case page::Summary: calculateTables(); break;
+        case page::Graphs:
+            if (left != page::Summary) calculateTables();
             UpdateSummaryGraphs();
             break;
-        case ScorePage:
-            if (oldPage != SummaryPage) calculateTables();
+        case page::Scores:
+            if (left != page::Summary) calculateTables();
             CalculateScores();
             break;
-        case ResultsPage:
-            if (oldPage <= CriteriaPage) {
+        case page::Results:
+            if (left <= page::Criteria) {
                 calculateTables();
                 CalculateScores();
             }

@@ -3,6 +3,7 @@
 #include "entry/modErrorHandling.h"
 #include "entry/modGeneralUtilities.h"
 #include "project/frmBrenica.h"
+#include "project/pages.h"
 #include "ui/text.h"
 
 namespace {
@@ -15,30 +16,30 @@ constexpr int BinsView = 3;
 std::vector<ExportTable> frmBrenica::makeExportTables() {
     constexpr auto None = LongHeadings::None;
     return {
-        {1, AnyView, &flxCandidateSpecies, "CandidateSpeciesData", None, 1},
-        {2, 0, &flxHabitatTypes, "HabitatData", None, 2},
-        {2, 1, &flxJurisUnits, "ManagZonesData", None, 3},
-        {2, 2, &flxLandUses, "HumanActivityData", None, 4},
-        {2, BinsView, &flxBins, "BinData", None, 5},
-        {2, 4, &flxFunctions, "FunctionData", None, 6},
-        {4, 1, &flxSummary(0), "HabitatHeterogeneitySummary", LongHeadings::HabitatNames, 0},
-        {4, 1, &flxSummary(1), "ManagZonesHeterogeneitySummary", LongHeadings::JurisUnitNames, 0},
-        {4, 2, &flxSummary(2), "HabitatHeterogeneityDetailedSummary", None, 0},
-        {4, 2, &flxSummary(3), "ManagZonesHeterogeneityDetailedSummary", None, 0},
-        {4, 3, &flxSummary(4), "AreaSummary", None, 0},
-        {4, 4, &flxSummary(5), "VulnerabilitySummary", LongHeadings::ThreatNames, 0},
-        {4, 5, &flxSummary(6), "VulnerabilityBySpeciesSummary", None, 0},
-        {4, 6, &flxSummary(7), "VulnerabilityByThreatSummary", None, 0},
-        {4, 7, &flxSummary(8), "FunctionalitySummary", None, 0},
-        {4, 8, &flxSummary(9), "SocioEconSummary", None, 0},
-        {4, 9, &flxSummary(10), "DataQualitySummaryData", None, 0},
-        {6, 0, &flxScoresSort(0), "NormalizedScoresData", None, 0},
-        {6, 1, &flxScoresSort(1), "OriginalScoresData", None, 0},
-        {7, AnyView, &flxBrenicSuite, "BrenicSuiteData", None, 0},
-        {7, 0, &flxCompResults(0), "OverallComplementarityData", None, 0},
-        {7, 1, &flxCompResults(1), "HabitatsCoveredData", None, 0},
-        {7, 2, &flxCompResults(2), "JurisUnitsCoveredData", None, 0},
-        {7, 3, &flxCompResults(3), "ThreatsCoveredData", None, 0},
+        {page::Species, AnyView, &flxCandidateSpecies, "CandidateSpeciesData", None, 1},
+        {page::Parameters, 0, &flxHabitatTypes, "HabitatData", None, 2},
+        {page::Parameters, 1, &flxJurisUnits, "ManagZonesData", None, 3},
+        {page::Parameters, 2, &flxLandUses, "HumanActivityData", None, 4},
+        {page::Parameters, BinsView, &flxBins, "BinData", None, 5},
+        {page::Parameters, 4, &flxFunctions, "FunctionData", None, 6},
+        {page::Summary, 1, &flxSummary(0), "HabitatHeterogeneitySummary", LongHeadings::HabitatNames, 0},
+        {page::Summary, 1, &flxSummary(1), "ManagZonesHeterogeneitySummary", LongHeadings::JurisUnitNames, 0},
+        {page::Summary, 2, &flxSummary(2), "HabitatHeterogeneityDetailedSummary", None, 0},
+        {page::Summary, 2, &flxSummary(3), "ManagZonesHeterogeneityDetailedSummary", None, 0},
+        {page::Summary, 3, &flxSummary(4), "AreaSummary", None, 0},
+        {page::Summary, 4, &flxSummary(5), "VulnerabilitySummary", LongHeadings::ThreatNames, 0},
+        {page::Summary, 5, &flxSummary(6), "VulnerabilityBySpeciesSummary", None, 0},
+        {page::Summary, 6, &flxSummary(7), "VulnerabilityByThreatSummary", None, 0},
+        {page::Summary, 7, &flxSummary(8), "FunctionalitySummary", None, 0},
+        {page::Summary, 8, &flxSummary(9), "SocioEconSummary", None, 0},
+        {page::Summary, 9, &flxSummary(10), "DataQualitySummaryData", None, 0},
+        {page::Scores, 0, &flxScoresSort(0), "NormalizedScoresData", None, 0},
+        {page::Scores, 1, &flxScoresSort(1), "OriginalScoresData", None, 0},
+        {page::Results, AnyView, &flxBrenicSuite, "BrenicSuiteData", None, 0},
+        {page::Results, 0, &flxCompResults(0), "OverallComplementarityData", None, 0},
+        {page::Results, 1, &flxCompResults(1), "HabitatsCoveredData", None, 0},
+        {page::Results, 2, &flxCompResults(2), "JurisUnitsCoveredData", None, 0},
+        {page::Results, 3, &flxCompResults(3), "ThreatsCoveredData", None, 0},
     };
 }
 
@@ -72,7 +73,7 @@ void frmBrenica::SaveTable(const ExportTable& table, const std::string& path) {
 
 /// The table on view. Where a view holds two tables the user chooses; all but the lists are for export only.
 const ExportTable* frmBrenica::GetCurrentGrid(std::string_view command) try {
-    if (CurrentMainTab > 2 && !ui::equalsIgnoringCase(command, "Export")) return nullptr;
+    if (CurrentMainTab > page::Parameters && !ui::equalsIgnoringCase(command, "Export")) return nullptr;
     std::vector<const ExportTable*> onView;
     for (const ExportTable& table : exportTables_) {
         const bool here =
@@ -88,10 +89,10 @@ const ExportTable* frmBrenica::GetCurrentGrid(std::string_view command) try {
 
 int frmBrenica::currentView() const {
     switch (CurrentMainTab) {
-        case 2: return CurrentLandChar;
-        case 4: return CurrentSummaryTab;
-        case 6: return ScoreDisplayMode;
-        case 7: {
+        case page::Parameters: return CurrentLandChar;
+        case page::Summary: return CurrentSummaryTab;
+        case page::Scores: return ScoreDisplayMode;
+        case page::Results: {
             int selected = 0;
             for (int i = 0; i < optCompResults.Count(); ++i) {
                 if (optCompResults(i).Value()) selected = i;
@@ -106,7 +107,7 @@ int frmBrenica::currentView() const {
 bool frmBrenica::userWantsFirst() {
     static constexpr const char* ResultLabels[] = {"overall", "habitats covered", "Management zones covered",
                                                    "threats covered"};
-    const bool results = CurrentMainTab == 7;
+    const bool results = CurrentMainTab == page::Results;
     const std::string prompt =
         results ? std::string("Enter 1 to save the brenic species suite data and 2 to save the ") +
                       ResultLabels[currentView()] + " data."
@@ -163,7 +164,7 @@ void frmBrenica::showNoGrid(std::string_view command) {
     };
     if (ui::equalsIgnoringCase(command, "Export")) {
         show("Cannot export current data grid.");
-    } else if (CurrentMainTab >= 3) {
+    } else if (CurrentMainTab >= page::Criteria) {
         show("Cannot import data into current grid.");
     }
 }

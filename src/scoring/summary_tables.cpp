@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "entry/modErrorHandling.h"
 #include "project/frmBrenica.h"
+#include "project/pages.h"
 #include "ui/text.h"
 
 namespace {
 
-constexpr int SummaryPage = 4;
 constexpr int UseTab = 1;
 constexpr int SpeciesByThreatTab = 6;
 
@@ -41,7 +41,7 @@ void redoRowTotals(ui::Grid& grid, int row, int units) {
 /// Fires on every write of every summary grid, by code as well. Errors are ignored.
 void frmBrenica::flxSummary_CellChanged(int index, int row, int col) {
     ProjectChanged = true;
-    if (CurrentMainTab != SummaryPage) return;
+    if (CurrentMainTab != page::Summary) return;
     if (index == summary::HabitatUse && CurrentSummaryTab == UseTab) {
         levelOfUse_Changed(parameterList(ListKind::HabitatTypes), row, col);
     } else if (index == summary::JurisUnitUse && CurrentSummaryTab == UseTab) {

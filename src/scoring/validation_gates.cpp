@@ -4,6 +4,7 @@
 #include "entry/modFlexGridUtilities.h"
 #include "project/constant_tables.h"
 #include "project/frmBrenica.h"
+#include "project/pages.h"
 #include "ui/text.h"
 
 namespace {
@@ -44,15 +45,15 @@ int firstUnused(const ui::Grid& levels, int units, int species) {
 
 }  // namespace
 
-bool frmBrenica::ValidateMainTab(int page) try {
-    if (page == 1) {
+bool frmBrenica::ValidateMainTab(int tab) try {
+    if (tab == page::Species) {
         return removeBlankRows(
             flxCandidateSpecies, list::Name,
             "Select 'Yes' to delete those rows with blank species common names or 'No' to enter a "
             "value into each row with missing names before proceeding.",
             &frmBrenica::RemoveSpecies);
     }
-    if (page != 2) return true;
+    if (tab != page::Parameters) return true;
     int selected = 0;
     for (int i = optLandChar.Count() - 1; i >= 0; --i) {
         if (optLandChar(i).Value()) selected = i;

@@ -28,9 +28,9 @@ frmSplash::frmSplash(ui::Platform& platform, std::function<void()> showMainForm,
     lblBrenicaSoftware.Move(0, 0, 6000, 700);
     lblVersion.Move(0, 0, 3000, 400);
     lblMerrowdaleProg.Move(0, 0, 3000, 400);
-    SplashTimer.Elapsed = [this] { handOver(); };
-    Click = [this] { handOver(); };
-    KeyPress = [this] { handOver(); };
+    SplashTimer.Elapsed = [this] { SplashTimer_Timer(); };
+    Click = [this] { Form_Click(); };
+    KeyPress = [this] { Form_KeyPress(); };
     Form_Load();
 }
 

@@ -24,6 +24,9 @@ public:
 
 private:
     void Form_Load();
+    void SplashTimer_Timer() { handOver(); }
+    void Form_Click() { handOver(); }
+    void Form_KeyPress() { handOver(); }
     void handOver();
     void unloadSplash();
     void Form_Unload();

@@ -14,8 +14,6 @@ namespace {
 
 constexpr int FirstCoveredBy = 1;  // column of the coverage views
 
-std::size_t at(int number) { return static_cast<std::size_t>(number) - 1; }
-
 /// A covered unit keeps the number and colour of the pick that covered it first.
 void markFirstCovered(ui::Grid& unitGrid, int unit, int pickNumber) {
     if (!unitGrid.TextMatrix(unit, FirstCoveredBy).empty()) return;

@@ -14,6 +14,9 @@
 using Flags = std::vector<bool>;
 using Levels = std::vector<int>;
 
+/// Where number i stands in them.
+inline std::size_t at(int number) { return static_cast<std::size_t>(number) - 1; }
+
 /// What a selection starts from, beside the grids.
 struct SelectionInput {
     Flags SpeciesRemoved;  ///< out of the race; at the start those excluded by conservation status

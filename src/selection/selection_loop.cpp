@@ -15,8 +15,6 @@ namespace {
 
 constexpr int Places = 3;
 
-std::size_t at(int number) { return static_cast<std::size_t>(number) - 1; }
-
 /// What a row's species would add.
 struct Additions {
     int Habitats = 0;

@@ -104,7 +104,7 @@ void frmBrenica::ResizeForm() try {
     if (WindowState() == ui::WindowState::Normal) {
         Move(NormalLeft, NormalTop, std::max(Width(), LeastWidth), std::max(Height(), LeastHeight));
     }
-    tabBrenica.Move(0, 0, Width() - 150, Height() - 700);
+    tabBrenica.Move(0, 0, Width() - BorderWidth, Height() - BorderHeight);
     const int header = tabBrenica.HeaderHeight();
     const int furtherRows = header - ui::TabStrip::RowHeight;
     for (ui::Frame& page : fraTabContents)

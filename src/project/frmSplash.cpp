@@ -21,7 +21,7 @@ void center(ui::Control& control, const ui::Control& form, int top) {
 }  // namespace
 
 frmSplash::frmSplash(ui::Platform& platform, std::function<void()> showMainForm, ui::Size picture)
-    : FormWindow(platform, "frmSplash"), showMainForm_(std::move(showMainForm)) {
+    : FormWindow(platform, "frmSplash", ui::FormBorder::None), showMainForm_(std::move(showMainForm)) {
     Caption(ui::ApplicationTitle);
     imgSplash.Move(0, 0, picture.Width, picture.Height);
     picHalvornLogo.Move(0, 0, 1200, 1200);

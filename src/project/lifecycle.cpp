@@ -6,6 +6,7 @@
 #include "project/constant_tables.h"
 #include "project/frmBrenica.h"
 #include "ui/text.h"
+#include "ui/wait_pointer.h"
 
 /// Cancel in a dialogue, like any failure, ends the command where it happened, without a message.
 void frmBrenica::MenuSelectionProject(std::string_view command) try {
@@ -49,6 +50,7 @@ void frmBrenica::openProjectCommand() {
     }
     cdgFileDialog.ShowOpen();
     const std::string path = cdgFileDialog.FileName;
+    const ui::WaitPointer wait(platform());
     InitializeProject();
     OpenProject(path);
     showProjectPath(path);

@@ -3,6 +3,7 @@
 #include "entry/modErrorHandling.h"
 #include "project/constant_tables.h"
 #include "project/frmBrenica.h"
+#include "ui/wait_pointer.h"
 
 namespace {
 
@@ -15,6 +16,7 @@ constexpr int VulnerabilityCriterion = 3;
 void frmBrenica::tabBrenica_Click() try {
     const int page = tabBrenica.SelectedItem();
     if (page == CurrentMainTab) return;
+    const ui::WaitPointer wait(platform());
     if (!ValidateMainTab(CurrentMainTab)) {
         tabBrenica.SelectedItem(CurrentMainTab);
         return;

@@ -3,6 +3,7 @@
 #include "entry/modErrorHandling.h"
 #include "project/frmBrenica.h"
 #include "selection/selection.h"
+#include "ui/wait_pointer.h"
 
 namespace {
 
@@ -16,6 +17,7 @@ std::vector<int> thresholds(const ui::Grid& units, int count) {
 
 /// Runs one whole selection, from the levels in the boxes to the report.
 void frmBrenica::cmdComplement_Click() try {
+    const ui::WaitPointer wait(platform());
     if (!global_.ScoresCalculated) return;
     global_.ErrorMargin = txtErrorMargin.Real();
     global_.ThreatRepresentation = txtThreatRep.Real();

@@ -6,7 +6,10 @@
 
 namespace ui {
 
-void Chart::ChartData(Table data) { data_ = std::move(data); }
+void Chart::ChartData(Table data) {
+    data_ = std::move(data);
+    reportChange();
+}
 
 ChartSeries& Chart::Series(int index) {
     if (index < 1) raise(ErrorNumber::SubscriptOutOfRange);

@@ -41,7 +41,10 @@ public:
     const std::vector<ChartSeries>& AllSeries() const { return series_; }
 
     /// Counts the requests to draw anew, for a view that follows.
-    void Refresh() { ++refreshes_; }
+    void Refresh() {
+        ++refreshes_;
+        reportChange();
+    }
     int Refreshes() const { return refreshes_; }
     /// Puts the chart's picture on the clipboard.
     void EditCopy() { platform().copyPicture(*this); }

@@ -11,7 +11,7 @@ CheckBox::CheckBox(Control& container, std::string name, bool value, Design desi
 
 void CheckBox::Value(bool value) {
     if (value == value_) return;
-    value_ = value;
+    change(value_, value);
     Click();
 }
 
@@ -23,15 +23,15 @@ OptionButton::OptionButton(Control& container, std::string name, Design design)
     : Control(container, ControlKind::OptionButton, std::move(name), std::move(design)) {}
 
 void OptionButton::Value(bool value) {
-    const bool changed = value != value_;
-    value_ = value;
+    const bool another = value != value_;
+    change(value_, value);
     if (value) switchOthersOff();
-    if (changed) Click();
+    if (another) Click();
 }
 
 void OptionButton::UserClick() {
     if (!acceptsUserAction()) return;
-    value_ = true;
+    change(value_, true);
     switchOthersOff();
     Click();
 }
@@ -39,7 +39,7 @@ void OptionButton::UserClick() {
 void OptionButton::switchOthersOff() {
     if (group_ == nullptr) return;
     for (OptionButton& other : *group_) {
-        if (&other != this) other.value_ = false;
+        if (&other != this) other.change(other.value_, false);
     }
 }
 

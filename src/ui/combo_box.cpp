@@ -20,7 +20,7 @@ const std::string& ComboBox::List(int index) const {
 void ComboBox::ListIndex(int index) {
     if (index < -1 || index >= ListCount()) raise(ErrorNumber::InvalidPropertyValue);
     const bool another = index != listIndex_ && index >= 0;
-    listIndex_ = index;
+    change(listIndex_, index);
     if (another) Click();
 }
 
@@ -29,8 +29,9 @@ std::string ComboBox::Text() const { return listIndex_ < 0 ? std::string() : Lis
 void ComboBox::RemoveItem(int index) {
     if (index < 0 || index >= ListCount()) raise(ErrorNumber::InvalidProcedureCall);
     items_.erase(items_.begin() + index);
+    reportChange();
     if (index == listIndex_) {
-        listIndex_ = -1;
+        change(listIndex_, -1);
     } else if (index < listIndex_) {
         --listIndex_;
     }
@@ -38,12 +39,13 @@ void ComboBox::RemoveItem(int index) {
 
 void ComboBox::Clear() {
     items_.clear();
-    listIndex_ = -1;
+    reportChange();
+    change(listIndex_, -1);
 }
 
 void ComboBox::UserChoose(int index) {
     if (index < 0 || index >= ListCount() || !acceptsUserAction()) return;
-    listIndex_ = index;
+    change(listIndex_, index);
     Click();
 }
 

@@ -26,7 +26,10 @@ public:
     /// The chosen item, empty where none is.
     std::string Text() const;
 
-    void AddItem(std::string text) { items_.push_back(std::move(text)); }
+    void AddItem(std::string text) {
+        items_.push_back(std::move(text));
+        reportChange();
+    }
     /// Raises InvalidProcedureCall where there is no such item. Removing the chosen item leaves none chosen.
     void RemoveItem(int index);
     void Clear();

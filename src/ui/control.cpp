@@ -16,7 +16,10 @@ Control::Control(Control& container, ControlKind kind, std::string name, Design 
       caption_(std::move(design.Caption)),
       toolTipText_(std::move(design.ToolTipText)),
       visible_(design.Visible),
-      enabled_(design.Enabled) {
+      enabled_(design.Enabled),
+      accessKey_(design.AccessKey),
+      shortcut_(std::move(design.Shortcut)),
+      accessibleName_(std::move(design.AccessibleName)) {
     form_->controls_.push_back(this);
 }
 
@@ -24,10 +27,22 @@ Control::Control(FormWindow& form, std::string name)
     : form_(&form), container_(this), kind_(ControlKind::Form), name_(std::move(name)) {}
 
 void Control::Move(int left, int top, int width, int height) {
-    left_ = left;
-    top_ = top;
-    width_ = width;
-    height_ = height;
+    Left(left);
+    Top(top);
+    Width(width);
+    Height(height);
+}
+
+void Control::joinChanged() {
+    changed_ = true;
+    form_->changed_.push_back(this);
+}
+
+std::string Control::AccessibleName() const {
+    if (!caption_.empty()) return caption_;
+    if (!accessibleName_.empty()) return accessibleName_;
+    const Control* label = form_->LabelOf(*this);
+    return label != nullptr ? label->Caption() : std::string();
 }
 
 Platform& Control::platform() const { return form_->GetPlatform(); }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <utility>
 
 #include "ui/numbers.h"
 #include "ui/platform.h"
@@ -33,10 +34,18 @@ struct Design {
     std::string ToolTipText{};
     bool Visible = true;
     bool Enabled = true;
+    /// The letter of the caption that reaches the control together with Alt; 0 for none. That of a label reaches the
+    /// control behind it.
+    char AccessKey = 0;
+    /// Keys that stand for a click, such as "Ctrl+S"; empty for none.
+    std::string Shortcut{};
+    /// How a screen reader names a control that has neither a caption nor a label before it.
+    std::string AccessibleName{};
 };
 
 /// What all controls share. A control belongs to one form and stands in one container, a frame or the form itself.
-/// Lengths are twips. A control that a user action reaches while it is disabled ignores the action.
+/// Lengths are twips. A control that a user action reaches while it is disabled ignores the action. Whatever a window
+/// shows of a control reports its change to the form, which keeps a list of the changed ones for the window.
 class Control {
 public:
     Control(Control& container, ControlKind kind, std::string name, Design design = {});
@@ -51,22 +60,26 @@ public:
     Control& Container() const { return *container_; }
 
     const std::string& Caption() const { return caption_; }
-    void Caption(std::string caption) { caption_ = std::move(caption); }
+    void Caption(std::string caption) { change(caption_, std::move(caption)); }
     const std::string& ToolTipText() const { return toolTipText_; }
-    void ToolTipText(std::string text) { toolTipText_ = std::move(text); }
+    void ToolTipText(std::string text) { change(toolTipText_, std::move(text)); }
     bool Visible() const { return visible_; }
-    void Visible(bool visible) { visible_ = visible; }
+    void Visible(bool visible) { change(visible_, visible); }
     bool Enabled() const { return enabled_; }
-    void Enabled(bool enabled) { enabled_ = enabled; }
+    void Enabled(bool enabled) { change(enabled_, enabled); }
+    char AccessKey() const { return accessKey_; }
+    const std::string& Shortcut() const { return shortcut_; }
+    /// Its caption, the name that the design gives it, or the caption of the label before it.
+    std::string AccessibleName() const;
 
     int Left() const { return left_; }
-    void Left(int left) { left_ = left; }
+    void Left(int left) { change(left_, left); }
     int Top() const { return top_; }
-    void Top(int top) { top_ = top; }
+    void Top(int top) { change(top_, top); }
     int Width() const { return width_; }
-    void Width(int width) { width_ = width; }
+    void Width(int width) { change(width_, width); }
     int Height() const { return height_; }
-    void Height(int height) { height_ = height; }
+    void Height(int height) { change(height_, height); }
     void Move(int left, int top, int width, int height);
 
 protected:
@@ -79,7 +92,20 @@ protected:
     /// refuses to close: then the action does not happen.
     bool acceptsUserAction();
 
+    void reportChange() {
+        if (!changed_) joinChanged();
+    }
+    template <class T>
+    void change(T& property, T value) {
+        if (property == value) return;
+        property = std::move(value);
+        reportChange();
+    }
+
 private:
+    friend class FormWindow;
+    void joinChanged();
+
     FormWindow* form_;
     Control* container_;
     ControlKind kind_;
@@ -88,6 +114,10 @@ private:
     std::string toolTipText_;
     bool visible_ = true;
     bool enabled_ = true;
+    bool changed_ = false;
+    char accessKey_ = 0;
+    std::string shortcut_;
+    std::string accessibleName_;
     int left_ = 0;
     int top_ = 0;
     int width_ = 0;

@@ -13,12 +13,19 @@ namespace ui {
 class Grid;
 
 enum class WindowState { Normal, Minimized, Maximized };
+/// What surrounds a window's own area.
+enum class FormBorder { None, Sizable };
 
 /// A window: the container of all its controls, which register with it in the order of their declaration. That order
-/// is the order in which the keyboard reaches them.
+/// is the order in which the keyboard reaches them. Its size is that of the whole window.
 class FormWindow : public Control {
 public:
-    FormWindow(Platform& platform, std::string name);
+    FormWindow(Platform& platform, std::string name, FormBorder border = FormBorder::Sizable);
+
+    /// What frame, title and menu of a window with a border take of its width and height, in the design's terms.
+    static constexpr int BorderWidth = 150;
+    static constexpr int BorderHeight = 700;
+    FormBorder Border() const { return border_; }
 
     Event<> Click;
     Event<> KeyPress;
@@ -26,11 +33,16 @@ public:
     Event<> Resize;
 
     std::span<Control* const> Controls() const { return controls_; }
+    /// The controls whose looks have changed since this was called last, each once. A window that follows the form
+    /// reads them when a user action has returned and before it shows a box.
+    std::vector<Control*> TakeChanged();
+    /// The label that names a control: the one that stands right before it in its container; null for none.
+    const Control* LabelOf(const Control& control) const;
     Platform& GetPlatform() const { return platform_; }
     DecimalSeparator Separator() const { return separator_; }
 
     ui::WindowState WindowState() const { return windowState_; }
-    void WindowState(ui::WindowState state) { windowState_ = state; }
+    void WindowState(ui::WindowState state) { change(windowState_, state); }
 
     /// Asks for the end of the window. The event loop reads the flag.
     void Unload() { unloaded_ = true; }
@@ -54,7 +66,9 @@ private:
 
     Platform& platform_;
     DecimalSeparator separator_;
+    FormBorder border_;
     std::vector<Control*> controls_;
+    std::vector<Control*> changed_;
     ui::WindowState windowState_ = ui::WindowState::Normal;
     Grid* editingGrid_ = nullptr;
     bool unloaded_ = false;

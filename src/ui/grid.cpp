@@ -11,13 +11,10 @@ namespace {
 
 constexpr int DesignTimeRows = 1;
 constexpr int DesignTimeCols = 10;
-constexpr int BorderWidth = 60;
-constexpr int ScrollBarWidth = 255;
-constexpr int RowHeight = 240;
-constexpr int CellPadding = 120;
 // More cells than any landscape has, and few enough that a slip of the finger does not exhaust the machine.
 constexpr long long MostCells = 1LL << 24;
 const Font CellFont{};
+const Font BoldCellFont{.Bold = true};
 
 /// Keeps the elements that both sizes have.
 template <class T>
@@ -48,6 +45,8 @@ void Grid::Rows(int count) {
     requireRoomFor(count, Cols());
     const int before = Rows();
     if (count == before) return;
+    reportChange();
+    sortMark_ = {};
     rows_.resize(static_cast<std::size_t>(count));
     for (int row = before; row < count; ++row) rows_[static_cast<std::size_t>(row)] = emptyRow();
     forgetWidths();
@@ -57,6 +56,8 @@ void Grid::Rows(int count) {
 void Grid::Cols(int count) {
     requireRoomFor(Rows(), count);
     if (count == Cols()) return;
+    reportChange();
+    sortMark_ = {};
     const std::size_t before = columns_.size();
     columns_.resize(static_cast<std::size_t>(count));
     for (std::size_t i = 0; i < rows_.size(); ++i) {
@@ -69,6 +70,8 @@ void Grid::Cols(int count) {
 void Grid::AddItem(std::string_view text, int row) {
     if (row < 0 || row > Rows()) raise(ErrorNumber::SubscriptOutOfRange);
     requireRoomFor(Rows() + 1, Cols());
+    reportChange();
+    sortMark_ = {};
     RowData added = emptyRow();
     if (!columns_.empty()) added.Cells[0] = text;
     rows_.insert(static_cast<std::size_t>(row), std::move(added));
@@ -77,6 +80,7 @@ void Grid::AddItem(std::string_view text, int row) {
 
 void Grid::RemoveItem(int row) {
     if (row < 0 || row >= Rows()) raise(ErrorNumber::SubscriptOutOfRange);
+    reportChange();
     rows_.erase(static_cast<std::size_t>(row));
     forgetWidths();
     keepCurrentCellInside();
@@ -106,10 +110,10 @@ void Grid::Select(int row1, int col1, int row2, int col2) {
     requireCell(row1, col1);
     requireCell(row2, col2);
     if (!mayLeaveFor(row1, col1)) return;
-    row_ = row1;
-    col_ = col1;
-    rowSel_ = row2;
-    colSel_ = col2;
+    change(row_, row1);
+    change(col_, col1);
+    change(rowSel_, row2);
+    change(colSel_, col2);
 }
 
 Grid::CellRange Grid::selection() const {
@@ -129,6 +133,7 @@ const Grid::CellFormat& Grid::format(int row, int col) const {
 template <class Change>
 void Grid::changeFormats(Change change) {
     requireCell(row_, col_);
+    reportChange();
     const auto same = [](const CellFormat& a, const CellFormat& b) {
         return a.BackColor == b.BackColor && a.Alignment == b.Alignment && a.Checked == b.Checked &&
                a.Bold == b.Bold;
@@ -162,6 +167,11 @@ void Grid::CellChecked(CheckState state) {
     changeFormats([=](CellFormat& format) { format.Checked = state; });
 }
 
+CellAlign Grid::AlignmentOf(int row, int col) const {
+    const CellAlign own = format(row, col).Alignment;
+    return own != CellAlign::General ? own : column(col).Alignment;
+}
+
 const Grid::ColumnData& Grid::column(int col) const {
     if (col < 0 || col >= Cols()) raise(ErrorNumber::SubscriptOutOfRange);
     return columns_[static_cast<std::size_t>(col)];
@@ -169,21 +179,25 @@ const Grid::ColumnData& Grid::column(int col) const {
 
 Grid::ColumnData& Grid::column(int col) { return const_cast<ColumnData&>(std::as_const(*this).column(col)); }
 
-void Grid::ColWidth(int col, double width) { column(col).Width = std::max(0, toLong(width)); }
+void Grid::ColWidth(int col, double width) { change(column(col).Width, std::max(0, toLong(width))); }
 
 void Grid::AutoSize(int firstCol, int lastCol) {
     for (int col = firstCol; col <= lastCol; ++col) {
         ColumnData& fitted = column(col);
         if (fitted.MeasuredWidth == NotMeasured) fitted.MeasuredWidth = measure(col);
-        fitted.Width = fitted.MeasuredWidth;
+        change(fitted.Width, fitted.MeasuredWidth);
     }
 }
 
 int Grid::measure(int col) const {
     int widest = 0;
     for (std::size_t row = 0; row < rows_.size(); ++row) {
-        const std::string& text = rows_[row].Cells[static_cast<std::size_t>(col)];
-        if (!text.empty()) widest = std::max(widest, platform().textWidth(text, CellFont));
+        const auto index = static_cast<std::size_t>(col);
+        const RowData& data = rows_[row];
+        const std::string& text = data.Cells[index];
+        if (text.empty()) continue;
+        const bool bold = data.Formats && data.Formats[index].Bold;
+        widest = std::max(widest, platform().textWidth(text, bold ? BoldCellFont : CellFont));
     }
     return widest + CellPadding;
 }

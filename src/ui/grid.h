@@ -52,9 +52,9 @@ public:
     int Cols() const { return static_cast<int>(columns_.size()); }
     void Cols(int count);
     int FixedRows() const { return fixedRows_; }
-    void FixedRows(int count) { fixedRows_ = count; }
+    void FixedRows(int count) { change(fixedRows_, count); }
     int FixedCols() const { return fixedCols_; }
-    void FixedCols(int count) { fixedCols_ = count; }
+    void FixedCols(int count) { change(fixedCols_, count); }
     /// Adds a row with `text` in its first cell, at the end or before `row`.
     void AddItem(std::string_view text) { AddItem(text, Rows()); }
     void AddItem(std::string_view text, int row);
@@ -65,6 +65,8 @@ public:
     void TextMatrix(int row, int col, std::string_view text) {
         const_cast<std::string&>(cell(row, col)).assign(text);
         columns_[static_cast<std::size_t>(col)].MeasuredWidth = NotMeasured;
+        if (col == sortMark_.Col) sortMark_ = {};
+        reportChange();
         if (CellChanged) CellChanged(row, col);
     }
     /// The cell's text as a number; raises TypeMismatch or Overflow, for an empty cell as well.
@@ -98,27 +100,42 @@ public:
     // The same for any cell, for a view and for tests.
     Colour BackColorOf(int row, int col) const { return format(row, col).BackColor; }
     bool IsBold(int row, int col) const { return format(row, col).Bold; }
+    /// The cell's own alignment, or its column's where it has none.
+    CellAlign AlignmentOf(int row, int col) const;
 
     /// Sorts on the column of the current cell, stably: all rows below the fixed ones with one cell selected, the
     /// selected rows with a range. Generic order: empty cells, then numbers by value, then texts without regard to case.
     void Sort(SortOrder order);
+    /// What the whole grid was sorted by last, as long as rows and values of that column stand as they did; column -1
+    /// where there is nothing to mark.
+    struct SortMark {
+        int Col = -1;
+        bool Descending = false;
+    };
+    SortMark Sorted() const { return sortMark_; }
 
     // Columns. Widths are twips.
     bool ColHidden(int col) const { return column(col).Hidden; }
-    void ColHidden(int col, bool hidden) { column(col).Hidden = hidden; }
+    void ColHidden(int col, bool hidden) { change(column(col).Hidden, hidden); }
     int ColWidth(int col) const { return column(col).Width; }
     void ColWidth(int col, double width);
     CellAlign ColAlignment(int col) const { return column(col).Alignment; }
-    void ColAlignment(int col, CellAlign alignment) { column(col).Alignment = alignment; }
+    void ColAlignment(int col, CellAlign alignment) { change(column(col).Alignment, alignment); }
     /// Makes columns as wide as their widest text.
     void AutoSize(int col) { AutoSize(col, col); }
     void AutoSize(int firstCol, int lastCol);
     /// Width less border and, when the rows do not fit, less the scroll bar.
     int ClientWidth() const;
 
+    // The measures that ClientWidth and AutoSize count with, for a view to draw by. Twips.
+    static constexpr int BorderWidth = 60;  ///< of both sides together
+    static constexpr int ScrollBarWidth = 255;
+    static constexpr int RowHeight = 240;
+    static constexpr int CellPadding = 120;  ///< beside a text, on both sides together
+
     // Display settings.
     bool Redraw() const { return redraw_; }
-    void Redraw(bool redraw) { redraw_ = redraw; }
+    void Redraw(bool redraw) { change(redraw_, redraw); }
     bool WordWrap = false;
     EditMode Editable = EditMode::ReadOnly;
     int FocusRect = 0;
@@ -145,11 +162,25 @@ public:
 
     // User actions. Each tells whether it took place.
     bool UserMoveTo(int row, int col);
+    /// Moves to the next cell of the body in the direction of an arrow, Enter (down) or Tab (right, and on in the next
+    /// row), past hidden columns; false at the edge.
+    bool UserStep(int key);
+    /// Selects the cells between the current cell and this one of the body, without moving the current cell.
+    bool UserSelectTo(int row, int col);
+    /// The selected cells as lines of tab-separated texts, hidden columns left out.
+    std::string SelectedText() const;
+    /// Puts lines of tab-separated texts into the cells from the current one on, each through an edit of its own, the
+    /// current cell moving along; stops with a beep at the first cell that refuses, or that is not there.
+    bool UserPasteBlock(std::string_view lines);
+    /// Drags the edge of a column; the next fit takes the width back.
+    void UserDragColumn(int col, int width);
     /// Opens the editor on the current cell with its whole text selected, unless BeforeEdit refuses.
     bool UserBeginEdit();
     /// Types a key into the editor; Enter, Tab and the arrows commit and move, Escape cancels.
     void UserEditKey(int key);
     bool UserEditPaste(std::string_view text);
+    /// Selects in the editor by the mouse or the keyboard, in characters.
+    void UserEditSelect(int start, int length);
     /// Chooses an item of the open cell's list.
     bool UserEditChoose(std::string_view item);
     bool UserCommitEdit();
@@ -212,6 +243,10 @@ private:
     void changeFormats(Change change);
     void setCurrent(int row, int col);
     bool mayLeaveFor(int row, int col);
+    bool isBody(int row, int col) const {
+        return contains(row, col) && row >= fixedRows_ && col >= fixedCols_;
+    }
+    int nextShownCol(int col, int step) const;
     int measure(int col) const;
     void printRows(Files& files, int fileNumber) const;
     bool accept(TextEditor edited);
@@ -226,6 +261,7 @@ private:
     int col_ = 0;
     int rowSel_ = 0;
     int colSel_ = 0;
+    SortMark sortMark_;
     CellAlign cellPictureAlignment_ = CellAlign::LeftCentre;
     bool redraw_ = true;
 

@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Brenica developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <algorithm>
-#include <optional>
 
 #include "ui/form_window.h"
 #include "ui/grid.h"
@@ -13,22 +12,17 @@ namespace {
 
 constexpr char ListSeparator = '|';
 
-/// Where a key that ends an edit takes the current cell.
-struct Step {
-    int Rows;
-    int Cols;
-};
+bool isStep(int key) {
+    return key == EnterKey || key == TabKey || key == UpKey || key == DownKey || key == LeftKey ||
+           key == RightKey;
+}
 
-std::optional<Step> moveOf(int key) {
-    switch (key) {
-        case EnterKey:
-        case DownKey: return Step{1, 0};
-        case UpKey: return Step{-1, 0};
-        case TabKey:
-        case RightKey: return Step{0, 1};
-        case LeftKey: return Step{0, -1};
-        default: return std::nullopt;
+/// A text as one cell of a line of tab-separated ones.
+std::string asCell(std::string text) {
+    for (char& character : text) {
+        if (character == '\t' || character == '\r' || character == '\n') character = ' ';
     }
+    return text;
 }
 
 }  // namespace
@@ -39,15 +33,87 @@ bool Grid::UserMoveTo(int row, int col) {
     return row_ == row && col_ == col;
 }
 
+/// The next column on view in the body, or -1.
+int Grid::nextShownCol(int col, int step) const {
+    for (col += step; col >= fixedCols_ && col < Cols(); col += step) {
+        if (!column(col).Hidden) return col;
+    }
+    return -1;
+}
+
+bool Grid::UserStep(int key) {
+    const auto moveTo = [this](int row, int col) { return isBody(row, col) && UserMoveTo(row, col); };
+    switch (key) {
+        case EnterKey:
+        case DownKey: return moveTo(row_ + 1, col_);
+        case UpKey: return moveTo(row_ - 1, col_);
+        case LeftKey: return moveTo(row_, nextShownCol(col_, -1));
+        case RightKey: return moveTo(row_, nextShownCol(col_, 1));
+        case TabKey: {
+            const int next = nextShownCol(col_, 1);
+            return next >= 0 ? moveTo(row_, next) : moveTo(row_ + 1, nextShownCol(fixedCols_ - 1, 1));
+        }
+        default: return false;
+    }
+}
+
+bool Grid::UserSelectTo(int row, int col) {
+    if (!acceptsUserAction() || !isBody(row_, col_) || !isBody(row, col)) return false;
+    change(rowSel_, row);
+    change(colSel_, col);
+    return true;
+}
+
+std::string Grid::SelectedText() const {
+    std::string lines;
+    if (!contains(row_, col_)) return lines;
+    const int lastRow = std::max(row_, rowSel_);
+    const int lastCol = std::max(col_, colSel_);
+    for (int row = std::min(row_, rowSel_); row <= lastRow; ++row) {
+        if (!lines.empty()) lines += '\n';
+        std::string line;
+        for (int col = std::min(col_, colSel_); col <= lastCol; ++col) {
+            if (column(col).Hidden) continue;
+            line += asCell(TextMatrix(row, col)) + (col < lastCol ? "\t" : "");
+        }
+        lines += line;
+    }
+    return lines;
+}
+
+bool Grid::UserPasteBlock(std::string_view lines) {
+    if (!acceptsUserAction()) return false;
+    while (!lines.empty() && (lines.back() == '\n' || lines.back() == '\r')) lines.remove_suffix(1);
+    int row = std::min(row_, rowSel_);
+    const int firstCol = std::min(col_, colSel_);
+    for (std::string_view line : split(lines, '\n')) {
+        if (line.ends_with('\r')) line.remove_suffix(1);
+        int col = firstCol;
+        for (const std::string_view text : split(line, '\t')) {
+            if (!isBody(row, col) || !UserEditCell(row, col, text)) {
+                platform().beep();
+                return false;
+            }
+            col = nextShownCol(col, 1);
+        }
+        ++row;
+    }
+    return true;
+}
+
+void Grid::UserDragColumn(int col, int width) {
+    if (acceptsUserAction() && col >= 0 && col < Cols()) ColWidth(col, width);
+}
+
 bool Grid::UserBeginEdit() {
     if (!acceptsUserAction() || Editable == EditMode::ReadOnly) return false;
-    if (!contains(row_, col_) || row_ < fixedRows_ || col_ < fixedCols_) return false;
+    if (!isBody(row_, col_)) return false;
     bool cancel = false;
     BeforeEdit(row_, col_, cancel);
     if (cancel) return false;
     editor_.Text(TextMatrix(row_, col_));
     editor_.SelectAll();
-    editing_ = true;
+    change(editing_, true);
     Form().EditingGrid(this);
     return true;
 }
@@ -55,8 +121,8 @@ bool Grid::UserBeginEdit() {
 void Grid::UserEditKey(int key) {
     if (!editing_) return;
     if (key == EscapeKey) return UserCancelEdit();
-    if (const auto step = moveOf(key)) {
-        if (UserCommitEdit()) UserMoveTo(row_ + step->Rows, col_ + step->Cols);
+    if (isStep(key)) {
+        if (UserCommitEdit()) UserStep(key);
         return;
     }
     if (!isPrintable(key) && key != BackspaceKey) return;
@@ -72,6 +138,12 @@ bool Grid::UserEditPaste(std::string_view text) {
     TextEditor pasted = editor_;
     pasted.Insert(asOneLine(text));
     return accept(std::move(pasted));
+}
+
+void Grid::UserEditSelect(int start, int length) {
+    if (!editing_) return;
+    editor_.Select(start, length);
+    reportChange();
 }
 
 bool Grid::UserEditChoose(std::string_view item) {
@@ -98,7 +170,7 @@ void Grid::UserCancelEdit() {
 }
 
 void Grid::closeEditor() {
-    editing_ = false;
+    change(editing_, false);
     Form().EditingGrid(nullptr);
 }
 
@@ -120,8 +192,7 @@ void Grid::UserMouseDown(int row, int col) {
     mouseCol_ = col;
     if (!acceptsUserAction()) return;
     MouseDown();
-    const bool body = contains(row, col) && row >= fixedRows_ && col >= fixedCols_;
-    if (body) Select(row, col);
+    if (isBody(row, col)) Select(row, col);
 }
 
 /// Takes over what was typed or pasted, unless the cell has a list and the text is none of its items; an item is taken
@@ -140,6 +211,7 @@ bool Grid::accept(TextEditor edited) {
         edited.SelectAll();
     }
     editor_ = std::move(edited);
+    reportChange();
     return true;
 }
 

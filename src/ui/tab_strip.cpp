@@ -20,7 +20,7 @@ TabStrip::TabStrip(Control& container, std::string name, std::vector<Tab> tabs, 
 
 void TabStrip::SelectedItem(int index) {
     if (index < 1 || index > static_cast<int>(tabs_.size())) raise(ErrorNumber::InvalidPropertyValue);
-    selectedItem_ = index;
+    change(selectedItem_, index);
     Click();
     Shown();
 }

@@ -16,6 +16,7 @@ template <class Edit>
 void TextBox::edit(Edit change) {
     const std::string before = editor_.Text();
     change();
+    reportChange();
     if (editor_.Text() != before) Change();
 }
 
@@ -23,9 +24,14 @@ void TextBox::Text(std::string text) {
     edit([&] { editor_.Text(std::move(text)); });
 }
 
+void TextBox::select(int start, int length) {
+    editor_.Select(start, length);
+    reportChange();
+}
+
 void TextBox::UserFocus() {
     if (!acceptsUserAction()) return;
-    editor_.Select(static_cast<int>(Text().size()), 0);
+    select(static_cast<int>(Text().size()), 0);
     GotFocus();
 }
 

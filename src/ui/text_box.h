@@ -26,19 +26,22 @@ public:
     int Long() const { return toLong(Text(), separator()); }
 
     int SelStart() const { return editor_.SelStart(); }
-    void SelStart(int start) { editor_.Select(start, editor_.SelLength()); }
+    void SelStart(int start) { select(start, editor_.SelLength()); }
     int SelLength() const { return editor_.SelLength(); }
-    void SelLength(int length) { editor_.Select(editor_.SelStart(), length); }
+    void SelLength(int length) { select(editor_.SelStart(), length); }
 
     void UserFocus();
     /// Types one key into the box; printable characters, Backspace, Enter and Escape reach KeyPress.
     void UserKey(int key);
     /// Puts a text from the clipboard in the place of the selection.
     void UserPaste(std::string_view text);
+    /// Selects by the mouse or the arrows, in characters.
+    void UserSelect(int start, int length) { select(start, length); }
 
 private:
     template <class Edit>
     void edit(Edit change);
+    void select(int start, int length);
 
     TextEditor editor_;
 };

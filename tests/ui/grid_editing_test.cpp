@@ -86,7 +86,7 @@ TEST_F(GridEditing, EnterTabAndTheArrowsMoveOnAfterTheyCommitted) {
         int Key;
         std::string To;
     };
-    for (const Row& row : std::vector<Row>{{ui::LeftKey, "2.0"},
+    for (const Row& row : std::vector<Row>{{ui::LeftKey, "2.1"},  // headings are no cells to move to
                                            {ui::RightKey, "2.2"},
                                            {ui::UpKey, "1.1"},
                                            {ui::DownKey, "3.1"},

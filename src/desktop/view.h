@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: 2026 The Brenica developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QWidget>
+#include <functional>
+
+#include "desktop/scale.h"
+
+namespace desktop {
+
+/// The one way from a widget into the form.
+class FormLink {
+public:
+    virtual ~FormLink() = default;
+
+    /// Runs `action`, which calls user actions of the form's controls. When it has returned, every view of a control
+    /// that it changed has followed. If it fails, the failure is shown and the program ends: nothing is thrown on.
+    virtual void run(const std::function<void()>& action) = 0;
+    virtual const Scale& scale() const = 0;
+};
+
+/// What shows one control. Place, visibility, state, tool tip and names of its widget are taken over for all kinds
+/// alike (form_view.cpp); a view takes over what is its kind's own.
+class View {
+public:
+    virtual ~View() = default;
+
+    virtual QWidget& widget() = 0;
+    /// Takes over what the control has become. Called when the control has changed, which may be often: what costs
+    /// time is done only where it shows.
+    virtual void follow() = 0;
+};
+
+}  // namespace desktop

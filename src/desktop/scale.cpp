@@ -22,6 +22,8 @@ int Scale::pixels(int twips) const { return static_cast<int>(std::lround(twips *
 
 int Scale::twips(int pixels) const { return static_cast<int>(std::ceil(pixels / pixelsPerTwip_)); }
 
+int Scale::twipsWithin(int pixels) const { return static_cast<int>(std::floor(pixels / pixelsPerTwip_)); }
+
 QRect Scale::place(const ui::Control& control) const {
     const QPoint topLeft(pixels(control.Left()), pixels(control.Top()));
     const QPoint behind(pixels(control.Left() + control.Width()), pixels(control.Top() + control.Height()));

@@ -19,6 +19,8 @@ public:
     int pixels(int twips) const;
     /// The least number of twips that holds so many pixels.
     int twips(int pixels) const;
+    /// The greatest number of twips that so many pixels hold.
+    int twipsWithin(int pixels) const;
     /// A control's place in its container. Its edges are rounded one by one, so that neighbours meet.
     QRect place(const ui::Control& control) const;
     /// The desktop's font for the design's own one, and another family where the design names one; sizes keep their

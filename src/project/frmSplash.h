@@ -20,7 +20,7 @@ public:
     ui::Label lblBrenicaSoftware{*this, "lblBrenicaSoftware", {.Caption = "Brenica Software"}};
     ui::Label lblVersion{*this, "lblVersion", {.Caption = "Version 2.0"}};
     ui::Label lblMerrowdaleProg{*this, "lblMerrowdaleProg", {.Caption = "Merrowdale Program"}};
-    ui::Timer SplashTimer;
+    ui::Timer SplashTimer{*this};
 
 private:
     void Form_Load();

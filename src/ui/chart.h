@@ -2,18 +2,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <cstdint>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "ui/appearance.h"
 #include "ui/control.h"
 
 namespace ui {
-
-/// red + 256 × green + 65536 × blue.
-using Colour = std::int32_t;
-constexpr Colour rgb(int red, int green, int blue) { return red + 256 * green + 65536 * blue; }
 
 enum class ChartType { Bar2D = 1 };
 enum class TitleOrientation { Horizontal = 0, Upward = 2 };

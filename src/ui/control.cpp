@@ -39,8 +39,8 @@ void Control::joinChanged() {
 }
 
 std::string Control::AccessibleName() const {
-    if (!caption_.empty()) return caption_;
     if (!accessibleName_.empty()) return accessibleName_;
+    if (!caption_.empty()) return caption_;
     const Control* label = form_->LabelOf(*this);
     return label != nullptr ? label->Caption() : std::string();
 }

@@ -69,7 +69,7 @@ public:
     void Enabled(bool enabled) { change(enabled_, enabled); }
     char AccessKey() const { return accessKey_; }
     const std::string& Shortcut() const { return shortcut_; }
-    /// Its caption, the name that the design gives it, or the caption of the label before it.
+    /// The name that the design gives it, its caption, or the caption of the label before it.
     std::string AccessibleName() const;
 
     int Left() const { return left_; }

@@ -11,6 +11,7 @@
 namespace ui {
 
 class Grid;
+class Timer;
 
 enum class WindowState { Normal, Minimized, Maximized };
 /// What surrounds a window's own area.
@@ -36,6 +37,8 @@ public:
     /// The controls whose looks have changed since this was called last, each once. A window that follows the form
     /// reads them when a user action has returned and before it shows a box.
     std::vector<Control*> TakeChanged();
+    std::span<Timer* const> Timers() const { return timers_; }
+    void Join(Timer& timer) { timers_.push_back(&timer); }
     /// The label that names a control: the one that stands right before it in its container; null for none.
     const Control* LabelOf(const Control& control) const;
     Platform& GetPlatform() const { return platform_; }
@@ -69,6 +72,7 @@ private:
     FormBorder border_;
     std::vector<Control*> controls_;
     std::vector<Control*> changed_;
+    std::vector<Timer*> timers_;
     ui::WindowState windowState_ = ui::WindowState::Normal;
     Grid* editingGrid_ = nullptr;
     bool unloaded_ = false;

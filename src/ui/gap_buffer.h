@@ -49,8 +49,8 @@ private:
     std::size_t slotOf(std::size_t index) const { return index < gapStart_ ? index : index + gapLength_; }
 
     void moveGap(std::size_t index) {
-        const auto slots = slots_.begin();
-        const auto at = [&](std::size_t i) { return slots + static_cast<std::ptrdiff_t>(i); };
+        const auto places = slots_.begin();
+        const auto at = [&](std::size_t i) { return places + static_cast<std::ptrdiff_t>(i); };
         if (gapLength_ == 0) {
             // Nothing to move: an element must not be moved onto itself.
         } else if (index < gapStart_) {

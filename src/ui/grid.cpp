@@ -202,9 +202,12 @@ int Grid::measure(int col) const {
     return widest + CellPadding;
 }
 
+bool Grid::RowsOverflow() const {
+    return static_cast<long long>(Rows()) * RowHeight > Height() - BorderWidth;
+}
+
 int Grid::ClientWidth() const {
-    const bool scrolls = static_cast<long long>(Rows()) * RowHeight > Height() - BorderWidth;
-    return std::max(0, Width() - BorderWidth - (scrolls ? ScrollBarWidth : 0));
+    return std::max(0, Width() - BorderWidth - (RowsOverflow() ? ScrollBarWidth : 0));
 }
 
 }  // namespace ui

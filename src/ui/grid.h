@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "ui/chart.h"
+#include "ui/appearance.h"
 #include "ui/control.h"
 #include "ui/errors.h"
 #include "ui/event.h"
@@ -21,8 +21,6 @@ namespace ui {
 enum class SortOrder { GenericAscending = 1, GenericDescending = 2, TextAscending = 5 };
 /// Values of Grid::Editable.
 enum class EditMode { ReadOnly = 0, KeyboardAndMouse = 2 };
-/// Values of alignment settings.
-enum class CellAlign : signed char { LeftCentre = 1, CentreCentre = 4, General = 9 };
 /// Values of CellChecked.
 enum class CheckState : signed char { None = 0, Checked = 1, Unchecked = 2 };
 /// The formats of SaveGrid.
@@ -124,6 +122,8 @@ public:
     /// Makes columns as wide as their widest text.
     void AutoSize(int col) { AutoSize(col, col); }
     void AutoSize(int firstCol, int lastCol);
+    /// Whether the rows do not fit into its height.
+    bool RowsOverflow() const;
     /// Width less border and, when the rows do not fit, less the scroll bar.
     int ClientWidth() const;
 
@@ -152,6 +152,8 @@ public:
     // The edit session. ComboList is the list of items, separated by "|", that the cell to be edited offers.
     const std::string& ComboList() const { return comboList_; }
     void ComboList(std::string list) { comboList_ = std::move(list); }
+    /// Its items one by one; none without a list.
+    std::vector<std::string_view> ComboItems() const;
     bool Editing() const { return editing_; }
     const std::string& EditText() const { return editor_.Text(); }
     const TextEditor& Editor() const { return editor_; }
@@ -163,8 +165,13 @@ public:
     // User actions. Each tells whether it took place.
     bool UserMoveTo(int row, int col);
     /// Moves to the next cell of the body in the direction of an arrow, Enter (down) or Tab (right, and on in the next
-    /// row), past hidden columns; false at the edge.
+    /// row), past hidden columns, and from a heading into the body; false at the edge.
     bool UserStep(int key);
+    /// The way of Tab backwards.
+    bool UserStepBack();
+    /// Whether Tab, or Tab backwards, finds no further cell.
+    bool AtLastCell() const;
+    bool AtFirstCell() const;
     /// Selects the cells between the current cell and this one of the body, without moving the current cell.
     bool UserSelectTo(int row, int col);
     /// The selected cells as lines of tab-separated texts, hidden columns left out.
@@ -174,6 +181,8 @@ public:
     bool UserPasteBlock(std::string_view lines);
     /// Drags the edge of a column; the next fit takes the width back.
     void UserDragColumn(int col, int width);
+    /// Makes a column as wide as its widest text.
+    void UserFitColumn(int col);
     /// Opens the editor on the current cell with its whole text selected, unless BeforeEdit refuses.
     bool UserBeginEdit();
     /// Types a key into the editor; Enter, Tab and the arrows commit and move, Escape cancels.
@@ -247,6 +256,8 @@ private:
         return contains(row, col) && row >= fixedRows_ && col >= fixedCols_;
     }
     int nextShownCol(int col, int step) const;
+    bool stepTo(int row, int col);
+    bool stepIntoBody();
     int measure(int col) const;
     void printRows(Files& files, int fileNumber) const;
     bool accept(TextEditor edited);

@@ -41,20 +41,41 @@ int Grid::nextShownCol(int col, int step) const {
     return -1;
 }
 
+bool Grid::stepTo(int row, int col) { return isBody(row, col) && UserMoveTo(row, col); }
+
+/// From a heading to the cell of the body that is next to it.
+bool Grid::stepIntoBody() {
+    return stepTo(std::max(row_, fixedRows_), nextShownCol(std::max(col_, fixedCols_) - 1, 1));
+}
+
 bool Grid::UserStep(int key) {
-    const auto moveTo = [this](int row, int col) { return isBody(row, col) && UserMoveTo(row, col); };
+    if (!isBody(row_, col_)) return stepIntoBody();
     switch (key) {
         case EnterKey:
-        case DownKey: return moveTo(row_ + 1, col_);
-        case UpKey: return moveTo(row_ - 1, col_);
-        case LeftKey: return moveTo(row_, nextShownCol(col_, -1));
-        case RightKey: return moveTo(row_, nextShownCol(col_, 1));
+        case DownKey: return stepTo(row_ + 1, col_);
+        case UpKey: return stepTo(row_ - 1, col_);
+        case LeftKey: return stepTo(row_, nextShownCol(col_, -1));
+        case RightKey: return stepTo(row_, nextShownCol(col_, 1));
         case TabKey: {
             const int next = nextShownCol(col_, 1);
-            return next >= 0 ? moveTo(row_, next) : moveTo(row_ + 1, nextShownCol(fixedCols_ - 1, 1));
+            return next >= 0 ? stepTo(row_, next) : stepTo(row_ + 1, nextShownCol(fixedCols_ - 1, 1));
         }
         default: return false;
     }
+}
+
+bool Grid::UserStepBack() {
+    const int before = nextShownCol(col_, -1);
+    return before >= 0 ? stepTo(row_, before) : stepTo(row_ - 1, nextShownCol(Cols(), -1));
+}
+
+bool Grid::AtLastCell() const {
+    const bool anyCell = fixedRows_ < Rows() && nextShownCol(fixedCols_ - 1, 1) >= 0;
+    return !anyCell || (row_ >= Rows() - 1 && nextShownCol(col_, 1) < 0);
+}
+
+bool Grid::AtFirstCell() const {
+    return !isBody(row_, col_) || (row_ <= fixedRows_ && nextShownCol(col_, -1) < 0);
 }
 
 bool Grid::UserSelectTo(int row, int col) {
@@ -103,6 +124,15 @@ bool Grid::UserPasteBlock(std::string_view lines) {
 
 void Grid::UserDragColumn(int col, int width) {
     if (acceptsUserAction() && col >= 0 && col < Cols()) ColWidth(col, width);
+}
+
+void Grid::UserFitColumn(int col) {
+    if (acceptsUserAction() && col >= 0 && col < Cols()) AutoSize(col);
+}
+
+std::vector<std::string_view> Grid::ComboItems() const {
+    if (comboList_.empty()) return {};
+    return split(comboList_, ListSeparator);
 }
 
 bool Grid::UserBeginEdit() {
@@ -199,7 +229,7 @@ void Grid::UserMouseDown(int row, int col) {
 /// over as the list spells it.
 bool Grid::accept(TextEditor edited) {
     if (!comboList_.empty()) {
-        const auto items = split(comboList_, ListSeparator);
+        const auto items = ComboItems();
         const auto item = std::find_if(items.begin(), items.end(), [&](std::string_view offered) {
             return equalsIgnoringCase(offered, edited.Text());
         });

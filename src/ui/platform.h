@@ -19,6 +19,8 @@ struct Font {
     std::string Name = "MS Sans Serif";
     int Size = 8;  // points
     bool Bold = false;
+
+    bool operator==(const Font&) const = default;
 };
 
 /// Width and height in twips, twenty to the point.

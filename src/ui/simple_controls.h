@@ -2,15 +2,25 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <optional>
+
+#include "ui/appearance.h"
 #include "ui/control.h"
 #include "ui/event.h"
 
 namespace ui {
 
+/// A text, broken into lines where its width wants it.
 class Label : public Control {
 public:
     Label(Control& container, std::string name, Design design = {})
         : Control(container, ControlKind::Label, std::move(name), std::move(design)) {}
+
+    // Fixed settings, made once by the form.
+    Font TextFont;
+    /// Of the text; nothing where the desktop chooses.
+    std::optional<Colour> ForeColor;
+    CellAlign Alignment = CellAlign::LeftCentre;
 };
 
 class Frame : public Control {

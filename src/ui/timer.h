@@ -3,6 +3,7 @@
 #pragma once
 
 #include "ui/event.h"
+#include "ui/form_window.h"
 
 namespace ui {
 
@@ -10,6 +11,10 @@ namespace ui {
 /// Elapse.
 class Timer {
 public:
+    explicit Timer(FormWindow& form) { form.Join(*this); }
+    Timer(const Timer&) = delete;
+    Timer& operator=(const Timer&) = delete;
+
     Event<> Elapsed;
     int Interval = 0;
     bool Enabled = false;

@@ -7,7 +7,10 @@ namespace ui::window_text {
 
 inline constexpr const char* CopyCells = "Copy cells";
 inline constexpr const char* PasteCells = "Paste cells";
-inline constexpr const char* Yes = "Yes";
-inline constexpr const char* No = "No";
+// Of the menu of a text box.
+inline constexpr const char* CutText = "Cut";
+inline constexpr const char* CopyText = "Copy";
+inline constexpr const char* PasteText = "Paste";
+inline constexpr const char* SelectAllText = "Select all";
 
 }  // namespace ui::window_text

@@ -1,0 +1,60 @@
+// SPDX-FileCopyrightText: 2026 The Brenica developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/combo_box_view.h"
+
+#include <QAbstractItemView>
+#include <QSignalBlocker>
+#include <QWheelEvent>
+
+#include "desktop/texts.h"
+
+namespace desktop {
+
+namespace {
+
+constexpr int MostVisibleItems = 20;
+
+}  // namespace
+
+ComboBoxView::ComboBoxView(ui::ComboBox& box, FormLink& link, QWidget* parent)
+    : QComboBox(parent), box_(box) {
+    setMaxVisibleItems(MostVisibleItems);
+    setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    setStyleSheet("QComboBox { combobox-popup: 0; }");
+    connect(this, &QComboBox::activated, this, [this, &link](int index) {
+        link.run([this, index] { box_.UserChoose(index); });
+        follow();  // also where the choice did not take place
+    });
+}
+
+bool ComboBoxView::showsTheItems() const {
+    if (count() != box_.ListCount()) return false;
+    for (int i = 0; i < count(); ++i) {
+        if (itemText(i).toStdString() != box_.List(i)) return false;
+    }
+    return true;
+}
+
+void ComboBoxView::follow() {
+    const QSignalBlocker blocker(this);
+    if (!showsTheItems()) {
+        QStringList items;
+        for (int i = 0; i < box_.ListCount(); ++i) items.append(QString::fromStdString(box_.List(i)));
+        clear();
+        addItems(items);
+    }
+    setCurrentIndex(box_.ListIndex());
+}
+
+void ComboBoxView::showPopup() {
+    const int wanted = view()->sizeHintForColumn(0) + style()->pixelMetric(QStyle::PM_ScrollBarExtent) * 2;
+    view()->setMinimumWidth(std::max(width(), std::min(wanted, window()->width() / 2)));
+    QComboBox::showPopup();
+}
+
+void ComboBoxView::wheelEvent(QWheelEvent* event) {
+    if (hasFocus()) return QComboBox::wheelEvent(event);
+    event->ignore();
+}
+
+}  // namespace desktop

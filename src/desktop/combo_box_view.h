@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: 2026 The Brenica developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QComboBox>
+
+#include "desktop/view.h"
+#include "ui/combo_box.h"
+
+namespace desktop {
+
+/// A drop-down list; typing finds an item by its beginning, open or closed.
+class ComboBoxView : public QComboBox, public View {
+public:
+    ComboBoxView(ui::ComboBox& box, FormLink& link, QWidget* parent);
+    QWidget& widget() override { return *this; }
+    void follow() override;
+
+protected:
+    void showPopup() override;
+    /// A wheel that only scrolls past must not choose.
+    void wheelEvent(QWheelEvent* event) override;
+
+private:
+    bool showsTheItems() const;
+
+    ui::ComboBox& box_;
+};
+
+}  // namespace desktop

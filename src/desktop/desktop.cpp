@@ -1,0 +1,89 @@
+// SPDX-FileCopyrightText: 2026 The Brenica developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/desktop.h"
+
+#include <QApplication>
+#include <new>
+
+#include "desktop/chart_view.h"
+#include "desktop/dialogues.h"
+#include "ui/errors.h"
+
+namespace desktop {
+
+namespace {
+
+constexpr int ExitAfterFailure = 4;  // as brenica-batch ends after an unexpected error
+
+}  // namespace
+
+Desktop::Desktop() : scale_(QApplication::font()), platform_(scale_, *this), program_(platform_) {}
+
+void Desktop::start() {
+    run([this] { program_.Main(); });
+}
+
+/// The end of all exceptions. A failure ends the program, as the form has nothing to go on with.
+void Desktop::run(const std::function<void()>& action) {
+    if (ended_) return;
+    try {
+        action();
+        followForms();
+    } catch (const std::bad_alloc&) {
+        return fail(ui::describe(ui::ErrorNumber::OutOfMemory));
+    } catch (const std::exception& failure) {
+        return fail(failure.what());
+    }
+    if (program_.Ended()) end(0);
+}
+
+void Desktop::fail(const std::string& description) {
+    if (std::exchange(ended_, true)) return;
+    while (QApplication::overrideCursor() != nullptr) QApplication::restoreOverrideCursor();
+    showMessageBox(ownerOfBoxes(), description, ui::ApplicationTitle, ui::MessageIcon::Exclamation);
+    end(ExitAfterFailure);
+}
+
+void Desktop::end(int exitCode) {
+    ended_ = true;
+    for (FormView* window : {splash_.get(), mainWindow_.get()}) {
+        if (window != nullptr) window->hide();
+    }
+    // Queued, since the loop may not have begun.
+    QMetaObject::invokeMethod(
+        qApp, [exitCode] { QApplication::exit(exitCode); }, Qt::QueuedConnection);
+}
+
+void Desktop::followForms() {
+    follow(splash_, program_.Splash());
+    follow(mainWindow_, program_.MainForm());
+}
+
+/// Opens a window for a form that has come into being, and hides that of a form that has ended: it may be the one that
+/// the running user action came from.
+void Desktop::follow(std::unique_ptr<FormView>& window, ui::FormWindow* form) {
+    if (form == nullptr) return;
+    if (form->Unloaded()) {
+        if (window != nullptr) window->hide();
+    } else if (window == nullptr) {
+        window = std::make_unique<FormView>(*form, *this);
+        window->open();
+    } else {
+        window->follow();
+    }
+}
+
+QWidget* Desktop::ownerOfBoxes() {
+    for (FormView* window : {mainWindow_.get(), splash_.get()}) {
+        if (window != nullptr && window->isVisible()) return window;
+    }
+    return nullptr;
+}
+
+QPixmap Desktop::pictureOf(const ui::Chart& chart) {
+    if (mainWindow_ == nullptr) return {};
+    auto* view = dynamic_cast<ChartView*>(mainWindow_->viewOf(chart));
+    return view != nullptr ? view->picture() : QPixmap();
+}
+
+}  // namespace desktop

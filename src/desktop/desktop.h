@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: 2026 The Brenica developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <memory>
+
+#include "desktop/form_view.h"
+#include "desktop/qt_platform.h"
+#include "project/modStartup.h"
+
+namespace desktop {
+
+/// The running program with its windows: one for each form, from the form's beginning to its end.
+class Desktop : public FormLink, public Windows {
+public:
+    Desktop();
+
+    /// Starts the program and opens its first window; the rest happens in the event loop, which it ends.
+    void start();
+
+    void run(const std::function<void()>& action) override;
+    const Scale& scale() const override { return scale_; }
+
+    void followForms() override;
+    QWidget* ownerOfBoxes() override;
+    QPixmap pictureOf(const ui::Chart& chart) override;
+
+    Program& program() { return program_; }
+    /// The main form's window; null until the splash has handed over.
+    FormView* mainWindow() const { return mainWindow_.get(); }
+
+private:
+    void follow(std::unique_ptr<FormView>& window, ui::FormWindow* form);
+    void fail(const std::string& description);
+    void end(int exitCode);
+
+    Scale scale_;
+    QtPlatform platform_;
+    Program program_;
+    std::unique_ptr<FormView> splash_;
+    std::unique_ptr<FormView> mainWindow_;
+    bool ended_ = false;
+};
+
+}  // namespace desktop

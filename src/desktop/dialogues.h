@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: 2026 The Brenica developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QStyle>
+#include <optional>
+#include <string>
+
+#include "ui/platform.h"
+
+class QDialogButtonBox;
+class QVBoxLayout;
+
+namespace desktop {
+
+/// A modal box: an icon, a plain text that is broken into lines and scrolls where the screen is too low for it, and
+/// buttons.
+class Box : public QDialog {
+public:
+    Box(QWidget* parent, const std::string& title, const std::string& text);
+
+    void setIcon(QStyle::StandardPixmap icon);
+    /// A line to answer in, with the proposed answer selected.
+    QLineEdit& addAnswer(const std::string& proposed);
+    QDialogButtonBox& buttons() { return *buttons_; }
+
+private:
+    QWidget* makeText(const QString& text);
+
+    QLabel* icon_;
+    QVBoxLayout* column_;
+    QDialogButtonBox* buttons_;
+};
+
+void showMessageBox(QWidget* parent, const std::string& text, const std::string& title, ui::MessageIcon icon);
+/// Yes is the default; Escape and the close box are No.
+bool showQuestionBox(QWidget* parent, const std::string& text, const std::string& title);
+/// The answer, empty when the box is cancelled.
+std::string showInputBox(QWidget* parent, const std::string& prompt, const std::string& title,
+                         const std::string& proposed);
+/// The path chosen. `lastFolder` is where a dialogue opens that names no folder; it becomes the chosen file's.
+std::optional<std::string> showFileDialogue(QWidget* parent, const ui::FileDialogRequest& request,
+                                            QString& lastFolder);
+
+}  // namespace desktop

@@ -1,0 +1,243 @@
+// SPDX-FileCopyrightText: 2026 The Brenica developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/form_view.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QLabel>
+#include <QScreen>
+#include <QShortcut>
+
+#include "desktop/menu_view.h"
+#include "desktop/tab_strip_view.h"
+#include "desktop/texts.h"
+#include "desktop/view_factory.h"
+#include "ui/grid.h"
+#include "ui/timer.h"
+
+namespace desktop {
+
+namespace {
+
+constexpr int UntilSettled = 250;  // milliseconds without a move of a window that is being dragged
+
+Qt::WindowFlags flagsOf(const ui::FormWindow& form) {
+    return form.Border() == ui::FormBorder::None ? Qt::Window | Qt::FramelessWindowHint : Qt::Window;
+}
+
+/// What all kinds of controls have in common.
+void followCommon(QWidget& widget, const ui::Control& control, const Scale& scale) {
+    widget.setGeometry(scale.place(control));
+    widget.setEnabled(control.Enabled());
+    widget.setVisible(control.Visible());
+    widget.setToolTip(plainToolTip(control.ToolTipText()));
+    widget.setAccessibleName(shownText(control.AccessibleName()));
+}
+
+}  // namespace
+
+FormView::FormView(ui::FormWindow& form, FormLink& link)
+    : QWidget(nullptr, flagsOf(form)), form_(form), link_(link), contents_(new QWidget(this)) {
+    setObjectName(shownText(form.Name()));
+    contents_->setFocusPolicy(Qt::NoFocus);
+    for (ui::Control* control : form.Controls()) addView(*control);
+    startTimers();
+    addPageKeys();
+    settled_.setSingleShot(true);
+    settled_.setInterval(UntilSettled);
+    connect(&settled_, &QTimer::timeout, this, [this] { tellSize(); });
+    form.TakeChanged();
+    followWindow();
+}
+
+void FormView::addView(ui::Control& control) {
+    if (control.Kind() == ui::ControlKind::MenuItem) {
+        if (menu_ == nullptr) menu_ = new MenuView(link_, this);
+        return menu_->add(static_cast<ui::MenuItem&>(control));
+    }
+    const bool inForm = control.Container().Kind() == ui::ControlKind::Form;
+    QWidget* parent = inForm ? contents_ : &views_.at(&control.Container())->widget();
+    View* view = makeView(control, link_, parent);
+    views_[&control] = view;
+    view->widget().setObjectName(shownText(control.Name()));
+    followControl(control);
+    const ui::Control* label = form_.LabelOf(control);
+    if (label == nullptr || label->AccessKey() == 0) return;
+    static_cast<QLabel&>(views_.at(label)->widget()).setBuddy(&view->widget());
+}
+
+void FormView::startTimers() {
+    for (ui::Timer* timer : form_.Timers()) {
+        auto ticking = std::make_unique<QTimer>();
+        connect(ticking.get(), &QTimer::timeout, this,
+                [this, timer] { link_.run([timer] { timer->Elapse(); }); });
+        if (timer->Enabled) ticking->start(timer->Interval);
+        timers_.push_back(std::move(ticking));
+    }
+}
+
+/// The keys that turn pages everywhere: of the outermost strip of tabs, and of the innermost around the focus.
+void FormView::addPageKeys() {
+    const auto add = [this](const QKeySequence& keys, bool innermost, int by) {
+        connect(new QShortcut(keys, this), &QShortcut::activated, this,
+                [this, innermost, by] { turnPage(innermost, by); });
+    };
+    add(Qt::CTRL | Qt::Key_PageDown, false, 1);
+    add(Qt::CTRL | Qt::Key_PageUp, false, -1);
+    add(Qt::CTRL | Qt::Key_Tab, true, 1);
+    add(Qt::CTRL | Qt::SHIFT | Qt::Key_Backtab, true, -1);
+}
+
+void FormView::turnPage(bool innermost, int by) {
+    TabStripView* strip = nullptr;
+    for (QWidget* widget = focusWidget(); widget != nullptr; widget = widget->parentWidget()) {
+        auto* around = dynamic_cast<TabStripView*>(widget);
+        if (around == nullptr) continue;
+        strip = around;
+        if (innermost) break;
+    }
+    if (strip == nullptr) strip = contents_->findChild<TabStripView*>();
+    if (strip != nullptr) strip->step(by);
+}
+
+View* FormView::viewOf(const ui::Control& control) const {
+    const auto found = views_.find(&control);
+    return found == views_.end() ? nullptr : found->second;
+}
+
+void FormView::followControl(ui::Control& control) {
+    if (control.Kind() == ui::ControlKind::MenuItem)
+        return menu_->follow(static_cast<const ui::MenuItem&>(control));
+    View& view = *views_.at(&control);
+    followCommon(view.widget(), control, link_.scale());
+    view.follow();
+}
+
+void FormView::follow() {
+    for (ui::Control* control : form_.TakeChanged()) {
+        if (control == &form_) {
+            followWindow();
+        } else {
+            followControl(*control);
+        }
+    }
+    keepFocusOnOpenEditor();
+}
+
+/// An editor that refuses to close keeps the keys, wherever the user has clicked.
+void FormView::keepFocusOnOpenEditor() {
+    if (form_.EditingGrid() == nullptr) return;
+    QWidget& grid = views_.at(form_.EditingGrid())->widget();
+    const QWidget* focused = focusWidget();
+    if (focused == nullptr || (focused != &grid && !grid.isAncestorOf(focused))) grid.setFocus();
+}
+
+void FormView::followWindow() {
+    setWindowTitle(shownText(form_.Caption()));
+    if (open_ && form_.WindowState() == ui::WindowState::Normal) takeFormsGeometry();
+}
+
+void FormView::open() {
+    applying_ = true;
+    setGeometry(wantedGeometry());
+    open_ = true;
+    if (form_.WindowState() == ui::WindowState::Maximized) {
+        showMaximized();
+    } else {
+        if (form_.Border() == ui::FormBorder::None) {
+            move(screen()->availableGeometry().center() - rect().center());
+        }
+        show();
+    }
+    applying_ = false;
+    arrangeContents();
+    tellSize();
+}
+
+/// What the form's size counts beside the window's own area.
+QSize FormView::borderOfForm() const {
+    if (form_.Border() == ui::FormBorder::None) return {0, 0};
+    return {ui::FormWindow::BorderWidth, ui::FormWindow::BorderHeight};
+}
+
+QRect FormView::wantedGeometry() const {
+    const Scale& scale = link_.scale();
+    const int menuHeight = menu_ != nullptr ? menu_->sizeHint().height() : 0;
+    const QSize border = borderOfForm();
+    const QRect frame = frameGeometry();
+    return {scale.pixels(form_.Left()) + geometry().left() - frame.left(),
+            scale.pixels(form_.Top()) + geometry().top() - frame.top(),
+            scale.pixels(form_.Width() - border.width()),
+            scale.pixels(form_.Height() - border.height()) + menuHeight};
+}
+
+/// Asks once: a window manager that puts the window back where it was is left alone.
+void FormView::takeFormsGeometry() {
+    if (isMaximized() || isMinimized() || isFullScreen()) return;
+    const QRect wanted = wantedGeometry();
+    if (wanted == geometry() || askedFrom_ == geometry()) return;
+    askedFrom_ = geometry();
+    applying_ = true;
+    setGeometry(wanted);
+    applying_ = false;
+    arrangeContents();
+}
+
+void FormView::arrangeContents() {
+    const int menuHeight = menu_ != nullptr ? menu_->sizeHint().height() : 0;
+    if (menu_ != nullptr) menu_->setGeometry(0, 0, width(), menuHeight);
+    contents_->setGeometry(0, menuHeight, width(), height() - menuHeight);
+}
+
+void FormView::tellSize() {
+    if (!open_) return;
+    const Scale& scale = link_.scale();
+    const QSize border = borderOfForm();
+    const auto state = isMinimized()                     ? ui::WindowState::Minimized
+                       : isMaximized() || isFullScreen() ? ui::WindowState::Maximized
+                                                         : ui::WindowState::Normal;
+    const int width = scale.twipsWithin(contents_->width()) + border.width();
+    const int height = scale.twipsWithin(contents_->height()) + border.height();
+    const QPoint place = frameGeometry().topLeft();
+    link_.run([&] {
+        form_.UserResize(state, scale.twipsWithin(place.x()), scale.twipsWithin(place.y()), width, height);
+    });
+    if (state != ui::WindowState::Normal) return;
+    if (wantedGeometry() == geometry()) askedFrom_.reset();
+    takeFormsGeometry();
+}
+
+void FormView::resizeEvent(QResizeEvent*) {
+    arrangeContents();
+    if (!open_ || applying_) return;
+    if (isMaximized() || isFullScreen()) return tellSize();
+    settled_.start();
+}
+
+void FormView::moveEvent(QMoveEvent*) {
+    if (open_ && !applying_ && !isMaximized() && !isMinimized()) settled_.start();
+}
+
+void FormView::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() != QEvent::WindowStateChange || !open_ || applying_) return;
+    askedFrom_.reset();
+    if (isMinimized()) return tellSize();
+    settled_.start();
+}
+
+void FormView::closeEvent(QCloseEvent* event) {
+    event->ignore();  // the form's end closes the window
+    link_.run([this] { form_.UserClose(); });
+}
+
+void FormView::keyPressEvent(QKeyEvent* event) {
+    event->accept();
+    link_.run([this] { form_.UserKeyPress(); });
+}
+
+void FormView::mousePressEvent(QMouseEvent*) {
+    link_.run([this] { form_.UserClick(); });
+}
+
+}  // namespace desktop

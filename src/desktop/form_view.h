@@ -1,0 +1,66 @@
+// SPDX-FileCopyrightText: 2026 The Brenica developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QTimer>
+#include <QWidget>
+#include <memory>
+#include <optional>
+#include <unordered_map>
+#include <vector>
+
+#include "desktop/view.h"
+#include "ui/form_window.h"
+
+namespace desktop {
+
+class MenuView;
+
+/// A form's window: a view for each of its controls, made from the form's list, and the window's own size and state.
+class FormView : public QWidget {
+public:
+    FormView(ui::FormWindow& form, FormLink& link);
+
+    /// Shows the window as large as the form says and in the state that it says.
+    void open();
+    /// Lets the views of all changed controls follow.
+    void follow();
+    /// Nothing for a control of another form.
+    View* viewOf(const ui::Control& control) const;
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+
+private:
+    void addView(ui::Control& control);
+    void startTimers();
+    void followControl(ui::Control& control);
+    void followWindow();
+    void keepFocusOnOpenEditor();
+    void arrangeContents();
+    void addPageKeys();
+    void turnPage(bool innermost, int by);
+    QSize borderOfForm() const;
+    QRect wantedGeometry() const;
+    void takeFormsGeometry();
+    void tellSize();
+
+    ui::FormWindow& form_;
+    FormLink& link_;
+    MenuView* menu_ = nullptr;
+    QWidget* contents_;
+    std::unordered_map<const ui::Control*, View*> views_;
+    std::vector<std::unique_ptr<QTimer>> timers_;
+    QTimer settled_;
+    /// Where the window stood when it was last asked to go where the form wants it, to ask a window manager only once.
+    std::optional<QRect> askedFrom_;
+    bool open_ = false;
+    bool applying_ = false;
+};
+
+}  // namespace desktop

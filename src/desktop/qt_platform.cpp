@@ -1,0 +1,142 @@
+// SPDX-FileCopyrightText: 2026 The Brenica developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/qt_platform.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDir>
+#include <QFontMetricsF>
+#include <QLocale>
+#include <QSaveFile>
+#include <QScreen>
+#include <cmath>
+
+#include "desktop/dialogues.h"
+#include "desktop/texts.h"
+#include "ui/errors.h"
+
+namespace desktop {
+
+namespace {
+
+constexpr std::size_t MostKnownWidths = 1 << 20;
+
+/// The default pointer, for as long as a box is on view.
+class PointerLift {
+public:
+    PointerLift() {
+        while (const QCursor* pointer = QApplication::overrideCursor()) {
+            lifted_.append(*pointer);
+            QApplication::restoreOverrideCursor();
+        }
+    }
+    ~PointerLift() {
+        for (const QCursor& pointer : lifted_) QApplication::setOverrideCursor(pointer);
+    }
+    PointerLift(const PointerLift&) = delete;
+    PointerLift& operator=(const PointerLift&) = delete;
+
+private:
+    QList<QCursor> lifted_;
+};
+
+/// Runs a box on top of windows that show how far the form has come.
+template <class Show>
+auto withBox(Windows& windows, Show show) {
+    windows.followForms();
+    const PointerLift lift;
+    return show(windows.ownerOfBoxes());
+}
+
+bool isFolder(const QString& path) { return QDir(path).exists(); }
+
+}  // namespace
+
+void QtPlatform::showMessage(const std::string& text, const std::string& title, ui::MessageIcon icon) {
+    withBox(windows_, [&](QWidget* owner) { showMessageBox(owner, text, title, icon); });
+}
+
+bool QtPlatform::askYesNo(const std::string& prompt, const std::string& title) {
+    return withBox(windows_, [&](QWidget* owner) { return showQuestionBox(owner, prompt, title); });
+}
+
+std::string QtPlatform::askText(const std::string& prompt, const std::string& title,
+                                const std::string& defaultAnswer) {
+    return withBox(windows_,
+                   [&](QWidget* owner) { return showInputBox(owner, prompt, title, defaultAnswer); });
+}
+
+std::optional<std::string> QtPlatform::chooseFile(const ui::FileDialogRequest& request) {
+    return withBox(windows_, [&](QWidget* owner) { return showFileDialogue(owner, request, lastFolder_); });
+}
+
+void QtPlatform::beep() { QApplication::beep(); }
+
+void QtPlatform::copyPicture(const ui::Chart& chart) {
+    QApplication::clipboard()->setPixmap(windows_.pictureOf(chart));
+}
+
+/// Written to a temporary name and renamed, so that a failure leaves the file as it was.
+void QtPlatform::SavePicture(const std::string& path) {
+    const QImage picture = QApplication::clipboard()->image();
+    if (picture.isNull()) ui::raise(ui::ErrorNumber::InvalidPropertyValue);
+    const QString name = QString::fromStdString(path);
+    if (!isFolder(QFileInfo(name).absolutePath())) ui::raise(ui::ErrorNumber::PathNotFound);
+    QSaveFile file(name);
+    if (!file.open(QIODevice::WriteOnly)) ui::raise(ui::ErrorNumber::PathFileAccessError);
+    if (!picture.save(&file, "BMP") || !file.commit()) ui::raise(ui::ErrorNumber::DeviceIoError);
+}
+
+QtPlatform::Widths& QtPlatform::widthsFor(const ui::Font& font) const {
+    for (Widths& widths : widths_) {
+        if (widths.Font == font) return widths;
+    }
+    return widths_.emplace_back(Widths{font});
+}
+
+int QtPlatform::textWidth(std::string_view text, const ui::Font& font) const {
+    Widths& widths = widthsFor(font);
+    const auto known = widths.Known.find(text);
+    if (known != widths.Known.end()) return known->second;
+    const QFontMetricsF metrics(scale_.font(font));
+    const int width = scale_.twips(static_cast<int>(std::ceil(metrics.horizontalAdvance(shownText(text)))));
+    if (widths.Known.size() >= MostKnownWidths) widths.Known.clear();
+    widths.Known.emplace(text, width);
+    return width;
+}
+
+void QtPlatform::forgetTextWidths() { widths_.clear(); }
+
+ui::Size QtPlatform::screenSize() const {
+    const QSize size = QApplication::primaryScreen()->availableSize();
+    return {scale_.twips(size.width()), scale_.twips(size.height())};
+}
+
+void QtPlatform::setMousePointer(ui::MousePointer pointer) {
+    if (pointer == ui::MousePointer::Wait) {
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+    } else {
+        QApplication::restoreOverrideCursor();
+    }
+}
+
+void QtPlatform::processPendingEvents() {
+    windows_.followForms();
+    QApplication::processEvents();
+}
+
+/// The examples, installed beside the program or in the tree that it was built in.
+std::string QtPlatform::programFolder() const {
+    const QDir program(QApplication::applicationDirPath());
+    for (const char* place : {"../share/brenica/examples", "../../../../examples"}) {
+        if (isFolder(program.filePath(place))) return utf8(QDir::cleanPath(program.filePath(place)));
+    }
+    return utf8(program.path());
+}
+
+ui::DecimalSeparator QtPlatform::decimalSeparator() const {
+    return QLocale::system().decimalPoint() == "," ? ui::DecimalSeparator::Comma
+                                                   : ui::DecimalSeparator::Point;
+}
+
+}  // namespace desktop

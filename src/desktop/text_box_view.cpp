@@ -1,0 +1,165 @@
+// SPDX-FileCopyrightText: 2026 The Brenica developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/text_box_view.h"
+
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QGuiApplication>
+#include <QMenu>
+
+#include "desktop/texts.h"
+#include "ui/text_editor.h"
+#include "ui/window_texts.h"
+
+namespace desktop {
+
+namespace {
+
+constexpr int LineEditMargin =
+    2;  // what Qt leaves beside the text, which the design's boxes have no room for
+
+/// A place in UTF-16 as one in characters, and back.
+int charactersBefore(const QString& text, int place) {
+    return static_cast<int>(text.left(place).toUcs4().size());
+}
+int placeOf(const QString& text, int characters) {
+    const QList<uint> all = text.toUcs4();
+    return static_cast<int>(
+        QString::fromUcs4(reinterpret_cast<const char32_t*>(all.data()), characters).size());
+}
+
+}  // namespace
+
+TextBoxView::TextBoxView(ui::TextBox& box, FormLink& link, QWidget* parent)
+    : QLineEdit(parent), box_(box), link_(link) {
+    setTextMargins(-LineEditMargin, 0, -LineEditMargin, 0);
+    setAcceptDrops(false);
+    setDragEnabled(false);
+    connect(this, &QLineEdit::selectionChanged, this, [this] { tellSelection(); });
+    connect(this, &QLineEdit::cursorPositionChanged, this, [this] { tellSelection(); });
+}
+
+void TextBoxView::follow() {
+    following_ = true;
+    const QString shown = QString::fromStdString(box_.Text());
+    if (text() != shown) setText(shown);
+    const int start = placeOf(shown, box_.SelStart());
+    const int end = placeOf(shown, box_.SelStart() + box_.SelLength());
+    if (start != end) {
+        setSelection(start, end - start);
+    } else {
+        setCursorPosition(start);
+    }
+    following_ = false;
+}
+
+/// The user's own moves of caret and selection; what the form says is not told back to it.
+void TextBoxView::tellSelection() {
+    if (following_) return;
+    const int start = hasSelectedText() ? selectionStart() : cursorPosition();
+    const int first = charactersBefore(text(), start);
+    const int count = charactersBefore(text(), start + static_cast<int>(selectedText().size())) - first;
+    if (first == box_.SelStart() && count == box_.SelLength()) return;
+    box_.UserSelect(first, count);
+}
+
+void TextBoxView::focusInEvent(QFocusEvent* event) {
+    following_ = true;  // Qt selects by itself
+    QLineEdit::focusInEvent(event);
+    following_ = false;
+    const bool cameBack =
+        event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason;
+    pressGaveFocus_ = event->reason() == Qt::MouseFocusReason;
+    if (!cameBack) link_.run([this] { box_.UserFocus(); });
+    follow();
+}
+
+void TextBoxView::pressKey(int key) {
+    link_.run([this, key] { box_.UserKey(key); });
+}
+
+void TextBoxView::type(const QString& text) {
+    for (const uint character : text.toUcs4()) pressKey(static_cast<int>(character));
+}
+
+void TextBoxView::pasteText(const QString& text) {
+    link_.run([this, &text] { box_.UserPaste(utf8(text)); });
+}
+
+void TextBoxView::copySelection() const {
+    if (hasSelectedText()) QGuiApplication::clipboard()->setText(selectedText());
+}
+
+void TextBoxView::deleteForward() {
+    if (box_.SelLength() == 0) box_.UserSelect(box_.SelStart(), 1);
+    pasteText({});
+}
+
+bool TextBoxView::editWithClipboard(const QKeyEvent& event) {
+    if (event.matches(QKeySequence::Copy)) {
+        copySelection();
+    } else if (event.matches(QKeySequence::Cut)) {
+        copySelection();
+        if (hasSelectedText()) pasteText({});
+    } else if (event.matches(QKeySequence::Paste)) {
+        pasteText(QGuiApplication::clipboard()->text());
+    } else if (event.matches(QKeySequence::SelectAll)) {
+        selectAll();
+    } else {
+        return false;
+    }
+    return true;
+}
+
+void TextBoxView::keyPressEvent(QKeyEvent* event) {
+    if (editWithClipboard(*event)) return;
+    const bool command =
+        (event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0;
+    switch (event->key()) {
+        case Qt::Key_Backspace: return command ? event->ignore() : pressKey(ui::BackspaceKey);
+        case Qt::Key_Return:
+        case Qt::Key_Enter: return pressKey(ui::EnterKey);
+        case Qt::Key_Escape: return pressKey(ui::EscapeKey);
+        case Qt::Key_Delete: return command ? event->ignore() : deleteForward();
+        case Qt::Key_Left:
+        case Qt::Key_Right:
+        case Qt::Key_Home:
+        case Qt::Key_End: return QLineEdit::keyPressEvent(event);
+        default: break;
+    }
+    const QString typed = event->text();
+    if (command || typed.isEmpty() || !typed.at(0).isPrint()) return event->ignore();
+    type(typed);
+}
+
+void TextBoxView::inputMethodEvent(QInputMethodEvent* event) {
+    if (!event->commitString().isEmpty()) type(event->commitString());
+    event->accept();
+}
+
+/// The press that brings the focus leaves what the form selects on it.
+void TextBoxView::mousePressEvent(QMouseEvent* event) {
+    if (std::exchange(pressGaveFocus_, false) && event->button() == Qt::LeftButton) return;
+    QLineEdit::mousePressEvent(event);
+}
+
+void TextBoxView::mouseReleaseEvent(QMouseEvent* event) {
+    QClipboard& clipboard = *QGuiApplication::clipboard();
+    if (event->button() == Qt::MiddleButton) {
+        if (clipboard.supportsSelection()) pasteText(clipboard.text(QClipboard::Selection));
+        return;
+    }
+    QLineEdit::mouseReleaseEvent(event);
+}
+
+void TextBoxView::contextMenuEvent(QContextMenuEvent* event) {
+    using namespace ui::window_text;
+    QMenu menu(this);
+    menu.addAction(CutText, this, [this] { copySelection(), pasteText({}); })->setEnabled(hasSelectedText());
+    menu.addAction(CopyText, this, [this] { copySelection(); })->setEnabled(hasSelectedText());
+    menu.addAction(PasteText, this, [this] { pasteText(QGuiApplication::clipboard()->text()); });
+    menu.addAction(SelectAllText, this, [this] { selectAll(); });
+    menu.exec(event->globalPos());
+}
+
+}  // namespace desktop

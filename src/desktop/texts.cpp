@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 The Brenica developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/texts.h"
+
+#include <QTextDocument>
+
+namespace desktop {
+
+QString shownText(std::string_view text) {
+    QString shown = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+    return shown.replace("\r\n", "\n").replace('\r', '\n');
+}
+
+QString captionWithAccessKey(const ui::Control& control) {
+    QString caption = shownText(control.Caption());
+    const qsizetype place = control.AccessKey() == 0 ? -1 : caption.indexOf(QChar(control.AccessKey()));
+    if (place < 0) return caption.replace('&', "&&");
+    return caption.left(place).replace('&', "&&") + '&' + caption.mid(place).replace('&', "&&");
+}
+
+QString plainToolTip(std::string_view text) {
+    const QString tip = shownText(text);
+    return Qt::mightBeRichText(tip) ? tip.toHtmlEscaped() : tip;
+}
+
+std::string utf8(const QString& text) { return text.toStdString(); }
+
+}  // namespace desktop

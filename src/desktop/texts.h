@@ -1,0 +1,21 @@
+// SPDX-FileCopyrightText: 2026 The Brenica developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+#include <string>
+#include <string_view>
+
+#include "ui/control.h"
+
+namespace desktop {
+
+/// A text of the form as a widget shows it: a carriage return begins a new line.
+QString shownText(std::string_view text);
+/// A caption for a widget that underlines access keys: its own ampersands stand for themselves.
+QString captionWithAccessKey(const ui::Control& control);
+/// A tool tip that Qt does not take for marked-up text.
+QString plainToolTip(std::string_view text);
+std::string utf8(const QString& text);
+
+}  // namespace desktop

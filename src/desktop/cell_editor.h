@@ -1,0 +1,80 @@
+// SPDX-FileCopyrightText: 2026 The Brenica developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QBasicTimer>
+#include <QTextLayout>
+#include <QWidget>
+
+#include "desktop/grid_painter.h"
+#include "desktop/view.h"
+#include "ui/grid.h"
+
+namespace desktop {
+
+/// Shows the open edit of a grid over its cell: the text, caret and selection that the grid holds. The view keeps the
+/// keyboard and hands the keys on.
+class CellEditor : public QWidget {
+    Q_OBJECT
+
+public:
+    CellEditor(ui::Grid& grid, FormLink& link, const GridPainter& painter, QWidget* viewport);
+
+    /// Shows the edit as it stands at the cell's place, as wide as its text as far as `body` reaches; hidden when the
+    /// cell is scrolled out of it.
+    void showAt(const QRect& cell, const QRect& body);
+    void conceal();
+
+    /// Takes a key; false for one that is none of an editor's.
+    bool key(QKeyEvent* event);
+    void stepBack();
+    void copy() const;
+    void cut();
+    void paste();
+    /// Text that an input method is about to enter.
+    void preedit(const QString& text);
+    QVariant inputMethodValue(Qt::InputMethodQuery query) const;
+    void showCaret(bool blinking);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void timerEvent(QTimerEvent* event) override;
+
+private:
+    bool commandKey(QKeyEvent* event);
+    bool caretKey(QKeyEvent* event);
+    bool steppingKey(QKeyEvent* event);
+    void deleteNext();
+    void replaceSelection(const QString& text);
+    QString text() const;
+    QString selectedText() const;
+    void followCaret();
+    void select(int anchor, int caret);
+    void layOut(QTextLayout& layout) const;
+    QTextLine line(QTextLayout& layout) const;
+    double caretX() const;
+    int characterAt(int x) const;
+    int naturalWidth() const;
+    void scrollToCaret();
+
+    ui::Grid& grid_;
+    FormLink& link_;
+    const GridPainter& painter_;
+    QString preedit_;
+    // In characters, as the grid counts them; what is selected lies between them.
+    int anchor_ = 0;
+    int caret_ = 0;
+    double scrolled_ = 0;
+    bool caretShown_ = true;
+    QBasicTimer blinking_;
+};
+
+/// Types each character of a text into the open edit.
+void typeInto(ui::Grid& grid, const QString& text);
+/// Whether a key types its text, rather than being a command.
+bool isTyping(const QKeyEvent& event);
+
+}  // namespace desktop

@@ -1,0 +1,186 @@
+// SPDX-FileCopyrightText: 2026 The Brenica developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The keyboard of a grid: with an open editor its own, otherwise that of a spreadsheet.
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QScrollBar>
+#include <algorithm>
+
+#include "desktop/cell_editor.h"
+#include "desktop/grid_view.h"
+
+namespace desktop {
+
+void GridView::keyPressEvent(QKeyEvent* event) {
+    if (grid_.Editing() && editorKey(event)) return;
+    if (clipboardKey(event) || moveKey(event) || editKey(event)) return;
+    event->ignore();
+}
+
+bool GridView::editorKey(QKeyEvent* event) {
+    if (!editor_->key(event)) return false;
+    if (!grid_.Editing()) reveal({grid_.Row(), grid_.Col()});
+    return true;
+}
+
+/// Takes Tab within the grid; false where it goes on to the next widget.
+bool GridView::tabKey(bool backwards) {
+    if (grid_.Editing()) {
+        if (backwards) {
+            editor_->stepBack();
+        } else {
+            act([this] { grid_.UserEditKey(ui::TabKey); });
+        }
+        reveal({grid_.Row(), grid_.Col()});
+        return true;
+    }
+    if (grid_.Editable == ui::EditMode::ReadOnly) return false;
+    if (backwards ? grid_.AtFirstCell() : grid_.AtLastCell()) return false;
+    act([=, this] { backwards ? grid_.UserStepBack() : grid_.UserStep(ui::TabKey); });
+    reveal({grid_.Row(), grid_.Col()});
+    return true;
+}
+
+bool GridView::clipboardKey(QKeyEvent* event) {
+    if (event->matches(QKeySequence::Copy)) return copyCells(), true;
+    if (event->matches(QKeySequence::Paste)) return pasteCells(), true;
+    if (event->matches(QKeySequence::SelectAll)) return selectAll(), true;
+    return false;
+}
+
+bool GridView::moveKey(QKeyEvent* event) {
+    const bool extends = event->modifiers() & Qt::ShiftModifier;
+    const bool toCorner = event->modifiers() & Qt::ControlModifier;
+    if (event->modifiers() & (Qt::AltModifier | Qt::MetaModifier)) return false;
+    switch (event->key()) {
+        case Qt::Key_Return:
+        case Qt::Key_Enter: stepBy(extends ? ui::UpKey : ui::EnterKey); return true;
+        case Qt::Key_Up:
+        case Qt::Key_Down:
+        case Qt::Key_Left:
+        case Qt::Key_Right:
+        case Qt::Key_Home:
+        case Qt::Key_End:
+        case Qt::Key_PageUp:
+        case Qt::Key_PageDown: break;
+        default: return false;
+    }
+    const CellAddress from =
+        extends ? CellAddress{grid_.RowSel(), grid_.ColSel()} : CellAddress{grid_.Row(), grid_.Col()};
+    const CellAddress to = target(event->key(), toCorner, from);
+    if (extends) {
+        selectTo(to);
+    } else {
+        moveTo(to);
+    }
+    return true;
+}
+
+/// The cell of the body to which a key leads from another.
+CellAddress GridView::target(int key, bool toCorner, CellAddress from) const {
+    const int firstRow = geometry_.fixedRows();
+    const int lastRow = grid_.Rows() - 1;
+    const int firstCol = geometry_.nextShownCol(geometry_.fixedCols() - 1, 1);
+    const int lastCol = geometry_.nextShownCol(grid_.Cols(), -1);
+    if (firstRow > lastRow || firstCol < 0) return {};
+    if (from.Row < firstRow || from.Col < geometry_.fixedCols()) {
+        const int col = geometry_.nextShownCol(std::max(from.Col - 1, geometry_.fixedCols() - 1), 1);
+        return {std::max(from.Row, firstRow), col};
+    }
+    const auto column = [&](int step) {
+        const int next = geometry_.nextShownCol(from.Col, step);
+        return next < 0 ? from.Col : next;
+    };
+    const int page = std::max(1, geometry_.wholeRows(viewport()->height()));
+    CellAddress to = from;
+    switch (key) {
+        case Qt::Key_Up: to.Row = toCorner ? firstRow : from.Row - 1; break;
+        case Qt::Key_Down: to.Row = toCorner ? lastRow : from.Row + 1; break;
+        case Qt::Key_Left: to.Col = toCorner ? firstCol : column(-1); break;
+        case Qt::Key_Right: to.Col = toCorner ? lastCol : column(1); break;
+        case Qt::Key_Home: to = {toCorner ? firstRow : from.Row, firstCol}; break;
+        case Qt::Key_End: to = {toCorner ? lastRow : from.Row, lastCol}; break;
+        case Qt::Key_PageUp: to.Row = from.Row - page; break;
+        case Qt::Key_PageDown: to.Row = from.Row + page; break;
+        default: break;
+    }
+    to.Row = std::clamp(to.Row, firstRow, lastRow);
+    return to;
+}
+
+void GridView::moveTo(CellAddress cell) {
+    if (cell.Row < 0) return;
+    bool moved = false;
+    act([&] { moved = grid_.UserMoveTo(cell.Row, cell.Col); });
+    if (moved) reveal(cell);
+}
+
+void GridView::stepBy(int key) {
+    bool moved = false;
+    act([&] { moved = grid_.UserStep(key); });
+    if (moved) reveal({grid_.Row(), grid_.Col()});
+}
+
+void GridView::selectTo(CellAddress cell) {
+    if (cell.Row < 0) return;
+    bool selected = false;
+    act([&] { selected = grid_.UserSelectTo(cell.Row, cell.Col); });
+    if (selected) reveal(cell);
+}
+
+void GridView::selectAll() {
+    const CellAddress here{grid_.Row(), grid_.Col()};
+    const CellAddress first = target(Qt::Key_Home, true, {geometry_.fixedRows(), geometry_.fixedCols()});
+    const CellAddress last = target(Qt::Key_End, true, {geometry_.fixedRows(), geometry_.fixedCols()});
+    if (first.Row < 0) return;
+    act([&] {
+        if (here == first || grid_.UserMoveTo(first.Row, first.Col)) grid_.UserSelectTo(last.Row, last.Col);
+    });
+}
+
+bool GridView::editKey(QKeyEvent* event) {
+    if (event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) return false;
+    switch (event->key()) {
+        case Qt::Key_F2: beginEdit(); return true;
+        case Qt::Key_Delete: act([this] { grid_.UserDelete(); }); return true;
+        case Qt::Key_Backspace:
+            act([this] {
+                if (grid_.UserBeginEdit()) grid_.UserEditKey(ui::BackspaceKey);
+            });
+            return true;
+        default: break;
+    }
+    if (!isTyping(*event)) return false;
+    typeText(event->text());
+    return true;
+}
+
+void GridView::beginEdit() {
+    reveal({grid_.Row(), grid_.Col()});
+    act([this] { grid_.UserBeginEdit(); });
+}
+
+/// Opens an editor on a closed cell for what is typed.
+void GridView::typeText(const QString& text) {
+    reveal({grid_.Row(), grid_.Col()});
+    act([&] {
+        if (grid_.Editing() || grid_.UserBeginEdit()) typeInto(grid_, text);
+    });
+}
+
+void GridView::inputMethodEvent(QInputMethodEvent* event) {
+    const bool anything = !event->commitString().isEmpty() || !event->preeditString().isEmpty();
+    if (anything) typeText(event->commitString());
+    if (grid_.Editing()) editor_->preedit(event->preeditString());
+    event->accept();
+}
+
+QVariant GridView::inputMethodQuery(Qt::InputMethodQuery query) const {
+    if (query == Qt::ImEnabled) return grid_.Editable != ui::EditMode::ReadOnly;
+    if (!grid_.Editing()) return QAbstractScrollArea::inputMethodQuery(query);
+    const QVariant value = editor_->inputMethodValue(query);
+    return value.isValid() ? value : QAbstractScrollArea::inputMethodQuery(query);
+}
+
+}  // namespace desktop

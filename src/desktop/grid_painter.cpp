@@ -1,0 +1,235 @@
+// SPDX-FileCopyrightText: 2026 The Brenica developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/grid_painter.h"
+
+#include <QFontMetricsF>
+#include <algorithm>
+#include <cmath>
+
+namespace desktop {
+
+namespace {
+
+constexpr ui::Colour Unset = ui::rgb(255, 255, 255);  // a white cell is one without a colour
+constexpr int MostTexts = 6000;                       // of which a large screen holds a few thousand
+constexpr int RightPadding = 2;
+constexpr int SortMarkWidth = 9;
+constexpr int SortMarkHeight = 5;
+constexpr double LineWeight = 0.18;
+constexpr double HeadingLineWeight = 0.3;
+constexpr double SelectionWeight = 0.16;
+constexpr double FadedWeight = 0.5;
+// Above this lightness black contrasts more than white.
+constexpr double MiddleLightness = 0.179;
+
+QColor mixed(const QColor& back, const QColor& front, double weight) {
+    const auto part = [&](int a, int b) { return static_cast<int>(std::lround(a + (b - a) * weight)); };
+    return {part(back.red(), front.red()), part(back.green(), front.green()),
+            part(back.blue(), front.blue())};
+}
+
+QColor colourOf(ui::Colour colour) { return {colour & 0xff, (colour >> 8) & 0xff, (colour >> 16) & 0xff}; }
+
+/// How light the eye finds a colour, from 0 to 1.
+double lightness(const QColor& colour) {
+    const auto linear = [](double part) {
+        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
+           0.0722 * linear(colour.blueF());
+}
+
+bool isDisabled(const QPalette& palette) { return palette.currentColorGroup() == QPalette::Disabled; }
+
+}  // namespace
+
+QString cellText(const ui::Grid& grid, CellAddress cell) {
+    QString text = QString::fromStdString(grid.TextMatrix(cell.Row, cell.Col));
+    for (QChar& character : text) {
+        if (character < u' ' || character == QChar::LineSeparator) character = u' ';
+    }
+    return text;
+}
+
+GridPainter::GridPainter(const ui::Grid& grid, const GridGeometry& geometry, const Scale& scale)
+    : grid_(grid),
+      geometry_(geometry),
+      font_(scale.font({})),
+      boldFont_(scale.font({.Bold = true})),
+      padding_(scale.pixels(ui::Grid::CellPadding / 2)),
+      texts_(MostTexts) {}
+
+void GridPainter::paint(QPainter& painter, QSize view, const Look& look) {
+    palette_ = look.Palette;
+    painter.fillRect(QRect(QPoint(), view), palette_.base());
+    if (grid_.Rows() == 0 || grid_.Cols() == 0) return;
+    const int fixedRows = geometry_.fixedRows();
+    const int fixedCols = geometry_.fixedCols();
+    const QPoint body(geometry_.bodyLeft(), geometry_.bodyTop());
+    const int rowsEnd = std::min(grid_.Rows(), geometry_.firstRow() + geometry_.touchedRows(view.height()));
+    const int lastCol = geometry_.colAt(view.width() - 1);
+    const int colsEnd = lastCol < 0 ? grid_.Cols() : lastCol + 1;
+    const int firstCol = std::max(fixedCols, geometry_.colAt(body.x()));
+    const QRect all(QPoint(), view);
+    const QRect bodyPlace(body, QPoint(view.width() - 1, view.height() - 1));
+    const QRect top(0, 0, view.width(), body.y());
+    const QRect left(0, 0, body.x(), view.height());
+
+    const Area cells{geometry_.firstRow(), rowsEnd, firstCol, colsEnd, bodyPlace};
+    paintArea(painter, cells, false);
+    paintSelection(painter, cells, look.Focused);
+    paintArea(painter, {0, fixedRows, firstCol, colsEnd, top & bodyPlace.adjusted(0, -body.y(), 0, 0)}, true);
+    paintArea(painter,
+              {geometry_.firstRow(), rowsEnd, 0, fixedCols, left & bodyPlace.adjusted(-body.x(), 0, 0, 0)},
+              true);
+    paintArea(painter, {0, fixedRows, 0, fixedCols, top & left}, true);
+    painter.setClipRect(all);
+}
+
+void GridPainter::paintArea(QPainter& painter, const Area& area, bool headings) {
+    if (area.FirstRow >= area.RowsEnd || area.FirstCol >= area.ColsEnd || area.Clip.isEmpty()) return;
+    painter.setClipRect(area.Clip);
+    for (int row = area.FirstRow; row < area.RowsEnd; ++row) {
+        for (int col = area.FirstCol; col < area.ColsEnd; ++col) {
+            if (geometry_.width(col) > 0) paintCell(painter, {row, col}, geometry_.cell(row, col), headings);
+        }
+    }
+    const QColor back = headings ? palette_.color(QPalette::Button) : palette_.color(QPalette::Base);
+    const QColor text = headings ? palette_.color(QPalette::ButtonText) : palette_.color(QPalette::Text);
+    paintLines(painter, area, mixed(back, text, headings ? HeadingLineWeight : LineWeight));
+}
+
+void GridPainter::paintCell(QPainter& painter, CellAddress cell, const QRect& place, bool heading) {
+    if (heading || grid_.BackColorOf(cell.Row, cell.Col) != Unset) {
+        painter.fillRect(place, backColour(cell, heading));
+    }
+    if (!grid_.TextMatrix(cell.Row, cell.Col).empty()) {
+        painter.setPen(textColour(cell, heading));
+        paintText(painter, cell, place);
+    }
+    if (bearsSortMark(cell)) paintSortMark(painter, place);
+}
+
+void GridPainter::paintText(QPainter& painter, CellAddress cell, const QRect& place) {
+    const bool bold = grid_.IsBold(cell.Row, cell.Col);
+    const int room = roomFor(cell, place);
+    if (room <= 0) return;
+    const ShapedText& text = shaped(cellText(grid_, cell), room, bold);
+    const bool centred = grid_.AlignmentOf(cell.Row, cell.Col) == ui::CellAlign::CentreCentre;
+    const double indent = centred ? std::max(0.0, std::floor((room - text.Width) / 2)) : 0;
+    const int height = static_cast<int>(std::ceil(text.Text.size().height()));
+    painter.setFont(font(bold));
+    painter.drawStaticText(
+        QPointF(place.left() + padding_ + indent, place.top() + (place.height() - 1 - height) / 2),
+        text.Text);
+}
+
+/// What padding and sort mark leave of a cell. Right of the text less is kept free than is counted for it, so that
+/// rounding cuts no text that fits.
+int GridPainter::roomFor(CellAddress cell, const QRect& place) const {
+    return place.width() - padding_ - RightPadding - (bearsSortMark(cell) ? SortMarkWidth + RightPadding : 0);
+}
+
+const GridPainter::ShapedText& GridPainter::shaped(const QString& text, int room, bool bold) {
+    const TextKey key{text, room, bold};
+    if (const ShapedText* known = texts_.object(key)) return *known;
+    const QFontMetricsF metrics(font(bold));
+    auto added = std::make_unique<ShapedText>();
+    // No character that shows is narrower than a pixel: a long text need not be measured to its end.
+    const QString shown = metrics.elidedText(text.left(room + 1), Qt::ElideRight, room);
+    added->Text.setTextFormat(Qt::PlainText);
+    added->Text.setText(shown);
+    added->Text.prepare({}, font(bold));
+    added->Width = metrics.horizontalAdvance(shown);
+    ShapedText* kept = added.release();
+    texts_.insert(key, kept);
+    return *kept;
+}
+
+bool GridPainter::isCut(CellAddress cell) const {
+    const QFontMetricsF metrics(font(grid_.IsBold(cell.Row, cell.Col)));
+    const int room = roomFor(cell, geometry_.cell(cell.Row, cell.Col));
+    return metrics.horizontalAdvance(cellText(grid_, cell)) > room;
+}
+
+bool GridPainter::bearsSortMark(CellAddress cell) const {
+    return cell.Row == geometry_.fixedRows() - 1 && cell.Col == grid_.Sorted().Col;
+}
+
+void GridPainter::paintSortMark(QPainter& painter, const QRect& heading) const {
+    const bool down = grid_.Sorted().Descending;
+    const int right = heading.right() - 1 - RightPadding;
+    const int top = heading.center().y() - SortMarkHeight / 2;
+    const int base = down ? top : top + SortMarkHeight;
+    const int tip = down ? top + SortMarkHeight : top;
+    const QPolygon triangle({{right - SortMarkWidth, base}, {right, base}, {right - SortMarkWidth / 2, tip}});
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(palette_.color(QPalette::ButtonText));
+    painter.drawPolygon(triangle);
+    painter.restore();
+}
+
+void GridPainter::paintLines(QPainter& painter, const Area& area, const QColor& colour) const {
+    const int left = geometry_.left(area.FirstCol);
+    const int right = geometry_.right(area.ColsEnd - 1) - 1;
+    const int top = geometry_.top(area.FirstRow);
+    const int bottom = geometry_.cell(area.RowsEnd - 1, area.FirstCol).bottom();
+    QList<QLine> lines;
+    for (int row = area.FirstRow; row < area.RowsEnd; ++row) {
+        const int y = geometry_.cell(row, area.FirstCol).bottom();
+        lines.append(QLine(left, y, right, y));
+    }
+    for (int col = area.FirstCol; col < area.ColsEnd; ++col) {
+        const int x = geometry_.right(col) - 1;
+        if (geometry_.width(col) > 0) lines.append(QLine(x, top, x, bottom));
+    }
+    painter.setPen(colour);
+    painter.drawLines(lines);
+}
+
+/// Shades a range of several cells and frames the current cell.
+void GridPainter::paintSelection(QPainter& painter, const Area& body, bool focused) const {
+    const CellAddress current{grid_.Row(), grid_.Col()};
+    if (!body.Clip.isValid() || current.Row < geometry_.fixedRows() || current.Col < geometry_.fixedCols())
+        return;
+    painter.setClipRect(body.Clip);
+    const QColor highlight = palette_.color(QPalette::Highlight);
+    // The frame covers the line before the cell too.
+    const QRect place = geometry_.cell(current.Row, current.Col);
+    const QRect frame = place.adjusted(-1, -1, 0, 0);
+    const CellAddress other{grid_.RowSel(), grid_.ColSel()};
+    if (other != current) {
+        const QRect range = place | geometry_.cell(other.Row, other.Col);
+        QColor shade = highlight;
+        shade.setAlphaF(SelectionWeight);
+        QRegion shaded = QRegion(range & body.Clip) - place;
+        for (const QRect& part : shaded) painter.fillRect(part, shade);
+    }
+    if (place.width() == 0) return;
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(focused
+                       ? highlight
+                       : mixed(palette_.color(QPalette::Base), palette_.color(QPalette::Text), FadedWeight));
+    painter.drawRect(frame.adjusted(0, 0, -1, -1));
+    if (focused) painter.drawRect(frame.adjusted(1, 1, -2, -2));
+}
+
+QColor GridPainter::backColour(CellAddress cell, bool heading) const {
+    const ui::Colour own = grid_.BackColorOf(cell.Row, cell.Col);
+    if (own == Unset) return palette_.color(heading ? QPalette::Button : QPalette::Base);
+    if (!isDisabled(palette_)) return colourOf(own);
+    return mixed(colourOf(own), palette_.color(QPalette::Window), FadedWeight);
+}
+
+QColor GridPainter::textColour(CellAddress cell, bool heading) const {
+    if (grid_.BackColorOf(cell.Row, cell.Col) == Unset) {
+        return palette_.color(heading ? QPalette::ButtonText : QPalette::Text);
+    }
+    const QColor back = backColour(cell, heading);
+    const QColor contrasting = lightness(back) > MiddleLightness ? Qt::black : Qt::white;
+    return isDisabled(palette_) ? mixed(contrasting, back, FadedWeight) : contrasting;
+}
+
+}  // namespace desktop

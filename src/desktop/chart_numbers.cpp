@@ -3,7 +3,9 @@
 #include "desktop/chart_numbers.h"
 
 #include <algorithm>
+#include <cmath>
 
+#include "desktop/texts.h"
 #include "ui/numbers.h"
 
 namespace desktop {
@@ -25,12 +27,27 @@ std::size_t columnsOf(const ui::Chart::Table& data) {
 std::vector<ChartNumbers::Series> namedSeries(const ui::Chart& chart, std::size_t count) {
     std::vector<ChartNumbers::Series> all(count);
     for (std::size_t i = 0; i < count; ++i) {
-        const ui::ChartSeries series = i < chart.AllSeries().size() ? chart.AllSeries()[i] : ui::ChartSeries{};
-        all[i].Label = QString::fromStdString(series.Label);
+        const ui::ChartSeries series =
+            i < chart.AllSeries().size() ? chart.AllSeries()[i] : ui::ChartSeries{};
+        all[i].Label = shownText(series.Label);
         all[i].EdgePen = toColour(series.EdgePen);
         all[i].FillColor = toColour(series.FillColor);
     }
     return all;
+}
+
+void include(std::optional<ChartNumbers::Extremes>& found, double value, int category, int series) {
+    if (!found) found = {value, value, category, series, category, series};
+    if (value < found->Least) {
+        found->Least = value;
+        found->LeastCategory = category;
+        found->LeastSeries = series;
+    }
+    if (value > found->Greatest) {
+        found->Greatest = value;
+        found->GreatestCategory = category;
+        found->GreatestSeries = series;
+    }
 }
 
 }  // namespace
@@ -47,16 +64,22 @@ QString ChartNumbers::seriesName(int index) const {
 
 std::optional<ChartNumbers::Extremes> ChartNumbers::extremes() const {
     std::optional<Extremes> found;
-    for (const Series& series : AllSeries) {
-        for (int i = 0; i < count(); ++i) {
-            const std::optional<double> value = series.Values[static_cast<std::size_t>(i)];
-            if (!value) continue;
-            if (!found) found = {*value, *value, i, i};
-            if (*value < found->Least) std::tie(found->Least, found->LeastCategory) = std::tuple(*value, i);
-            if (*value > found->Greatest) std::tie(found->Greatest, found->GreatestCategory) = std::tuple(*value, i);
+    for (std::size_t series = 0; series < AllSeries.size(); ++series) {
+        for (std::size_t i = 0; i < Categories.size(); ++i) {
+            const std::optional<double> value = AllSeries[series].Values[i];
+            if (value) include(found, *value, static_cast<int>(i), static_cast<int>(series));
         }
     }
     return found;
+}
+
+bool ChartNumbers::whole() const {
+    const auto isWhole = [](const std::optional<double>& value) {
+        return !value || *value == std::floor(*value);
+    };
+    return std::all_of(AllSeries.begin(), AllSeries.end(), [&isWhole](const Series& series) {
+        return std::all_of(series.Values.begin(), series.Values.end(), isWhole);
+    });
 }
 
 ChartNumbers readNumbers(const ui::Chart& chart) {
@@ -64,11 +87,11 @@ ChartNumbers readNumbers(const ui::Chart& chart) {
     numbers.AllSeries = namedSeries(chart, columnsOf(chart.ChartData()) - 1);
     for (const Row& row : chart.ChartData()) {
         if (isBlank(row)) continue;
-        numbers.Categories.push_back(QString::fromStdString(row.front()));
+        numbers.Categories.push_back(shownText(row.front()));
         for (std::size_t i = 0; i < numbers.AllSeries.size(); ++i) {
             const std::string text = i + 1 < row.size() ? row[i + 1] : std::string();
             numbers.AllSeries[i].Values.push_back(ui::tryReal(text));
-            numbers.AllSeries[i].Texts.push_back(QString::fromStdString(text));
+            numbers.AllSeries[i].Texts.push_back(shownText(text));
         }
     }
     return numbers;

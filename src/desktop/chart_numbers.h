@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QAbstractTableModel>
 #include <QColor>
 #include <QString>
 #include <optional>
@@ -35,9 +34,13 @@ struct ChartNumbers {
         double Least = 0;
         double Greatest = 0;
         int LeastCategory = 0;
+        int LeastSeries = 0;
         int GreatestCategory = 0;
+        int GreatestSeries = 0;
     };
     std::optional<Extremes> extremes() const;
+    /// Whether no value has a fraction.
+    bool whole() const;
 };
 
 /// Rows without a category and without any value are none.

@@ -2,12 +2,41 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/chart_plot.h"
 
+#include <cmath>
+
+#include "desktop/texts.h"
+
 namespace desktop {
 
 namespace {
 
 constexpr QSize SmallestPicture(320, 240);
-constexpr double GroupWidth = 0.7;  // of a category
+constexpr int TitleRow = 0;
+constexpr int MostTitleLines = 3;
+constexpr int MostAxisTitleLines = 2;
+constexpr double MostForLabels = 0.4;         // of the height below the title and the legend
+constexpr double GroupWidth = 0.72;           // of a category
+constexpr double CrowdedGroupWidth = 1;       // where a gap would be no pixel wide
+constexpr double NarrowestGap = 1;            // pixels
+constexpr double NarrowestBarWithEdge = 3.5;  // pixels
+constexpr int EdgeContrast = 120;             // per cent: how much darker a bar is that has no edge
+constexpr int TickLength = 4;
+constexpr double HitTolerance = 3;  // pixels
+constexpr double Upright = -90;     // degrees
+const QColor Ink(20, 20, 20);
+const QColor GridInk(220, 220, 220);
+
+ui::Font tickFont(const ui::Chart& chart) { return {chart.AxisTitleFont.Name, ui::Font{}.Size}; }
+
+QString axisTitle(const std::string& title, double width, int mostLines, const QFont& font) {
+    return wrappedOrCut(shownText(title), width, mostLines, QFontMetricsF(font));
+}
+
+/// Dark enough to be seen on white.
+QColor focusColour(const QPalette& palette) {
+    const QColor highlight = palette.color(QPalette::Highlight);
+    return highlight.lightness() < 160 ? highlight : Ink;
+}
 
 }  // namespace
 
@@ -16,21 +45,34 @@ ChartPlot::ChartPlot(const ui::Chart& chart, const Scale& scale, QWidget* parent
       chart_(chart),
       scale_(scale),
       title_(new QCPTextElement(this)),
+      legend_(*this, 0),
       group_(new QCPBarsGroup(this)) {
     // The base class queues a replot of its own, which it drops while another one is under way. Ours come later.
     mReplotting = true;
-    setUp();
+    setBackground(QBrush(Qt::white));
+    setPlottingHint(QCP::phCacheLabels, false);
+    plotLayout()->insertRow(TitleRow);
+    plotLayout()->addElement(TitleRow, 0, title_);
+    setUpAxes();
 }
 
-void ChartPlot::setUp() {
-    setBackground(QBrush(Qt::white));
-    plotLayout()->insertRow(0);
-    plotLayout()->addElement(0, 0, title_);
-    for (QCPAxis* axis : {xAxis, yAxis}) {
+void ChartPlot::setUpAxes() {
+    QLocale numberLocale = QLocale::c();
+    numberLocale.setNumberOptions(QLocale::OmitGroupSeparator);
+    setLocale(numberLocale);
+    for (QCPAxis* axis : {xAxis, yAxis, xAxis2, yAxis2}) {
+        axis->setBasePen(QPen(Ink));
+        axis->setTickPen(QPen(Ink));
+        axis->setTickLength(0, TickLength);
+        axis->setSubTicks(false);
+        axis->setLabelColor(Ink);
+        axis->setTickLabelColor(Ink);
+        axis->setNumberFormat("f");
+        axis->grid()->setZeroLinePen(Qt::NoPen);
         axis->grid()->setPen(Qt::NoPen);
-        axis->setNumberFormat("g");
     }
-    xAxis->setSubTicks(false);
+    yAxis->grid()->setZeroLinePen(QPen(Ink));
+    title_->setTextColor(Ink);
     group_->setSpacing(0);
 }
 
@@ -51,43 +93,161 @@ const ChartNumbers& ChartPlot::numbers() {
 
 void ChartPlot::readData() {
     dataOutdated_ = false;
+    const std::vector<QString> before = std::move(numbers_.Categories);
     numbers_ = readNumbers(chart_);
-    takeOverTitles();
+    takeOverStyle();
     takeOverSeries();
+    if (before != numbers_.Categories) showCategories(allCategories(numbers_.count()));
+    dataRead();
 }
 
-void ChartPlot::takeOverTitles() {
-    title_->setText(QString::fromStdString(chart_.Title));
+void ChartPlot::takeOverStyle() {
+    const QFont axisFont = scale_.font(chart_.AxisTitleFont);
     title_->setFont(scale_.font(chart_.TitleFont));
-    xAxis->setLabel(QString::fromStdString(chart_.XAxisTitle));
-    yAxis->setLabel(QString::fromStdString(chart_.YAxisTitle));
-    for (QCPAxis* axis : {xAxis, yAxis}) axis->setLabelFont(scale_.font(chart_.AxisTitleFont));
+    for (QCPAxis* axis : {xAxis, yAxis}) {
+        axis->setLabelFont(axisFont);
+        axis->setTickLabelFont(scale_.font(tickFont(chart_)));
+    }
+    yAxis->grid()->setPen(chart_.MajorGridLines ? QPen(GridInk) : QPen(Qt::NoPen));
+    for (QCPAxis* axis : {xAxis2, yAxis2}) {
+        axis->setVisible(chart_.WallBorder);
+        axis->setTicks(false);
+        axis->setTickLabels(false);
+    }
+    axisRect()->setBackground(toColour(chart_.PlotBackground));
+    const int margin = qRound(QFontMetricsF(axisFont).height() * 0.6);
+    plotLayout()->setMargins(QMargins(margin, margin, margin, margin));
+    plotLayout()->setRowSpacing(0);
+    title_->setMargins(QMargins(0, 0, 0, margin));
 }
 
 void ChartPlot::takeOverSeries() {
     clearPlottables();
+    bars_.clear();
     for (const ChartNumbers::Series& series : numbers_.AllSeries) {
         auto* bars = new QCPBars(xAxis, yAxis);
-        bars->setBarsGroup(group_);
-        bars->setWidth(GroupWidth / static_cast<double>(numbers_.AllSeries.size()));
-        bars->setPen(series.EdgePen);
-        bars->setBrush(series.FillColor);
-        bars->setName(series.Label);
+        QVector<double> keys;
+        QVector<double> values;
         for (int i = 0; i < numbers_.count(); ++i) {
-            if (const auto value = series.Values[static_cast<std::size_t>(i)]) bars->addData(i, *value);
+            const std::optional<double> value = series.Values[static_cast<std::size_t>(i)];
+            if (!value) continue;
+            keys.append(i);
+            values.append(*value);
         }
+        bars->setData(keys, values, true);
+        bars->setBarsGroup(group_);
+        bars_.push_back(bars);
     }
-    const QSharedPointer<QCPAxisTickerText> labels(new QCPAxisTickerText);
-    for (int i = 0; i < numbers_.count(); ++i) {
-        labels->addTick(i, numbers_.Categories[static_cast<std::size_t>(i)]);
-    }
-    xAxis->setTicker(labels);
-    xAxis->setRange(-0.5, std::max(numbers_.count(), 1) - 0.5);
-    const auto extremes = numbers_.extremes();
-    yAxis->setRange(0, extremes && extremes->Greatest > 0 ? extremes->Greatest : 1);
+    legend_.show(numbers_, bars_, scale_.font(chart_.AxisTitleFont));
 }
 
-void ChartPlot::updateLayout() { QCustomPlot::updateLayout(); }
+CategoryRange ChartPlot::shownCategories() {
+    if (dataOutdated_) readData();
+    return {xAxis->range().lower, xAxis->range().upper};
+}
+
+void ChartPlot::showCategories(CategoryRange range) {
+    const CategoryRange shown = withinData(range, numbers_.count());
+    if (CategoryRange{xAxis->range().lower, xAxis->range().upper} == shown) return;
+    xAxis->setRange(shown.Lower, shown.Upper);
+    outdatePlot();
+}
+
+/// The value axis follows from the height that the labels leave, and the room for labels from the width that the value
+/// axis leaves: twice through is enough.
+void ChartPlot::updateLayout() {
+    arrangeTitle();
+    legend_.fitInto(viewport().width() - 2 * plotLayout()->margins().left());
+    QCustomPlot::updateLayout();
+    for (int pass = 0; pass < 2; ++pass) {
+        arrangeAxisTitles();
+        arrangeCategoryAxis();
+        QCustomPlot::updateLayout();
+        arrangeValueAxis();
+        QCustomPlot::updateLayout();
+    }
+    arrangeBars();
+}
+
+void ChartPlot::arrangeTitle() {
+    const int width = viewport().width() - 2 * plotLayout()->margins().left();
+    title_->setText(
+        wrappedOrCut(shownText(chart_.Title), width, MostTitleLines, QFontMetricsF(title_->font())));
+}
+
+/// The title of the value axis may be as long as there is room on both sides of the axis' middle.
+void ChartPlot::arrangeAxisTitles() {
+    const QRect plot = axisRect()->rect();
+    const int room = 2 * std::min(plot.center().y() - axisRect()->outerRect().top(),
+                                  viewport().bottom() - plot.center().y());
+    xAxis->setLabel(axisTitle(chart_.XAxisTitle, plot.width(), 1, xAxis->labelFont()));
+    yAxis->setLabel(axisTitle(chart_.YAxisTitle, room, MostAxisTitleLines, yAxis->labelFont()));
+}
+
+void ChartPlot::arrangeValueAxis() {
+    const double tickDistance = QFontMetricsF(yAxis->tickLabelFont()).height() * 2.5;
+    const auto extremes = numbers_.extremes().value_or(ChartNumbers::Extremes{});
+    const int mostSteps = std::max(2, static_cast<int>(axisRect()->height() / tickDistance));
+    const ValueScale scale = valueScale(extremes.Least, extremes.Greatest, numbers_.whole(), mostSteps);
+    const QSharedPointer<QCPAxisTickerFixed> ticker(new QCPAxisTickerFixed);
+    ticker->setTickStep(scale.Step);
+    yAxis->setTicker(ticker);
+    yAxis->setNumberPrecision(scale.Decimals);
+    yAxis->setRange(scale.Lower, scale.Upper);
+}
+
+void ChartPlot::arrangeCategoryAxis() {
+    const double spacing = axisRect()->width() / xAxis->range().size();
+    labels_ = arrangeLabels(numbers_.Categories, {spacing, axisRect()->outerRect().height() * MostForLabels},
+                            QFontMetricsF(xAxis->tickLabelFont()));
+    const QSharedPointer<QCPAxisTickerText> ticker(new QCPAxisTickerText);
+    for (const LabelArrangement::Shown& label : labels_.Labels) ticker->addTick(label.Category, label.Text);
+    xAxis->setTicker(ticker);
+    xAxis->setTickLabelRotation(labels_.Upright ? Upright : 0);
+}
+
+/// An edge around every bar would blacken bars that are a few pixels wide.
+void ChartPlot::arrangeBars() {
+    const double spacing = axisRect()->width() / xAxis->range().size();
+    const double group = spacing * (1 - GroupWidth) < NarrowestGap ? CrowdedGroupWidth : GroupWidth;
+    const double width = group / static_cast<double>(std::max<std::size_t>(bars_.size(), 1));
+    const bool edged = width * spacing >= NarrowestBarWithEdge;
+    for (std::size_t i = 0; i < bars_.size(); ++i) {
+        const ChartNumbers::Series& series = numbers_.AllSeries[i];
+        bars_[i]->setWidth(width);
+        bars_[i]->setPen(edged ? QPen(series.EdgePen) : QPen(Qt::NoPen));
+        bars_[i]->setBrush(edged ? series.FillColor : series.FillColor.darker(EdgeContrast));
+        bars_[i]->setAntialiased(!edged);
+        bars_[i]->setAntialiasedFill(!edged);
+    }
+}
+
+QRectF ChartPlot::barRect(Bar bar) const {
+    const auto value = numbers_.AllSeries[static_cast<std::size_t>(bar.Series)]
+                           .Values[static_cast<std::size_t>(bar.Category)];
+    if (!value) return {};
+    const double width = bars_[static_cast<std::size_t>(bar.Series)]->width();
+    const double left = bar.Category + (bar.Series - static_cast<double>(bars_.size()) / 2) * width;
+    const QPointF base(xAxis->coordToPixel(left), yAxis->coordToPixel(0));
+    const QPointF top(xAxis->coordToPixel(left + width), yAxis->coordToPixel(*value));
+    return QRectF(base, top).normalized();
+}
+
+/// Bars of a pixel can be hit, too.
+std::optional<ChartPlot::Bar> ChartPlot::barAt(QPointF place) {
+    replotIfOutdated();
+    if (bars_.empty() || !axisRect()->rect().contains(place.toPoint())) return std::nullopt;
+    const double key = xAxis->pixelToCoord(place.x());
+    const int category = static_cast<int>(std::lround(key));
+    if (category < 0 || category >= numbers_.count()) return std::nullopt;
+    const int last = static_cast<int>(bars_.size()) - 1;
+    const double series = (key - category) / bars_.front()->width() + static_cast<double>(bars_.size()) / 2;
+    const Bar bar{category, std::clamp(static_cast<int>(std::floor(series)), 0, last)};
+    const QRectF rect = barRect(bar);
+    const QMarginsF tolerance(HitTolerance, HitTolerance, HitTolerance, HitTolerance);
+    if (rect.isNull() || !rect.marginsAdded(tolerance).contains(place)) return std::nullopt;
+    return bar;
+}
 
 void ChartPlot::replotIfOutdated() {
     if (dataOutdated_) readData();
@@ -100,23 +260,34 @@ void ChartPlot::replotIfOutdated() {
 }
 
 void ChartPlot::paintBuffers(QCPPainter& painter) {
-    drawBackground(&painter);
+    painter.fillRect(viewport(), Qt::white);
     for (const auto& buffer : mPaintBuffers) buffer->draw(&painter);
+}
+
+void ChartPlot::paintFocus(QCPPainter& painter) {
+    painter.setPen(QPen(focusColour(palette()), 2));
+    painter.drawRect(rect().adjusted(1, 1, -1, -1));
 }
 
 void ChartPlot::paintEvent(QPaintEvent* /*event*/) {
     replotIfOutdated();
     QCPPainter painter(this);
-    if (painter.isActive()) paintBuffers(painter);
+    if (!painter.isActive()) return;
+    paintBuffers(painter);
+    if (hasFocus()) paintFocus(painter);
 }
 
 void ChartPlot::resizeEvent(QResizeEvent* /*event*/) { outdatePlot(); }
+
+void ChartPlot::changeEvent(QEvent* event) {
+    QCustomPlot::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) outdateData();
+}
 
 QPixmap ChartPlot::picture() {
     replotIfOutdated();
     QPixmap picture(viewport().size() * devicePixelRatioF());
     picture.setDevicePixelRatio(devicePixelRatioF());
-    picture.fill(Qt::white);
     QCPPainter painter(&picture);
     paintBuffers(painter);
     return picture;

@@ -4,6 +4,9 @@
 
 #include <qcustomplot.h>
 
+#include "desktop/chart_axes.h"
+#include "desktop/chart_labels.h"
+#include "desktop/chart_legend.h"
 #include "desktop/chart_numbers.h"
 #include "desktop/scale.h"
 #include "ui/chart.h"
@@ -22,27 +25,49 @@ public:
     QPixmap picture();
     /// What is drawn, read anew if it is out of date.
     const ChartNumbers& numbers();
+    CategoryRange shownCategories();
+    void showCategories(CategoryRange range);
+    /// What is drawn below the category axis.
+    const LabelArrangement& labels() const { return labels_; }
+
+    struct Bar {
+        int Category = 0;
+        int Series = 0;
+    };
+    std::optional<Bar> barAt(QPointF place);
 
 protected:
     void outdateData();
     void outdatePlot();
+    virtual void dataRead() {}
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
     void updateLayout() override;
 
 private:
-    void setUp();
+    void setUpAxes();
     void replotIfOutdated();
     void readData();
-    void takeOverTitles();
+    void takeOverStyle();
     void takeOverSeries();
+    void arrangeTitle();
+    void arrangeAxisTitles();
+    void arrangeValueAxis();
+    void arrangeCategoryAxis();
+    void arrangeBars();
+    QRectF barRect(Bar bar) const;
     void paintBuffers(QCPPainter& painter);
+    void paintFocus(QCPPainter& painter);
 
     const ui::Chart& chart_;
     const Scale& scale_;
     ChartNumbers numbers_;
+    LabelArrangement labels_;
     QCPTextElement* title_;
+    ChartLegend legend_;
     QCPBarsGroup* group_;
+    std::vector<QCPBars*> bars_;
     bool dataOutdated_ = true;
     bool plotOutdated_ = true;
 };

@@ -25,19 +25,22 @@ struct frmBrenicaControls : ui::FormWindow {
     ui::FileDialog cdgFileDialog;
 
     // Menu.
-    ui::MenuItem mnuProject{*this, "mnuProject", {.Caption = "Project"}};
-    ui::MenuItem mnuNewProject{mnuProject, "mnuNewProject", {.Caption = "New"}};
-    ui::MenuItem mnuOpenProject{mnuProject, "mnuOpenProject", {.Caption = "Open"}};
-    ui::MenuItem mnuSaveProject{mnuProject, "mnuSaveProject", {.Caption = "Save"}};
-    ui::MenuItem mnuExit{mnuProject, "mnuExit", {.Caption = "Exit"}};
-    ui::MenuItem mnuData{*this, "mnuData", {.Caption = "Data"}};
-    ui::MenuItem mnuImportData{mnuData, "mnuImportData", {.Caption = "Import"}};
-    ui::MenuItem mnuExportData{mnuData, "mnuExportData", {.Caption = "Export"}};
-    ui::MenuItem mnuPrintGrid{mnuData, "mnuPrintGrid", {.Caption = "Print"}};
-    ui::MenuItem mnuGraph{*this, "mnuGraph", {.Caption = "Graph"}};
-    ui::MenuItem mnuSaveGraph{mnuGraph, "mnuSaveGraph", {.Caption = "Save"}};
-    ui::MenuItem mnuCopyGraph{mnuGraph, "mnuCopyGraph", {.Caption = "Copy"}};
-    ui::MenuItem mnuPrintGraph{mnuGraph, "mnuPrintGraph", {.Caption = "Print"}};
+    ui::MenuItem mnuProject{*this, "mnuProject", {.Caption = "Project", .AccessKey = 'P'}};
+    ui::MenuItem mnuNewProject{
+        mnuProject, "mnuNewProject", {.Caption = "New", .AccessKey = 'N', .Shortcut = "Ctrl+N"}};
+    ui::MenuItem mnuOpenProject{
+        mnuProject, "mnuOpenProject", {.Caption = "Open", .AccessKey = 'O', .Shortcut = "Ctrl+O"}};
+    ui::MenuItem mnuSaveProject{
+        mnuProject, "mnuSaveProject", {.Caption = "Save", .AccessKey = 'S', .Shortcut = "Ctrl+S"}};
+    ui::MenuItem mnuExit{mnuProject, "mnuExit", {.Caption = "Exit", .AccessKey = 'x', .Shortcut = "Ctrl+Q"}};
+    ui::MenuItem mnuData{*this, "mnuData", {.Caption = "Data", .AccessKey = 'D'}};
+    ui::MenuItem mnuImportData{mnuData, "mnuImportData", {.Caption = "Import", .AccessKey = 'I'}};
+    ui::MenuItem mnuExportData{mnuData, "mnuExportData", {.Caption = "Export", .AccessKey = 'E'}};
+    ui::MenuItem mnuPrintGrid{mnuData, "mnuPrintGrid", {.Caption = "Print", .AccessKey = 'P'}};
+    ui::MenuItem mnuGraph{*this, "mnuGraph", {.Caption = "Graph", .AccessKey = 'G'}};
+    ui::MenuItem mnuSaveGraph{mnuGraph, "mnuSaveGraph", {.Caption = "Save", .AccessKey = 'S'}};
+    ui::MenuItem mnuCopyGraph{mnuGraph, "mnuCopyGraph", {.Caption = "Copy", .AccessKey = 'C'}};
+    ui::MenuItem mnuPrintGraph{mnuGraph, "mnuPrintGraph", {.Caption = "Print", .AccessKey = 'P'}};
 
     // The seven pages.
     ui::TabStrip tabBrenica{
@@ -51,30 +54,38 @@ struct frmBrenicaControls : ui::FormWindow {
          {"Summary Tables", "Shift-T", "Summary overview of Brenica data"},
          {"Summary Graphs", "Shift-G", "Summary graphs of Brenica data"},
          {"Aggregate Scores", "Shift-A", "The scores for the brenic species over all selection criteria."},
-         {"Complementarity", "Shift-O", "Selection of the suite of brenic species using complementarity."}}};
+         {"Complementarity", "Shift-O", "Selection of the suite of brenic species using complementarity."}},
+        {.AccessibleName = "Pages"}};
     ui::ControlArray<ui::Frame> fraTabContents{tabBrenica, "fraTabContents", 7};
 
     // Page 1: candidate species.
-    ui::Grid flxCandidateSpecies{fraTabContents(0), "flxCandidateSpecies"};
-    ui::Label lblAddSpecies{fraTabContents(0), "lblAddSpecies", {.Caption = "Add"}};
-    ui::TextBox txtTotalSpecies{fraTabContents(0), "txtTotalSpecies", "0"};
+    ui::Grid flxCandidateSpecies{
+        fraTabContents(0), "flxCandidateSpecies", {.AccessibleName = "Candidate species"}};
+    ui::Label lblAddSpecies{fraTabContents(0), "lblAddSpecies", {.Caption = "Add", .AccessKey = 'A'}};
+    ui::TextBox txtTotalSpecies{
+        fraTabContents(0), "txtTotalSpecies", "0", {.AccessibleName = "Number of new species"}};
     ui::Label lblNewSpecies{fraTabContents(0), "lblNewSpecies", {.Caption = "new species"}};
     ui::CommandButton cmdUpdateSpecies{
-        fraTabContents(0), "cmdUpdateSpecies", {.Caption = "Update species list"}};
+        fraTabContents(0), "cmdUpdateSpecies", {.Caption = "Update species list", .AccessKey = 'U'}};
     ui::CommandButton cmdRemoveSpecies{
-        fraTabContents(0), "cmdRemoveSpecies", {.Caption = "Remove species no.:"}};
-    ui::TextBox txtRemoveSpeciesIndex{fraTabContents(0), "txtRemoveSpeciesIndex", "0"};
+        fraTabContents(0), "cmdRemoveSpecies", {.Caption = "Remove species no.:", .AccessKey = 'R'}};
+    ui::TextBox txtRemoveSpeciesIndex{fraTabContents(0),
+                                      "txtRemoveSpeciesIndex",
+                                      "0",
+                                      {.AccessibleName = "Number of the species to remove"}};
     ui::ControlArray<ui::CommandButton> cmdSpeciesMove{
-        fraTabContents(0), "cmdSpeciesMove", {{.Caption = "▲"}, {.Caption = "▼"}}};
+        fraTabContents(0),
+        "cmdSpeciesMove",
+        {{.Caption = "▲", .AccessibleName = "Move up"}, {.Caption = "▼", .AccessibleName = "Move down"}}};
 
     // Page 2: the lists that species are judged against.
     ui::ControlArray<ui::OptionButton> optLandChar{fraTabContents(1),
                                                    "optLandChar",
-                                                   {{.Caption = "Habitat types"},
-                                                    {.Caption = "Management zones"},
-                                                    {.Caption = "Human activities"},
-                                                    {.Caption = "Home range definition"},
-                                                    {.Caption = "Functions"}}};
+                                                   {{.Caption = "Habitat types", .AccessKey = 'H'},
+                                                    {.Caption = "Management zones", .AccessKey = 'M'},
+                                                    {.Caption = "Human activities", .AccessKey = 'n'},
+                                                    {.Caption = "Home range definition", .AccessKey = 'o'},
+                                                    {.Caption = "Functions", .AccessKey = 'F'}}};
     ui::ControlArray<ui::Frame> fraLandCharInfo{fraTabContents(1),
                                                 "fraLandCharInfo",
                                                 {{.Caption = "Habitat types"},
@@ -83,102 +94,148 @@ struct frmBrenicaControls : ui::FormWindow {
                                                  {.Caption = "Home range definition using"},
                                                  {.Caption = "Functions"}}};
 
-    ui::Grid flxHabitatTypes{fraLandCharInfo(0), "flxHabitatTypes"};
-    ui::Label lblAddHabitatTypes{fraLandCharInfo(0), "lblAddHabitatTypes", {.Caption = "Add"}};
-    ui::TextBox txtTotalHabitatTypes{fraLandCharInfo(0), "txtTotalHabitatTypes", "0"};
+    ui::Grid flxHabitatTypes{fraLandCharInfo(0), "flxHabitatTypes", {.AccessibleName = "Habitat types"}};
+    ui::Label lblAddHabitatTypes{
+        fraLandCharInfo(0), "lblAddHabitatTypes", {.Caption = "Add", .AccessKey = 'A'}};
+    ui::TextBox txtTotalHabitatTypes{
+        fraLandCharInfo(0), "txtTotalHabitatTypes", "0", {.AccessibleName = "Number of new habitats"}};
     ui::Label lblNewHabitatTypes{fraLandCharInfo(0), "lblNewHabitatTypes", {.Caption = "new habitats"}};
     ui::CommandButton cmdUpdateHabitatTypes{
-        fraLandCharInfo(0), "cmdUpdateHabitatTypes", {.Caption = "Update habitat list"}};
+        fraLandCharInfo(0), "cmdUpdateHabitatTypes", {.Caption = "Update habitat list", .AccessKey = 'U'}};
     ui::CommandButton cmdRemoveHabitatType{
-        fraLandCharInfo(0), "cmdRemoveHabitatType", {.Caption = "Remove habitat no.:"}};
-    ui::TextBox txtRemoveHabitatIndex{fraLandCharInfo(0), "txtRemoveHabitatIndex", "0"};
+        fraLandCharInfo(0), "cmdRemoveHabitatType", {.Caption = "Remove habitat no.:", .AccessKey = 'R'}};
+    ui::TextBox txtRemoveHabitatIndex{fraLandCharInfo(0),
+                                      "txtRemoveHabitatIndex",
+                                      "0",
+                                      {.AccessibleName = "Number of the habitat to remove"}};
     ui::ControlArray<ui::CommandButton> cmdHabitatMove{
-        fraLandCharInfo(0), "cmdHabitatMove", {{.Caption = "▲"}, {.Caption = "▼"}}};
+        fraLandCharInfo(0),
+        "cmdHabitatMove",
+        {{.Caption = "▲", .AccessibleName = "Move up"}, {.Caption = "▼", .AccessibleName = "Move down"}}};
 
-    ui::Grid flxJurisUnits{fraLandCharInfo(1), "flxJurisUnits"};
-    ui::Label lblAddJurisUnits{fraLandCharInfo(1), "lblAddJurisUnits", {.Caption = "Add"}};
-    ui::TextBox txtTotalJurisUnits{fraLandCharInfo(1), "txtTotalJurisUnits", "0"};
+    ui::Grid flxJurisUnits{fraLandCharInfo(1), "flxJurisUnits", {.AccessibleName = "Management zones"}};
+    ui::Label lblAddJurisUnits{fraLandCharInfo(1), "lblAddJurisUnits", {.Caption = "Add", .AccessKey = 'A'}};
+    ui::TextBox txtTotalJurisUnits{
+        fraLandCharInfo(1), "txtTotalJurisUnits", "0", {.AccessibleName = "Number of new management zones"}};
     ui::Label lblNewJurisUnits{fraLandCharInfo(1), "lblNewJurisUnits", {.Caption = "new mng. zones"}};
     ui::CommandButton cmdUpdateJurisUnits{
-        fraLandCharInfo(1), "cmdUpdateJurisUnits", {.Caption = "Update mng. zone list"}};
+        fraLandCharInfo(1), "cmdUpdateJurisUnits", {.Caption = "Update mng. zone list", .AccessKey = 'U'}};
     ui::CommandButton cmdRemoveJurisUnit{
-        fraLandCharInfo(1), "cmdRemoveJurisUnit", {.Caption = "Remove mng. zone no.:"}};
-    ui::TextBox txtRemoveJurisUnitIndex{fraLandCharInfo(1), "txtRemoveJurisUnitIndex", "0"};
+        fraLandCharInfo(1), "cmdRemoveJurisUnit", {.Caption = "Remove mng. zone no.:", .AccessKey = 'R'}};
+    ui::TextBox txtRemoveJurisUnitIndex{fraLandCharInfo(1),
+                                        "txtRemoveJurisUnitIndex",
+                                        "0",
+                                        {.AccessibleName = "Number of the management zone to remove"}};
     ui::ControlArray<ui::CommandButton> cmdJurisUnitMove{
-        fraLandCharInfo(1), "cmdJurisUnitMove", {{.Caption = "▲"}, {.Caption = "▼"}}};
+        fraLandCharInfo(1),
+        "cmdJurisUnitMove",
+        {{.Caption = "▲", .AccessibleName = "Move up"}, {.Caption = "▼", .AccessibleName = "Move down"}}};
 
-    ui::Grid flxLandUses{fraLandCharInfo(2), "flxLandUses"};
-    ui::Label lblAddLandUses{fraLandCharInfo(2), "lblAddLandUses", {.Caption = "Add"}};
-    ui::TextBox txtTotalLandUses{fraLandCharInfo(2), "txtTotalLandUses", "0"};
+    ui::Grid flxLandUses{fraLandCharInfo(2), "flxLandUses", {.AccessibleName = "Human activities"}};
+    ui::Label lblAddLandUses{fraLandCharInfo(2), "lblAddLandUses", {.Caption = "Add", .AccessKey = 'A'}};
+    ui::TextBox txtTotalLandUses{
+        fraLandCharInfo(2), "txtTotalLandUses", "0", {.AccessibleName = "Number of new human activities"}};
     ui::Label lblNewLandUses{fraLandCharInfo(2), "lblNewLandUses", {.Caption = "new human act."}};
     ui::CommandButton cmdUpdateLandUses{
-        fraLandCharInfo(2), "cmdUpdateLandUses", {.Caption = "Update human act. list"}};
+        fraLandCharInfo(2), "cmdUpdateLandUses", {.Caption = "Update human act. list", .AccessKey = 'U'}};
     ui::CommandButton cmdRemoveLandUse{
-        fraLandCharInfo(2), "cmdRemoveLandUse", {.Caption = "Remove human act. no.:"}};
-    ui::TextBox txtRemoveLandUseIndex{fraLandCharInfo(2), "txtRemoveLandUseIndex", "0"};
+        fraLandCharInfo(2), "cmdRemoveLandUse", {.Caption = "Remove human act. no.:", .AccessKey = 'R'}};
+    ui::TextBox txtRemoveLandUseIndex{fraLandCharInfo(2),
+                                      "txtRemoveLandUseIndex",
+                                      "0",
+                                      {.AccessibleName = "Number of the human activity to remove"}};
     ui::ControlArray<ui::CommandButton> cmdLandUseMove{
-        fraLandCharInfo(2), "cmdLandUseMove", {{.Caption = "▲"}, {.Caption = "▼"}}};
+        fraLandCharInfo(2),
+        "cmdLandUseMove",
+        {{.Caption = "▲", .AccessibleName = "Move up"}, {.Caption = "▼", .AccessibleName = "Move down"}}};
 
     ui::ControlArray<ui::OptionButton> optHomeRangeType{
         fraLandCharInfo(3),
         "optHomeRangeType",
-        {{.Caption = "Continuous data"},
-         {.Caption = "Default bins (0-1, 1-10, 10-25, 25-50, 50-100, 100+ square kilometers)"},
-         {.Caption = "User-defined bins (in square kilometers)"}}};
-    ui::Grid flxBins{fraLandCharInfo(3), "flxBins", {.Enabled = false}};
-    ui::Label lblAddBins{fraLandCharInfo(3), "lblAddBins", {.Caption = "Add"}};
-    ui::TextBox txtTotalBins{fraLandCharInfo(3), "txtTotalBins", "0"};
+        {{.Caption = "Continuous data", .AccessKey = 'C'},
+         {.Caption = "Default bins (0-1, 1-10, 10-25, 25-50, 50-100, 100+ square kilometers)",
+          .AccessKey = 'b'},
+         {.Caption = "User-defined bins (in square kilometers)", .AccessKey = 's'}}};
+    ui::Grid flxBins{
+        fraLandCharInfo(3), "flxBins", {.Enabled = false, .AccessibleName = "Home range breakpoints"}};
+    ui::Label lblAddBins{fraLandCharInfo(3), "lblAddBins", {.Caption = "Add", .AccessKey = 'A'}};
+    ui::TextBox txtTotalBins{
+        fraLandCharInfo(3), "txtTotalBins", "0", {.AccessibleName = "Number of new breakpoints"}};
     ui::Label lblNewBins{fraLandCharInfo(3), "lblNewBins", {.Caption = "new breakpoints"}};
-    ui::CommandButton cmdUpdateBins{fraLandCharInfo(3), "cmdUpdateBins", {.Caption = "Update breakpoints"}};
-    ui::CommandButton cmdRemoveBin{fraLandCharInfo(3), "cmdRemoveBin", {.Caption = "Remove breakpoint no:"}};
-    ui::TextBox txtRemoveBinIndex{fraLandCharInfo(3), "txtRemoveBinIndex", "0"};
+    ui::CommandButton cmdUpdateBins{
+        fraLandCharInfo(3), "cmdUpdateBins", {.Caption = "Update breakpoints", .AccessKey = 'U'}};
+    ui::CommandButton cmdRemoveBin{
+        fraLandCharInfo(3), "cmdRemoveBin", {.Caption = "Remove breakpoint no:", .AccessKey = 'R'}};
+    ui::TextBox txtRemoveBinIndex{fraLandCharInfo(3),
+                                  "txtRemoveBinIndex",
+                                  "0",
+                                  {.AccessibleName = "Number of the breakpoint to remove"}};
 
-    ui::Grid flxFunctions{fraLandCharInfo(4), "flxFunctions"};
-    ui::Label lblAddFunctions{fraLandCharInfo(4), "lblAddFunctions", {.Caption = "Add"}};
-    ui::TextBox txtTotalFunctions{fraLandCharInfo(4), "txtTotalFunctions", "0"};
+    ui::Grid flxFunctions{fraLandCharInfo(4), "flxFunctions", {.AccessibleName = "Functions"}};
+    ui::Label lblAddFunctions{fraLandCharInfo(4), "lblAddFunctions", {.Caption = "Add", .AccessKey = 'A'}};
+    ui::TextBox txtTotalFunctions{
+        fraLandCharInfo(4), "txtTotalFunctions", "0", {.AccessibleName = "Number of new functions"}};
     ui::Label lblNewFunctions{fraLandCharInfo(4), "lblNewFunctions", {.Caption = "new functions"}};
     ui::CommandButton cmdUpdateFunctions{
-        fraLandCharInfo(4), "cmdUpdateFunctions", {.Caption = "Update function list"}};
+        fraLandCharInfo(4), "cmdUpdateFunctions", {.Caption = "Update function list", .AccessKey = 'U'}};
     ui::CommandButton cmdRemoveFunction{
-        fraLandCharInfo(4), "cmdRemoveFunction", {.Caption = "Remove function no.:"}};
-    ui::TextBox txtRemoveFunctionIndex{fraLandCharInfo(4), "txtRemoveFunctionIndex", "0"};
+        fraLandCharInfo(4), "cmdRemoveFunction", {.Caption = "Remove function no.:", .AccessKey = 'R'}};
+    ui::TextBox txtRemoveFunctionIndex{fraLandCharInfo(4),
+                                       "txtRemoveFunctionIndex",
+                                       "0",
+                                       {.AccessibleName = "Number of the function to remove"}};
     ui::ControlArray<ui::CommandButton> cmdFunctionMove{
-        fraLandCharInfo(4), "cmdFunctionMove", {{.Caption = "▲"}, {.Caption = "▼"}}};
+        fraLandCharInfo(4),
+        "cmdFunctionMove",
+        {{.Caption = "▲", .AccessibleName = "Move up"}, {.Caption = "▼", .AccessibleName = "Move down"}}};
 
     // Page 3: one species on the five criteria.
-    ui::Label lblSpeciesName{fraTabContents(2), "lblSpeciesName", {.Caption = "Candidate species:"}};
+    ui::Label lblSpeciesName{
+        fraTabContents(2), "lblSpeciesName", {.Caption = "Candidate species:", .AccessKey = 'C'}};
     ui::ComboBox cbxSpeciesName{fraTabContents(2), "cbxSpeciesName"};
     ui::TabStrip tabCriteria{
         fraTabContents(2),
         "tabCriteria",
-        {{"Heterogeneity"}, {"Area"}, {"Vulnerability"}, {"Functionality"}, {"Socio-economics"}}};
+        {{"Heterogeneity"}, {"Area"}, {"Vulnerability"}, {"Functionality"}, {"Socio-economics"}},
+        {.AccessibleName = "Criteria"}};
     ui::ControlArray<ui::Frame> fraCriteria{tabCriteria, "fraCriteria", 5};
-    ui::Grid flxHabitatHetero{fraCriteria(0), "flxHabitatHetero"};
-    ui::Grid flxJurisUnitHetero{fraCriteria(0), "flxJurisUnitHetero"};
-    ui::Label lblDispersalYN{fraCriteria(1), "lblDispersalYN", {.Caption = "Dispersal > 10 km:"}};
+    ui::Grid flxHabitatHetero{
+        fraCriteria(0), "flxHabitatHetero", {.AccessibleName = "Level of use of habitats"}};
+    ui::Grid flxJurisUnitHetero{
+        fraCriteria(0), "flxJurisUnitHetero", {.AccessibleName = "Level of use of management zones"}};
+    ui::Label lblDispersalYN{
+        fraCriteria(1), "lblDispersalYN", {.Caption = "Dispersal > 10 km:", .AccessKey = 's'}};
     ui::ComboBox cbxDispersalYN{fraCriteria(1), "cbxDispersalYN", {"N/A", "Y", "N"}};
-    ui::Label lblConnectivity{fraCriteria(1), "lblConnectivity", {.Caption = "Connectivity:"}};
+    ui::Label lblConnectivity{
+        fraCriteria(1), "lblConnectivity", {.Caption = "Connectivity:", .AccessKey = 'n'}};
     ui::ComboBox cbxConnectivity{fraCriteria(1), "cbxConnectivity", {"N/A", "Y", "N"}};
-    ui::Label lblContinuousHR{fraCriteria(1),
-                              "lblContinuousHR",
-                              {.Caption = "Continuous Home range value (in square kilometers):"}};
+    ui::Label lblContinuousHR{
+        fraCriteria(1),
+        "lblContinuousHR",
+        {.Caption = "Continuous Home range value (in square kilometers):", .AccessKey = 'H'}};
     ui::TextBox txtContinuousHR{fraCriteria(1), "txtContinuousHR", "0"};
-    ui::Label lblDefaultBinsHR{
-        fraCriteria(1), "lblDefaultBinsHR", {.Caption = "Select the home range default bin:"}};
+    ui::Label lblDefaultBinsHR{fraCriteria(1),
+                               "lblDefaultBinsHR",
+                               {.Caption = "Select the home range default bin:", .AccessKey = 'h'}};
     ui::ComboBox cbxDefaultBinsHR{fraCriteria(1), "cbxDefaultBinsHR"};
-    ui::Label lblUserDefBinsHR{
-        fraCriteria(1), "lblUserDefBinsHR", {.Caption = "Select the home range user-defined bin:"}};
+    ui::Label lblUserDefBinsHR{fraCriteria(1),
+                               "lblUserDefBinsHR",
+                               {.Caption = "Select the home range user-defined bin:", .AccessKey = 'h'}};
     ui::ComboBox cbxUserDefBinsHR{fraCriteria(1), "cbxUserDefBinsHR"};
-    ui::Label lblPropOccupied{
-        fraCriteria(1), "lblPropOccupied", {.Caption = "Proportion of landscape occupied:"}};
+    ui::Label lblPropOccupied{fraCriteria(1),
+                              "lblPropOccupied",
+                              {.Caption = "Proportion of landscape occupied:", .AccessKey = 'o'}};
     ui::TextBox txtPropOccupied{fraCriteria(1), "txtPropOccupied", "0"};
     ui::Label lblPropOccupHint{fraCriteria(1), "lblPropOccupHint", {.Caption = "HINT:"}};
-    ui::Grid flxLandUsesVulnerability{fraCriteria(2), "flxLandUsesVulnerability"};
-    ui::Grid flxFunctionality{fraCriteria(3), "flxFunctionality"};
-    ui::Grid flxSocioEcon{fraCriteria(4), "flxSocioEcon"};
-    ui::Label lblCCS{fraTabContents(2), "lblCCS", {.Caption = "Current Conservation Status:"}};
+    ui::Grid flxLandUsesVulnerability{
+        fraCriteria(2), "flxLandUsesVulnerability", {.AccessibleName = "Vulnerability to human activities"}};
+    ui::Grid flxFunctionality{fraCriteria(3), "flxFunctionality", {.AccessibleName = "Ecological functions"}};
+    ui::Grid flxSocioEcon{fraCriteria(4), "flxSocioEcon", {.AccessibleName = "Socio-economic value"}};
+    ui::Label lblCCS{
+        fraTabContents(2), "lblCCS", {.Caption = "Current Conservation Status:", .AccessKey = 'u'}};
     ui::TextBox txtCCS{fraTabContents(2), "txtCCS", "0"};
-    ui::Label lblDataQuality{fraTabContents(2), "lblDataQuality", {.Caption = "Data quality:"}};
+    ui::Label lblDataQuality{
+        fraTabContents(2), "lblDataQuality", {.Caption = "Data quality:", .AccessKey = 'q'}};
     ui::ComboBox cbxDataQuality{
         fraTabContents(2),
         "cbxDataQuality",
@@ -197,10 +254,25 @@ struct frmBrenicaControls : ui::FormWindow {
                                      {"Vulnerability by human activity"},
                                      {"Functionality"},
                                      {"Socio-economics"},
-                                     {"Data quality"}}};
-    ui::ControlArray<ui::Grid> flxSummary{tabCriteriaSummary, "flxSummary", summary::Count};
-    ui::CheckBox chkAllowSummaryEdit{
-        fraTabContents(3), "chkAllowSummaryEdit", false, {.Caption = "Allow summary table editing"}};
+                                     {"Data quality"}},
+                                    {.AccessibleName = "Summary tables"}};
+    ui::ControlArray<ui::Grid> flxSummary{tabCriteriaSummary,
+                                          "flxSummary",
+                                          {{.AccessibleName = "Habitat use"},
+                                           {.AccessibleName = "Management zone use"},
+                                           {.AccessibleName = "Habitat use by species"},
+                                           {.AccessibleName = "Management zone use by species"},
+                                           {.AccessibleName = "Area"},
+                                           {.AccessibleName = "Vulnerability"},
+                                           {.AccessibleName = "Vulnerability by species"},
+                                           {.AccessibleName = "Vulnerability by human activity"},
+                                           {.AccessibleName = "Functionality"},
+                                           {.AccessibleName = "Socio-economics"},
+                                           {.AccessibleName = "Data quality"}}};
+    ui::CheckBox chkAllowSummaryEdit{fraTabContents(3),
+                                     "chkAllowSummaryEdit",
+                                     false,
+                                     {.Caption = "Allow summary table editing", .AccessKey = 'A'}};
 
     // Page 5: summary graphs.
     ui::TabStrip tabGraphSummary{fraTabContents(4),
@@ -212,41 +284,63 @@ struct frmBrenicaControls : ui::FormWindow {
                                   {"Species by threat"},
                                   {"Species by vulnerability"},
                                   {"Threats by species"},
-                                  {"Vulnerability by species"}}};
+                                  {"Vulnerability by species"}},
+                                 {.AccessibleName = "Summary graphs"}};
     ui::ControlArray<ui::Chart> chtSummary{tabGraphSummary, "chtSummary", 10};
 
     // Page 6: scores.
-    ui::ControlArray<ui::OptionButton> optScoreDisplay{
+    ui::ControlArray<ui::OptionButton> optScoreDisplay{fraTabContents(5),
+                                                       "optScoreDisplay",
+                                                       {{.Caption = "Normalized values", .AccessKey = 'N'},
+                                                        {.Caption = "Original values", .AccessKey = 'O'}}};
+    ui::CheckBox chkShowGraphs{fraTabContents(5),
+                               "chkShowGraphs",
+                               false,
+                               {.Caption = "Display results graphically", .AccessKey = 'r'}};
+    ui::CheckBox chkShowAggregateScore{fraTabContents(5),
+                                       "chkShowAggregateScore",
+                                       true,
+                                       {.Caption = "Show aggregate score", .AccessKey = 'S'}};
+    ui::ControlArray<ui::Grid> flxScores{fraTabContents(5),
+                                         "flxScores",
+                                         {{.AccessibleName = "Normalized scores by species"},
+                                          {.AccessibleName = "Original scores by species"}}};
+    ui::ControlArray<ui::Grid> flxScoresSort{
         fraTabContents(5),
-        "optScoreDisplay",
-        {{.Caption = "Normalized values"}, {.Caption = "Original values"}}};
-    ui::CheckBox chkShowGraphs{
-        fraTabContents(5), "chkShowGraphs", false, {.Caption = "Display results graphically"}};
-    ui::CheckBox chkShowAggregateScore{
-        fraTabContents(5), "chkShowAggregateScore", true, {.Caption = "Show aggregate score"}};
-    ui::ControlArray<ui::Grid> flxScores{fraTabContents(5), "flxScores", 2};
-    ui::ControlArray<ui::Grid> flxScoresSort{fraTabContents(5), "flxScoresSort", 2};
+        "flxScoresSort",
+        {{.AccessibleName = "Normalized scores"}, {.AccessibleName = "Original scores"}}};
     ui::ControlArray<ui::Chart> chtScores{fraTabContents(5), "chtScores", 3};
 
     // Page 7: complementarity.
-    ui::CommandButton cmdComplement{fraTabContents(6), "cmdComplement", {.Caption = "Select Brenic Species"}};
+    ui::CommandButton cmdComplement{
+        fraTabContents(6), "cmdComplement", {.Caption = "Select Brenic Species", .AccessKey = 'S'}};
     ui::CommandButton cmdExportResults{
-        fraTabContents(6), "cmdExportResults", {.Caption = "Export the results"}};
-    ui::Label lblErrorMargin{fraTabContents(6), "lblErrorMargin", {.Caption = "Margin of Error:"}};
+        fraTabContents(6), "cmdExportResults", {.Caption = "Export the results", .AccessKey = 'E'}};
+    ui::Label lblErrorMargin{
+        fraTabContents(6), "lblErrorMargin", {.Caption = "Margin of Error:", .AccessKey = 'M'}};
     ui::TextBox txtErrorMargin{fraTabContents(6), "txtErrorMargin", "5"};
     ui::Label lblPercent{fraTabContents(6), "lblPercent", {.Caption = "%"}};
-    ui::Label lblThreatRep{fraTabContents(6), "lblThreatRep", {.Caption = "Threat Representation:"}};
+    ui::Label lblThreatRep{
+        fraTabContents(6), "lblThreatRep", {.Caption = "Threat Representation:", .AccessKey = 'T'}};
     ui::TextBox txtThreatRep{fraTabContents(6), "txtThreatRep", "0.5"};
-    ui::Label lblCCSRep{fraTabContents(6), "lblCCSRep", {.Caption = "Conservation Status Representation:"}};
+    ui::Label lblCCSRep{
+        fraTabContents(6), "lblCCSRep", {.Caption = "Conservation Status Representation:", .AccessKey = 'C'}};
     ui::TextBox txtCCSRep{fraTabContents(6), "txtCCSRep", "1"};
-    ui::Label lblBrenicSpecies{fraTabContents(6), "lblBrenicSpecies", {.Caption = "Brenic species:"}};
+    ui::Label lblBrenicSpecies{
+        fraTabContents(6), "lblBrenicSpecies", {.Caption = "Brenic species:", .AccessKey = 'B'}};
     ui::Grid flxBrenicSuite{fraTabContents(6), "flxBrenicSuite"};
     ui::Label lblCompResults{fraTabContents(6), "lblCompResults", {.Caption = "Complementarity results:"}};
-    ui::ControlArray<ui::OptionButton> optCompResults{fraTabContents(6),
-                                                      "optCompResults",
-                                                      {{.Caption = "Overall"},
-                                                       {.Caption = "Habitats covered"},
-                                                       {.Caption = "Management zones covered"},
-                                                       {.Caption = "Threats covered"}}};
-    ui::ControlArray<ui::Grid> flxCompResults{fraTabContents(6), "flxCompResults", 4};
+    ui::ControlArray<ui::OptionButton> optCompResults{
+        fraTabContents(6),
+        "optCompResults",
+        {{.Caption = "Overall", .AccessKey = 'O'},
+         {.Caption = "Habitats covered", .AccessKey = 'H'},
+         {.Caption = "Management zones covered", .AccessKey = 'z'},
+         {.Caption = "Threats covered", .AccessKey = 'r'}}};
+    ui::ControlArray<ui::Grid> flxCompResults{fraTabContents(6),
+                                              "flxCompResults",
+                                              {{.AccessibleName = "Overall"},
+                                               {.AccessibleName = "Habitats covered"},
+                                               {.AccessibleName = "Management zones covered"},
+                                               {.AccessibleName = "Threats covered"}}};
 };

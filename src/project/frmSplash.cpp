@@ -26,8 +26,14 @@ frmSplash::frmSplash(ui::Platform& platform, std::function<void()> showMainForm,
     imgSplash.Move(0, 0, picture.Width, picture.Height);
     picHalvornLogo.Move(0, 0, 1200, 1200);
     lblBrenicaSoftware.Move(0, 0, 6000, 700);
+    lblBrenicaSoftware.TextFont = {.Size = 28, .Bold = true};
+    lblBrenicaSoftware.Alignment = ui::CellAlign::CentreCentre;
     lblVersion.Move(0, 0, 3000, 400);
+    lblVersion.TextFont.Size = 14;
+    lblVersion.Alignment = ui::CellAlign::CentreCentre;
     lblMerrowdaleProg.Move(0, 0, 3000, 400);
+    lblMerrowdaleProg.TextFont.Size = 14;
+    lblMerrowdaleProg.Alignment = ui::CellAlign::RightCentre;
     SplashTimer.Elapsed = [this] { SplashTimer_Timer(); };
     Click = [this] { Form_Click(); };
     KeyPress = [this] { Form_KeyPress(); };

@@ -30,6 +30,9 @@ public:
     Chart(Control& container, std::string name, Design design = {})
         : Control(container, ControlKind::Chart, std::move(name), std::move(design)) {}
 
+    /// Its title.
+    std::string AccessibleName() const override { return Title; }
+
     const Table& ChartData() const { return data_; }
     void ChartData(Table data);
     /// Series `index`, counted from 1; it comes into being when it is first asked for.

@@ -70,7 +70,7 @@ public:
     char AccessKey() const { return accessKey_; }
     const std::string& Shortcut() const { return shortcut_; }
     /// The name that the design gives it, its caption, or the caption of the label before it.
-    std::string AccessibleName() const;
+    virtual std::string AccessibleName() const;
 
     int Left() const { return left_; }
     void Left(int left) { change(left_, left); }

@@ -6,10 +6,12 @@
 #include <QClipboard>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QStyleOption>
 #include <algorithm>
 #include <cmath>
 
-#include "ui/text.h"
+#include "desktop/cell_list.h"
+#include "desktop/texts.h"
 
 namespace desktop {
 
@@ -43,27 +45,38 @@ bool isTyping(const QKeyEvent& event) {
     return !text.isEmpty() && ui::isPrintable(static_cast<int>(text.toUcs4().first()));
 }
 
-CellEditor::CellEditor(ui::Grid& grid, FormLink& link, const GridPainter& painter, QWidget* viewport)
-    : QWidget(viewport), grid_(grid), link_(link), painter_(painter) {
+CellEditor::CellEditor(ui::Grid& grid, FormLink& link, const GridPainter& painter, QWidget* view,
+                       QWidget* viewport)
+    : QWidget(viewport),
+      grid_(grid),
+      link_(link),
+      painter_(painter),
+      list_(new CellList(view, link.scale().pixels(ui::Grid::RowHeight))) {
     setFocusPolicy(Qt::NoFocus);
     setCursor(Qt::IBeamCursor);
+    connect(list_, &QListWidget::itemClicked, this, [this] { chooseItem(list_->currentRow()); });
     hide();
 }
 
 void CellEditor::showAt(const QRect& cell, const QRect& body) {
     followCaret();
     const bool inView = body.contains(cell.topLeft()) && !cell.isEmpty();
-    if (!inView) return hide();
+    if (!inView) {
+        list_->hide();
+        return hide();
+    }
     const int widest = std::max(cell.width(), body.right() + 1 - cell.left());
     QRect place = cell.adjusted(-1, -1, 0, 0);
     place.setWidth(std::clamp(naturalWidth(), cell.width(), widest) + 1);
     setGeometry(place);
     scrollToCaret();
+    followList();
     show();
     update();
 }
 
 void CellEditor::conceal() {
+    list_->hide();
     if (isHidden()) return;
     hide();
     preedit_.clear();
@@ -88,18 +101,69 @@ void CellEditor::timerEvent(QTimerEvent*) {
 }
 
 bool CellEditor::key(QKeyEvent* event) {
-    if (commandKey(event) || caretKey(event) || steppingKey(event)) return true;
+    if (listKey(event) || commandKey(event) || caretKey(event) || steppingKey(event)) return true;
     if (!isTyping(*event)) return false;
     link_.run([this, typed = event->text()] { typeInto(grid_, typed); });
     return true;
+}
+
+/// Keys of the open list, and those that open and close it.
+bool CellEditor::listKey(QKeyEvent* event) {
+    const bool alt = event->modifiers() & Qt::AltModifier;
+    const bool toggles = event->key() == Qt::Key_F4 || (alt && event->key() == Qt::Key_Down) ||
+                         (alt && event->key() == Qt::Key_Up);
+    if (!list_->isVisible()) {
+        if (toggles) openList();
+        return toggles;
+    }
+    if (toggles || event->key() == Qt::Key_Escape) return list_->hide(), true;
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        return chooseItem(list_->currentRow()), true;
+    }
+    return list_->move(event->key());
+}
+
+void CellEditor::openList() {
+    if (!grid_.Editing() || isHidden()) return;
+    const auto offered = grid_.ComboItems();
+    if (offered.empty()) return;
+    QStringList items;
+    for (const std::string_view item : offered)
+        items.append(QString::fromUtf8(item.data(), static_cast<qsizetype>(item.size())));
+    list_->open(items, static_cast<int>(items.indexOf(text())), QRect(mapToGlobal(QPoint()), size()));
+}
+
+/// Takes an item of the list and closes the editor with it; without one the list closes only.
+void CellEditor::chooseItem(int index) {
+    list_->hide();
+    const auto items = grid_.ComboItems();
+    if (index < 0 || static_cast<std::size_t>(index) >= items.size()) return;
+    const std::string item(items[static_cast<std::size_t>(index)]);
+    link_.run([&] {
+        if (grid_.UserEditChoose(item)) grid_.UserCommitEdit();
+    });
+}
+
+/// What is typed is chosen in the open list.
+void CellEditor::followList() {
+    if (!list_->isVisible()) return;
+    for (int row = 0; row < list_->count(); ++row) {
+        if (list_->item(row)->text() == text()) return list_->setCurrentRow(row);
+    }
+}
+
+/// The place of the button that opens the list; empty without a list.
+QRect CellEditor::button() const {
+    if (grid_.ComboList().empty()) return {};
+    const int side = std::min(height(), width() / 2) - 2 * FrameWidth;
+    return {width() - FrameWidth - side, FrameWidth, side, height() - 2 * FrameWidth};
 }
 
 bool CellEditor::commandKey(QKeyEvent* event) {
     if (event->matches(QKeySequence::Copy)) return copy(), true;
     if (event->matches(QKeySequence::Cut)) return cut(), true;
     if (event->matches(QKeySequence::Paste)) return paste(), true;
-    if (event->matches(QKeySequence::SelectAll))
-        return select(0, static_cast<int>(text().toUcs4().size())), true;
+    if (event->matches(QKeySequence::SelectAll)) return selectAll(), true;
     return false;
 }
 
@@ -145,7 +209,6 @@ bool CellEditor::steppingKey(QKeyEvent* event) {
                 step(ui::EnterKey);
             }
             return true;
-        case Qt::Key_Tab: step(ui::TabKey); return true;
         case Qt::Key_Escape: step(ui::EscapeKey); return true;
         case Qt::Key_Backspace: step(ui::BackspaceKey); return true;
         case Qt::Key_Left: step(ui::LeftKey); return true;
@@ -156,9 +219,16 @@ bool CellEditor::steppingKey(QKeyEvent* event) {
     }
 }
 
-void CellEditor::stepBack() {
-    link_.run([this] {
-        if (grid_.UserCommitEdit()) grid_.UserStepBack();
+void CellEditor::tab(bool backwards) {
+    const bool chosen = list_->isVisible() && list_->currentItem() != nullptr;
+    const std::string item = chosen ? utf8(list_->currentItem()->text()) : std::string();
+    link_.run([&] {
+        if (chosen && !grid_.UserEditChoose(item)) return;
+        if (!backwards) {
+            grid_.UserEditKey(ui::TabKey);
+        } else if (grid_.UserCommitEdit()) {
+            grid_.UserStepBack();
+        }
     });
 }
 
@@ -174,7 +244,7 @@ void CellEditor::deleteNext() {
 }
 
 void CellEditor::replaceSelection(const QString& text) {
-    link_.run([this, pasted = text.toStdString()] { grid_.UserEditPaste(pasted); });
+    link_.run([this, pasted = utf8(text)] { grid_.UserEditPaste(pasted); });
 }
 
 void CellEditor::copy() const {
@@ -188,6 +258,8 @@ void CellEditor::cut() {
 }
 
 void CellEditor::paste() { replaceSelection(QApplication::clipboard()->text()); }
+
+void CellEditor::selectAll() { select(0, static_cast<int>(text().toUcs4().size())); }
 
 void CellEditor::preedit(const QString& text) {
     if (preedit_ == text) return;
@@ -259,13 +331,13 @@ int CellEditor::characterAt(int x) const {
 
 int CellEditor::naturalWidth() const {
     const double text = QFontMetricsF(painter_.font(false)).horizontalAdvance(this->text() + preedit_);
-    return static_cast<int>(std::ceil(text)) + 2 * painter_.padding();
+    return static_cast<int>(std::ceil(text)) + 2 * painter_.padding() + button().width();
 }
 
 void CellEditor::scrollToCaret() {
     if (naturalWidth() <= width()) scrolled_ = 0;
     const double x = caretX();
-    const double last = width() - painter_.padding();
+    const double last = width() - painter_.padding() - button().width();
     if (x > last) scrolled_ += x - last;
     if (x < painter_.padding()) scrolled_ = std::max(0.0, scrolled_ - (painter_.padding() - x));
 }
@@ -275,8 +347,18 @@ void CellEditor::paintEvent(QPaintEvent*) {
     painter.fillRect(rect(), palette().base());
     painter.setPen(QPen(palette().color(QPalette::Highlight), FrameWidth));
     painter.drawRect(rect().adjusted(1, 1, -1, -1));
-    painter.setClipRect(rect().adjusted(FrameWidth, FrameWidth, -FrameWidth, -FrameWidth));
+    painter.setClipRect(rect().adjusted(FrameWidth, FrameWidth, -FrameWidth - button().width(), -FrameWidth));
+    paintText(painter);
+    if (button().isEmpty()) return;
+    painter.setClipping(false);
+    painter.fillRect(button(), palette().button());
+    QStyleOption arrow;
+    arrow.initFrom(this);
+    arrow.rect = button().adjusted(2, 2, -2, -2);
+    style()->drawPrimitive(QStyle::PE_IndicatorArrowDown, &arrow, &painter, this);
+}
 
+void CellEditor::paintText(QPainter& painter) const {
     QTextLayout layout;
     layOut(layout);
     if (layout.lineCount() == 0) return;
@@ -300,6 +382,7 @@ void CellEditor::paintEvent(QPaintEvent*) {
 
 void CellEditor::mousePressEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton) return event->ignore();
+    if (button().contains(event->position().toPoint())) return openList();
     const int character = characterAt(event->position().toPoint().x());
     select(event->modifiers() & Qt::ShiftModifier ? anchor_ : character, character);
 }

@@ -12,13 +12,16 @@
 
 namespace desktop {
 
+class CellList;
+
 /// Shows the open edit of a grid over its cell: the text, caret and selection that the grid holds. The view keeps the
-/// keyboard and hands the keys on.
+/// keyboard and hands the keys on. A cell that offers a list has a button that opens it.
 class CellEditor : public QWidget {
     Q_OBJECT
 
 public:
-    CellEditor(ui::Grid& grid, FormLink& link, const GridPainter& painter, QWidget* viewport);
+    /// `view` keeps the focus; the editor stands in its viewport.
+    CellEditor(ui::Grid& grid, FormLink& link, const GridPainter& painter, QWidget* view, QWidget* viewport);
 
     /// Shows the edit as it stands at the cell's place, as wide as its text as far as `body` reaches; hidden when the
     /// cell is scrolled out of it.
@@ -27,10 +30,14 @@ public:
 
     /// Takes a key; false for one that is none of an editor's.
     bool key(QKeyEvent* event);
-    void stepBack();
+    /// Commits and moves as Tab does, or backwards; an item chosen in the open list is taken.
+    void tab(bool backwards);
     void copy() const;
     void cut();
     void paste();
+    void selectAll();
+    /// Shows the items that the cell offers, if it does.
+    void openList();
     /// Text that an input method is about to enter.
     void preedit(const QString& text);
     QVariant inputMethodValue(Qt::InputMethodQuery query) const;
@@ -44,6 +51,10 @@ protected:
     void timerEvent(QTimerEvent* event) override;
 
 private:
+    bool listKey(QKeyEvent* event);
+    void chooseItem(int index);
+    void followList();
+    QRect button() const;
     bool commandKey(QKeyEvent* event);
     bool caretKey(QKeyEvent* event);
     bool steppingKey(QKeyEvent* event);
@@ -53,8 +64,8 @@ private:
     QString selectedText() const;
     void followCaret();
     void select(int anchor, int caret);
+    void paintText(QPainter& painter) const;
     void layOut(QTextLayout& layout) const;
-    QTextLine line(QTextLayout& layout) const;
     double caretX() const;
     int characterAt(int x) const;
     int naturalWidth() const;
@@ -63,6 +74,7 @@ private:
     ui::Grid& grid_;
     FormLink& link_;
     const GridPainter& painter_;
+    CellList* list_;
     QString preedit_;
     // In characters, as the grid counts them; what is selected lies between them.
     int anchor_ = 0;

@@ -18,27 +18,30 @@ void GridView::keyPressEvent(QKeyEvent* event) {
     event->ignore();
 }
 
+/// Keys that a menu of the window might take for its own.
+bool GridView::isOwnShortcut(QKeyEvent& key) {
+    return isTyping(key) || key.matches(QKeySequence::Copy) || key.matches(QKeySequence::Paste) ||
+           key.matches(QKeySequence::Cut) || key.matches(QKeySequence::SelectAll);
+}
+
 bool GridView::editorKey(QKeyEvent* event) {
+    const CellAddress before{grid_.Row(), grid_.Col()};
     if (!editor_->key(event)) return false;
-    if (!grid_.Editing()) reveal({grid_.Row(), grid_.Col()});
+    const CellAddress after{grid_.Row(), grid_.Col()};
+    if (after != before) reveal(after);
     return true;
 }
 
 /// Takes Tab within the grid; false where it goes on to the next widget.
 bool GridView::tabKey(bool backwards) {
     if (grid_.Editing()) {
-        if (backwards) {
-            editor_->stepBack();
-        } else {
-            act([this] { grid_.UserEditKey(ui::TabKey); });
-        }
-        reveal({grid_.Row(), grid_.Col()});
+        editor_->tab(backwards);
+        if (!grid_.Editing()) reveal({grid_.Row(), grid_.Col()});
         return true;
     }
     if (grid_.Editable == ui::EditMode::ReadOnly) return false;
     if (backwards ? grid_.AtFirstCell() : grid_.AtLastCell()) return false;
-    act([=, this] { backwards ? grid_.UserStepBack() : grid_.UserStep(ui::TabKey); });
-    reveal({grid_.Row(), grid_.Col()});
+    step([=, this] { return backwards ? grid_.UserStepBack() : grid_.UserStep(ui::TabKey); });
     return true;
 }
 
@@ -55,7 +58,9 @@ bool GridView::moveKey(QKeyEvent* event) {
     if (event->modifiers() & (Qt::AltModifier | Qt::MetaModifier)) return false;
     switch (event->key()) {
         case Qt::Key_Return:
-        case Qt::Key_Enter: stepBy(extends ? ui::UpKey : ui::EnterKey); return true;
+        case Qt::Key_Enter:
+            step([=, this] { return grid_.UserStep(extends ? ui::UpKey : ui::EnterKey); });
+            return true;
         case Qt::Key_Up:
         case Qt::Key_Down:
         case Qt::Key_Left:
@@ -110,15 +115,13 @@ CellAddress GridView::target(int key, bool toCorner, CellAddress from) const {
 }
 
 void GridView::moveTo(CellAddress cell) {
-    if (cell.Row < 0) return;
-    bool moved = false;
-    act([&] { moved = grid_.UserMoveTo(cell.Row, cell.Col); });
-    if (moved) reveal(cell);
+    if (cell.Row >= 0) step([=, this] { return grid_.UserMoveTo(cell.Row, cell.Col); });
 }
 
-void GridView::stepBy(int key) {
+/// Runs a step of the current cell and shows where it led.
+void GridView::step(const std::function<bool()>& action) {
     bool moved = false;
-    act([&] { moved = grid_.UserStep(key); });
+    act([&] { moved = action(); });
     if (moved) reveal({grid_.Row(), grid_.Col()});
 }
 
@@ -140,6 +143,7 @@ void GridView::selectAll() {
 }
 
 bool GridView::editKey(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Down && event->modifiers() & Qt::AltModifier) return beginEdit(), true;
     if (event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) return false;
     switch (event->key()) {
         case Qt::Key_F2: beginEdit(); return true;
@@ -159,6 +163,7 @@ bool GridView::editKey(QKeyEvent* event) {
 void GridView::beginEdit() {
     reveal({grid_.Row(), grid_.Col()});
     act([this] { grid_.UserBeginEdit(); });
+    editor_->openList();
 }
 
 /// Opens an editor on a closed cell for what is typed.

@@ -31,12 +31,11 @@ void GridView::leave() {
 }
 
 void GridView::mousePressEvent(QMouseEvent* event) {
-    if (event->button() != Qt::LeftButton) return event->ignore();
+    if (event->button() != Qt::LeftButton) return;
     const QPoint place = event->position().toPoint();
     draggedCol_ = geometry_.edgeAt(place);
     if (draggedCol_ >= 0) return;
     const CellAddress cell = geometry_.cellAt(place);
-    if (cell.Row < 0) return;
     const bool body = cell.Row >= geometry_.fixedRows() && cell.Col >= geometry_.fixedCols();
     if (body && event->modifiers() & Qt::ShiftModifier) {
         act([&] { selecting_ = grid_.UserSelectTo(cell.Row, cell.Col); });

@@ -13,6 +13,7 @@
 #include <algorithm>
 
 #include "desktop/cell_editor.h"
+#include "desktop/texts.h"
 #include "ui/window_texts.h"
 
 namespace desktop {
@@ -43,7 +44,7 @@ GridView::GridView(ui::Grid& grid, FormLink& link, QWidget* parent)
       link_(link),
       geometry_(grid, link.scale()),
       painter_(grid, geometry_, link.scale()),
-      editor_(new CellEditor(grid, link, painter_, viewport())) {
+      editor_(new CellEditor(grid, link, painter_, this, viewport())) {
     const int barWidth = link.scale().pixels(ui::Grid::ScrollBarWidth);
     setVerticalScrollBar(new GridScrollBar(Qt::Vertical, barWidth, this));
     setHorizontalScrollBar(new GridScrollBar(Qt::Horizontal, barWidth, this));
@@ -172,6 +173,10 @@ bool GridView::event(QEvent* event) {
         paintFrame();
         return true;
     }
+    if (event->type() == QEvent::ShortcutOverride && isOwnShortcut(*static_cast<QKeyEvent*>(event))) {
+        event->accept();
+        return true;
+    }
     if (event->type() == QEvent::KeyPress && isEnabled()) {
         const auto* key = static_cast<QKeyEvent*>(event);
         const bool plain = !(key->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
@@ -193,10 +198,9 @@ bool GridView::viewportEvent(QEvent* event) {
 /// The grid's own tip, or the text of a cell that is too narrow for it.
 void GridView::showToolTip(QHelpEvent* event) {
     const CellAddress cell = geometry_.cellAt(event->pos());
-    QString tip = QString::fromStdString(grid_.ToolTipText());
-    if (tip.isEmpty() && cell.Row >= 0 && painter_.isCut(cell)) tip = cellText(grid_, cell);
-    if (Qt::mightBeRichText(tip)) tip = tip.toHtmlEscaped();
-    QToolTip::showText(event->globalPos(), tip, viewport(),
+    std::string tip = grid_.ToolTipText();
+    if (tip.empty() && cell.Row >= 0 && painter_.isCut(cell)) tip = grid_.TextMatrix(cell.Row, cell.Col);
+    QToolTip::showText(event->globalPos(), plainToolTip(tip), viewport(),
                        cell.Row < 0 ? QRect() : geometry_.cell(cell.Row, cell.Col));
 }
 
@@ -219,14 +223,24 @@ void GridView::reveal(CellAddress cell) {
 void GridView::contextMenuEvent(QContextMenuEvent* event) {
     auto* menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    QAction* copy =
-        menu->addAction(QString::fromUtf8(ui::window_text::CopyCells), this, &GridView::copyCells);
-    copy->setShortcut(QKeySequence::Copy);
-    QAction* paste =
-        menu->addAction(QString::fromUtf8(ui::window_text::PasteCells), this, &GridView::pasteCells);
-    paste->setShortcut(QKeySequence::Paste);
-    paste->setEnabled(grid_.Editable != ui::EditMode::ReadOnly &&
-                      !QApplication::clipboard()->text().isEmpty());
+    const auto add = [&](const char* text, QKeySequence::StandardKey keys, bool enabled, auto action) {
+        QAction* added = menu->addAction(QString::fromUtf8(text), this, action);
+        added->setShortcut(keys);
+        added->setShortcutVisibleInContextMenu(true);
+        added->setEnabled(enabled);
+    };
+    const bool pastes =
+        grid_.Editable != ui::EditMode::ReadOnly && !QApplication::clipboard()->text().isEmpty();
+    if (grid_.Editing()) {
+        const bool any = grid_.Editor().SelLength() > 0;
+        add(ui::window_text::CutText, QKeySequence::Cut, any, [this] { editor_->cut(); });
+        add(ui::window_text::CopyText, QKeySequence::Copy, any, [this] { copyCells(); });
+        add(ui::window_text::PasteText, QKeySequence::Paste, pastes, [this] { pasteCells(); });
+        add(ui::window_text::SelectAllText, QKeySequence::SelectAll, true, [this] { editor_->selectAll(); });
+    } else {
+        add(ui::window_text::CopyCells, QKeySequence::Copy, true, [this] { copyCells(); });
+        add(ui::window_text::PasteCells, QKeySequence::Paste, pastes, [this] { pasteCells(); });
+    }
     menu->popup(event->globalPos());
 }
 
@@ -237,7 +251,9 @@ void GridView::copyCells() const {
 
 void GridView::pasteCells() {
     if (grid_.Editing()) return editor_->paste();
-    act([this, lines = QApplication::clipboard()->text().toStdString()] { grid_.UserPasteBlock(lines); });
+    const std::string lines = utf8(QApplication::clipboard()->text());
+    if (grid_.Editable == ui::EditMode::ReadOnly || lines.empty()) return;
+    act([&] { grid_.UserPasteBlock(lines); });
     reveal({grid_.Row(), grid_.Col()});
 }
 

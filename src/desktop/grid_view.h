@@ -67,6 +67,7 @@ private:
     void showToolTip(QHelpEvent* event);
 
     // Keys, while no editor is open (grid_keys.cpp).
+    static bool isOwnShortcut(QKeyEvent& key);
     bool editorKey(QKeyEvent* event);
     bool tabKey(bool backwards);
     bool clipboardKey(QKeyEvent* event);
@@ -74,7 +75,7 @@ private:
     bool editKey(QKeyEvent* event);
     CellAddress target(int key, bool toCorner, CellAddress from) const;
     void moveTo(CellAddress cell);
-    void stepBy(int key);
+    void step(const std::function<bool()>& action);
     void selectTo(CellAddress cell);
     void selectAll();
     void beginEdit();

@@ -8,7 +8,8 @@
 
 namespace desktop {
 
-/// A bar chart of the form.
+/// A bar chart of the form. The wheel, the plus and minus keys zoom into its categories; dragging and the arrow keys
+/// move along them; a double click, Home and 0 show all. Return opens the table of its numbers.
 class ChartView : public ChartPlot, public View {
     Q_OBJECT
 
@@ -18,9 +19,32 @@ public:
     QWidget& widget() override { return *this; }
     void follow() override { outdateData(); }
 
+    /// Category, series and value of the bar at that place; empty where there is none.
+    QString tipAt(QPointF place);
+    void showNumbers();
+
+protected:
+    void dataRead() override;
+    bool event(QEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+
 private:
-    ui::Chart& chart_;
+    void copyPicture();
+    void showAll();
+    void move(double categories);
+    void zoom(double factor, double centre);
+    bool handleKey(const QKeyEvent& event);
+    void showTip(QPoint place, QPoint onScreen);
+
+    ui::Chart& control_;
     FormLink& link_;
+    double dragged_ = 0;  // the place of the mouse while its button is down
 };
 
 }  // namespace desktop

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/grid_view.h"
 
+#include <QAccessible>
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
@@ -13,6 +14,7 @@
 #include <algorithm>
 
 #include "desktop/cell_editor.h"
+#include "desktop/grid_accessible.h"
 #include "desktop/texts.h"
 #include "ui/window_texts.h"
 
@@ -54,6 +56,7 @@ GridView::GridView(ui::Grid& grid, FormLink& link, QWidget* parent)
     setAttribute(Qt::WA_InputMethodEnabled);
     viewport()->setMouseTracking(true);
     viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
+    installGridAccessibility();
     follow();
 }
 
@@ -65,6 +68,19 @@ void GridView::follow() {
     updateScrollBars();
     placeEditor();
     refresh();
+    if (QAccessible::isActive()) tellListeners();
+}
+
+void GridView::tellListeners() {
+    const CellAddress current{grid_.Row(), grid_.Col()};
+    const bool any = current.Row < grid_.Rows() && current.Col < grid_.Cols();
+    std::string text = any ? grid_.TextMatrix(current.Row, current.Col) : std::string();
+    const bool moved = current != toldCell_;
+    const bool rewritten = !moved && text != toldText_;
+    toldCell_ = current;
+    toldText_ = std::move(text);
+    if (moved) tellCurrentCell(*this);
+    if (rewritten) tellCellText(*this);
 }
 
 void GridView::refresh() {
@@ -123,6 +139,7 @@ void GridView::changeEvent(QEvent* event) {
 
 void GridView::focusInEvent(QFocusEvent* event) {
     QAbstractScrollArea::focusInEvent(event);
+    if (QAccessible::isActive()) tellCurrentCell(*this);
     placeEditor();
     refresh();
     update();

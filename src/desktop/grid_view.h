@@ -58,6 +58,7 @@ private:
     void act(const std::function<void()>& action) { link_.run(action); }
 
     // What is shown.
+    void tellListeners();
     void refresh();
     void updateScrollBars();
     void placeEditor();
@@ -97,6 +98,8 @@ private:
     CellEditor* editor_;
     QPixmap picture_;
     bool outdated_ = true;
+    CellAddress toldCell_;
+    std::string toldText_;
 
     CellAddress hovered_;
     int draggedCol_ = -1;

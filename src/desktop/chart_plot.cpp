@@ -21,6 +21,7 @@ constexpr double NarrowestGap = 1;            // pixels
 constexpr double NarrowestBarWithEdge = 3.5;  // pixels
 constexpr int EdgeContrast = 120;             // per cent: how much darker a bar is that has no edge
 constexpr int TickLength = 4;
+constexpr double TickDistance = 2;  // lines, from one value to the next
 constexpr double HitTolerance = 3;  // pixels
 constexpr double Upright = -90;     // degrees
 const QColor Ink(20, 20, 20);
@@ -153,19 +154,20 @@ void ChartPlot::showCategories(CategoryRange range) {
     outdatePlot();
 }
 
-/// The value axis follows from the height that the labels leave, and the room for labels from the width that the value
-/// axis leaves: twice through is enough.
+/// The titles of the axes follow from the height that the labels leave, and the labels from the width that the titles
+/// leave: twice through is enough. The labels come last, so that they fit.
 void ChartPlot::updateLayout() {
     arrangeTitle();
     legend_.fitInto(viewport().width() - 2 * plotLayout()->margins().left());
     QCustomPlot::updateLayout();
+    arrangeValueAxis();
     for (int pass = 0; pass < 2; ++pass) {
+        QCustomPlot::updateLayout();
         arrangeAxisTitles();
+        QCustomPlot::updateLayout();
         arrangeCategoryAxis();
-        QCustomPlot::updateLayout();
-        arrangeValueAxis();
-        QCustomPlot::updateLayout();
     }
+    QCustomPlot::updateLayout();
     arrangeBars();
 }
 
@@ -184,10 +186,12 @@ void ChartPlot::arrangeAxisTitles() {
     yAxis->setLabel(axisTitle(chart_.YAxisTitle, room, MostAxisTitleLines, yAxis->labelFont()));
 }
 
+/// The steps do not depend on the labels, so that the axis keeps its range while these change by zooming.
 void ChartPlot::arrangeValueAxis() {
-    const double tickDistance = QFontMetricsF(yAxis->tickLabelFont()).height() * 2.5;
+    const double tickDistance = QFontMetricsF(yAxis->tickLabelFont()).height() * TickDistance;
     const auto extremes = numbers_.extremes().value_or(ChartNumbers::Extremes{});
-    const int mostSteps = std::max(2, static_cast<int>(axisRect()->height() / tickDistance));
+    const double height = axisRect()->outerRect().height() * (1 - MostForLabels);
+    const int mostSteps = std::max(2, static_cast<int>(height / tickDistance));
     const ValueScale scale = valueScale(extremes.Least, extremes.Greatest, numbers_.whole(), mostSteps);
     const QSharedPointer<QCPAxisTickerFixed> ticker(new QCPAxisTickerFixed);
     ticker->setTickStep(scale.Step);

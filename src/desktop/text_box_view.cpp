@@ -32,7 +32,7 @@ int placeOf(const QString& text, int characters) {
 
 TextBoxView::TextBoxView(ui::TextBox& box, FormLink& link, QWidget* parent)
     : QLineEdit(parent), box_(box), link_(link) {
-    setTextMargins(-LineEditMargin, 0, -LineEditMargin, 0);
+    setTextMargins(LeftMargin, 0, RightMargin, 0);
     setAcceptDrops(false);
     setDragEnabled(false);
     connect(this, &QLineEdit::selectionChanged, this, [this] { tellSelection(); });

@@ -12,7 +12,7 @@ from pathlib import Path
 
 from accessible import Bus, Gone
 
-PATIENCE = 30  # seconds until a condition that does not come true is a failure
+PATIENCE = float(os.environ.get("BRENICA_JOURNEY_PATIENCE", 30))  # seconds until a condition that does not come true is a failure
 PAUSE = 0.02  # seconds between two looks
 KEY_DELAY = 4  # milliseconds between two typed characters
 TOOLS = ("Xvfb", "dbus-daemon", "openbox", "xdotool", "xclip", "import")
@@ -23,18 +23,27 @@ class Failure(AssertionError):
 
 
 def waitFor(condition, what, patience=PATIENCE):
-    """Looks until `condition()` gives something true, and returns it. An object that vanished counts as not yet."""
+    """Looks until `condition()` gives something true, and returns it. An object that vanished counts as not yet.
+
+    `what` names what is waited for, or is a function that says it when it has not come.
+    """
     end = time.monotonic() + patience
     while True:
+        gone = None
         try:
             found = condition()
-        except Gone as gone:
-            found, what = None, f"{what} ({gone})" if time.monotonic() > end else what
+        except Gone as fault:
+            found, gone = None, fault
         if found:
             return found
         if time.monotonic() > end:
-            raise Failure(f"after {patience} s still waiting for {what}")
+            break
         time.sleep(PAUSE)
+    try:
+        what = what() if callable(what) else what
+    except Gone as fault:
+        gone = fault
+    raise Failure(f"after {patience} s still waiting for {what}" + (f" ({gone})" if gone else ""))
 
 
 def missingTools():

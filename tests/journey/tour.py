@@ -1,0 +1,94 @@
+#!/usr/bin/python3
+# SPDX-FileCopyrightText: 2026 The Brenica developers
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""Pictures of every page with the full example, on screens of several sizes, for somebody to look at."""
+
+import argparse
+import os
+import sys
+from pathlib import Path
+
+HERE = Path(__file__).resolve().parent
+sys.path[:0] = [str(HERE)]
+
+from road import CRITERIA, GRAPHS, LISTS, PAGES, SUMMARIES, VIEWS
+from session import Session, waitFor
+from window import Window
+
+TOP = HERE.parents[1]
+SCREENS = {"1366x768": {}, "1920x1080": {}, "3840x2160": {"QT_FONT_DPI": "192"}}
+
+
+def start(session, program, byKey):
+    """Goes past the splash by a key or a click, to the main window."""
+    session.start(program)
+    window = Window(session)
+    splash = window.find("label", "Brenica Software")
+    session.picture("splash")
+    if byKey:
+        session.keys("space")
+    else:
+        session.click(splash.accessible.box.middle)
+    waitFor(lambda: window.isSelected(PAGES[0]), "the main window")
+    return window
+
+
+def openByKeys(window, path):
+    window.session.keys("ctrl+o")
+    window.chooseFile(path)
+    waitFor(lambda: window.title == f"Brenica - {path}", "the project's path in the title")
+
+
+def walkPages(window):
+    """Every page, list, criterion, table, graph and view, with a picture each."""
+    session = window.session
+
+    def look(kind, captions, turn):
+        for caption in captions:
+            turn(caption)
+            session.picture(f"{kind}_{caption.lower().replace(' ', '_')}")
+
+    session.picture("candidate_species")
+    window.page(PAGES[1])
+    look("list", LISTS, lambda caption: window.option(caption).tick())
+    window.page(PAGES[2])
+    look("criteria", CRITERIA, window.page)
+    window.page(PAGES[3])
+    look("summary", SUMMARIES, window.page)
+    window.page(PAGES[4])
+    look("graph", GRAPHS, window.page)
+    window.page(PAGES[5])
+    session.picture("scores")
+    window.check("Display results graphically").tick()
+    session.picture("scores_chart")
+    window.page(PAGES[6])
+    session.picture("complementarity")
+    window.button("Select Brenic Species").click()
+    export = window.button("Export the results")
+    number = 0
+    while title := waitFor(lambda: window.openBox() or export.enabled and "done", "a box or the results"):
+        if title == "done":
+            break
+        number += 1
+        session.picture(f"box_{number}")
+        window.box(title).end("Return")
+    look("results", VIEWS, lambda caption: window.option(caption).tick())
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__)
+    parser.add_argument("--program", type=Path, default=TOP / "build/release/src/desktop/brenica")
+    parser.add_argument("--project", type=Path, default=TOP / "examples/full_landscape.brn")
+    parser.add_argument("--screen", choices=SCREENS, action="append", help="default: all")
+    parser.add_argument("--output", type=Path, default=TOP / "build/journey")
+    options = parser.parse_args()
+    for screen in options.screen or SCREENS:
+        size = tuple(int(part) for part in screen.split("x"))
+        with Session(size, options.output / screen, **SCREENS[screen]) as session:
+            window = start(session, options.program, byKey=True)
+            openByKeys(window, options.project)
+            walkPages(window)
+
+
+if __name__ == "__main__":
+    sys.exit(main())

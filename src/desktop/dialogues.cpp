@@ -19,7 +19,8 @@ namespace desktop {
 
 namespace {
 
-constexpr int WidestLine = 80;  // average characters, beyond which a line is hard to read
+constexpr int WidestLine = 80;         // average characters, beyond which a line is hard to read
+constexpr int TitleButtonsWidth = 16;  // average characters that a title bar has beside its text
 // Flags of a file dialogue.
 constexpr int AskBeforeOverwriting = 2;
 
@@ -70,7 +71,9 @@ QWidget* Box::makeText(const QString& text) {
     label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     const int widest = fontMetrics().averageCharWidth() * WidestLine;
     const QRect place = fontMetrics().boundingRect(QRect(0, 0, widest, 1 << 20), Qt::TextWordWrap, text);
-    const int width = place.width() + fontMetrics().averageCharWidth();
+    const int titleWidth = fontMetrics().horizontalAdvance(windowTitle()) +
+                           fontMetrics().averageCharWidth() * TitleButtonsWidth;
+    const int width = std::max(place.width() + fontMetrics().averageCharWidth(), titleWidth);
     label->setMinimumSize(width, label->heightForWidth(width));
     if (label->minimumHeight() <= mostTextHeight(*this)) return label;
     auto* scrolled = new QScrollArea(this);

@@ -76,7 +76,7 @@ void FormView::startTimers() {
     }
 }
 
-/// The keys that turn pages everywhere: of the outermost strip of tabs, and of the innermost around the focus.
+/// The keys that turn pages wherever the focus is: those of the outermost strip on view, and of the innermost.
 void FormView::addPageKeys() {
     const auto add = [this](const QKeySequence& keys, bool innermost, int by) {
         connect(new QShortcut(keys, this), &QShortcut::activated, this,
@@ -89,15 +89,13 @@ void FormView::addPageKeys() {
 }
 
 void FormView::turnPage(bool innermost, int by) {
-    TabStripView* strip = nullptr;
-    for (QWidget* widget = focusWidget(); widget != nullptr; widget = widget->parentWidget()) {
-        auto* around = dynamic_cast<TabStripView*>(widget);
-        if (around == nullptr) continue;
-        strip = around;
-        if (innermost) break;
+    QList<TabStripView*> shown;  // a strip comes before those that stand in it
+    for (const ui::Control* control : form_.Controls()) {
+        if (control->Kind() != ui::ControlKind::TabStrip) continue;
+        auto* strip = static_cast<TabStripView*>(&views_.at(control)->widget());
+        if (strip->isVisible()) shown.append(strip);
     }
-    if (strip == nullptr) strip = contents_->findChild<TabStripView*>();
-    if (strip != nullptr) strip->step(by);
+    if (!shown.isEmpty()) (innermost ? shown.last() : shown.first())->step(by);
 }
 
 View* FormView::viewOf(const ui::Control& control) const {

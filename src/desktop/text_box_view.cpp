@@ -15,8 +15,9 @@ namespace desktop {
 
 namespace {
 
-constexpr int LineEditMargin =
-    2;  // what Qt leaves beside the text, which the design's boxes have no room for
+// Qt leaves two pixels beside the text, which the design's boxes have no room for; the caret keeps one of them.
+constexpr int LeftMargin = -2;
+constexpr int RightMargin = -1;
 
 /// A place in UTF-16 as one in characters, and back.
 int charactersBefore(const QString& text, int place) {

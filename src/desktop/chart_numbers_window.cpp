@@ -19,7 +19,8 @@ namespace desktop {
 namespace {
 
 constexpr int RowsMeasured = 200;  // for the widths of the columns
-constexpr int WidestWindow = 100;  // average characters
+constexpr int CellPadding = 6;     // pixels above and below a line
+constexpr int WidestWindow = 130;  // average characters
 constexpr int TallestWindow = 30;  // lines
 
 QString orElse(const std::string& text, const char* otherwise) {
@@ -74,6 +75,8 @@ ChartNumbersTable::ChartNumbersTable(ChartNumbersModel* model, QWidget* parent) 
     setSelectionMode(ContiguousSelection);
     setTabKeyNavigation(false);
     setWordWrap(false);
+    verticalHeader()->setMinimumSectionSize(1);
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + CellPadding);
     horizontalHeader()->setResizeContentsPrecision(RowsMeasured);
     resizeColumnsToContents();
     if (model->rowCount() > 0) setCurrentIndex(model->index(0, 0));

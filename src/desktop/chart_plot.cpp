@@ -52,6 +52,7 @@ ChartPlot::ChartPlot(const ui::Chart& chart, const Scale& scale, QWidget* parent
     mReplotting = true;
     setBackground(QBrush(Qt::white));
     setPlottingHint(QCP::phCacheLabels, false);
+    for (int i = 0; i < layerCount(); ++i) layer(i)->setMode(QCPLayer::lmLogical);  // which share one buffer
     plotLayout()->insertRow(TitleRow);
     plotLayout()->addElement(TitleRow, 0, title_);
     setUpAxes();
@@ -279,6 +280,13 @@ void ChartPlot::paintEvent(QPaintEvent* /*event*/) {
     if (!painter.isActive()) return;
     paintBuffers(painter);
     if (hasFocus()) paintFocus(painter);
+}
+
+/// The buffers of many hidden charts on a large screen would take hundreds of megabytes.
+void ChartPlot::hideEvent(QHideEvent* event) {
+    QCustomPlot::hideEvent(event);
+    mPaintBuffers.clear();
+    outdatePlot();
 }
 
 void ChartPlot::resizeEvent(QResizeEvent* /*event*/) { outdatePlot(); }

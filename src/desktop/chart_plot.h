@@ -41,6 +41,7 @@ protected:
     void outdatePlot();
     virtual void dataRead() {}
     void paintEvent(QPaintEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
     void updateLayout() override;

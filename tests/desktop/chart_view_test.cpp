@@ -21,6 +21,8 @@ const QColor FillColour(80, 20, 120);
 class DenseView : public desktop::ChartView {
 public:
     using ChartView::ChartView;
+    int buffers() const { return static_cast<int>(mPaintBuffers.size()); }
+
     int Ratio = 1;
 
 protected:
@@ -305,6 +307,17 @@ private slots:
         shown.view.follow();
         QTest::qWait(30);
         QCOMPARE(replots.count(), 0);
+    }
+
+    void aHiddenChartKeepsNoPixels() {
+        Shown shown;
+        shown.chart.ChartData(habitats(6));
+        shown.show();
+        QCOMPARE(shown.view.buffers(), 1);
+        const QImage before = asPixels(shown.view.picture());
+        shown.view.hide();
+        QCOMPARE(shown.view.buffers(), 0);
+        QVERIFY(asPixels(shown.view.picture()) == before);
     }
 
     void manyChangesReplotOnce() {

@@ -11,11 +11,19 @@ std::vector<MakeTests>& registry() {
 
 }  // namespace desktop_test
 
-/// Runs every class of tests, with the arguments of Qt Test; fails when one of them fails.
+/// Runs every class of tests, or the one that the first argument names, with the arguments of Qt Test; fails when one
+/// of them fails.
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
+    QStringList arguments(argv, argv + argc);
+    QString wanted;
+    if (argc > 1 && argv[1][0] >= 'A' && argv[1][0] <= 'Z') wanted = arguments.takeAt(1);
     int failed = 0;
-    for (const auto& make : desktop_test::registry()) failed += QTest::qExec(make().get(), argc, argv);
+    for (const auto& make : desktop_test::registry()) {
+        const std::unique_ptr<QObject> tests = make();
+        if (wanted.isEmpty() || wanted == tests->metaObject()->className())
+            failed += QTest::qExec(tests.get(), arguments);
+    }
     return failed == 0 ? 0 : 1;
 }

@@ -1,17 +1,21 @@
 // SPDX-FileCopyrightText: 2026 The Brenica developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <functional>
-#include <set>
 #include <string>
 #include <vector>
 
 #include "entry/entry_fixture.h"
 #include "entry/form_layout.h"
+#include "support/form_views.h"
 #include "support/text_widths.h"
 #include "ui/combo_box.h"
 
 namespace {
 
+using form_views::describe;
+using form_views::longestText;
+using form_views::onEveryView;
+using form_views::overlap;
+using form_views::shownControls;
 using ui::ControlKind;
 using ui::WindowState;
 
@@ -42,16 +46,6 @@ std::string nameOf(const WindowSize& size) {
 
 void PrintTo(const WindowSize& size, std::ostream* out) { *out << nameOf(size); }
 
-std::string describe(const ui::Control& control) {
-    return control.Name() + " at " + std::to_string(control.Left()) + "," + std::to_string(control.Top()) +
-           " " + std::to_string(control.Width()) + "x" + std::to_string(control.Height());
-}
-
-bool overlap(const ui::Control& a, const ui::Control& b) {
-    return a.Left() < b.Left() + b.Width() && b.Left() < a.Left() + a.Width() &&
-           a.Top() < b.Top() + b.Height() && b.Top() < a.Top() + a.Height();
-}
-
 class FormLayoutTest : public EntryTest {
 protected:
     FormLayoutTest() { platform.TextWidth = liberation_sans::textWidth; }
@@ -60,19 +54,6 @@ protected:
     void maximise() { resize(WindowState::Maximized, 28800, 16200); }
 
     int textWidth(const std::string& text) const { return liberation_sans::textWidth(text, {}); }
-
-    /// On view with all that it stands in.
-    static bool onView(const ui::Control& control) {
-        if (control.Kind() == ControlKind::Form) return true;
-        return control.Visible() && onView(control.Container());
-    }
-    std::vector<ui::Control*> shownControls() {
-        std::vector<ui::Control*> shown;
-        for (ui::Control* control : form.Controls()) {
-            if (control->Kind() != ControlKind::MenuItem && onView(*control)) shown.push_back(control);
-        }
-        return shown;
-    }
 
     void expectInsideContainer(const ui::Control& control) {
         const ui::Control& container = control.Container();
@@ -115,17 +96,9 @@ protected:
         }
     }
 
-    /// The longest text that a box admits.
-    std::string longestText(const ui::TextBox& box) {
-        if (&box == &form.txtContinuousHR) return "10000000";
-        const std::set<const ui::TextBox*> proportions = {
-            &form.txtPropOccupied, &form.txtCCS, &form.txtCCSRep, &form.txtThreatRep, &form.txtErrorMargin};
-        return proportions.count(&box) != 0 ? "0.999999" : "1000";
-    }
-
     void expectTextsFit(const ui::Control& control) {
         if (const auto* box = dynamic_cast<const ui::TextBox*>(&control)) {
-            EXPECT_LE(textWidth(longestText(*box)) + leastPadding(box->Kind()), box->Width())
+            EXPECT_LE(textWidth(longestText(form, *box)) + leastPadding(box->Kind()), box->Width())
                 << describe(*box);
         }
         if (const auto* box = dynamic_cast<const ui::ComboBox*>(&control)) {
@@ -145,7 +118,7 @@ protected:
 
     void expectGoodView(const std::string& what) {
         SCOPED_TRACE(what);
-        const std::vector<ui::Control*> shown = shownControls();
+        const std::vector<ui::Control*> shown = shownControls(form);
         for (std::size_t i = 0; i < shown.size(); ++i) {
             ui::Control& control = *shown[i];
             expectInsideContainer(control);
@@ -161,50 +134,8 @@ protected:
         }
     }
 
-    /// Calls `check` with each view of the form: every page, tab, list, display and result.
-    void onEveryView(const std::function<void(const std::string&)>& check) {
-        goTo(1);
-        check("species");
-        goTo(2);
-        for (int i = 0; i < form.optLandChar.Count(); ++i) {
-            form.optLandChar(i).UserClick();
-            check("list " + std::to_string(i));
-        }
-        goTo(3);
-        for (int tab = 1; tab <= 5; ++tab) {
-            form.tabCriteria.UserSelectTab(tab);
-            check("criterion " + std::to_string(tab));
-        }
-        goTo(4);
-        for (int tab = 1; tab <= 9; ++tab) {
-            form.tabCriteriaSummary.UserSelectTab(tab);
-            check("summary " + std::to_string(tab));
-        }
-        goTo(5);
-        for (int tab = 1; tab <= 8; ++tab) {
-            form.tabGraphSummary.UserSelectTab(tab);
-            check("graph " + std::to_string(tab));
-        }
-        goTo(6);
-        for (const int display : {0, 1}) {
-            form.optScoreDisplay(display).UserClick();
-            check("scores " + std::to_string(display));
-            form.chkShowGraphs.UserClick();
-            check("score chart " + std::to_string(display));
-            form.chkShowAggregateScore.UserClick();
-            check("score chart without aggregate " + std::to_string(display));
-            form.chkShowAggregateScore.UserClick();
-            form.chkShowGraphs.UserClick();
-        }
-        goTo(7);
-        for (int i = 0; i < form.optCompResults.Count(); ++i) {
-            form.optCompResults(i).UserClick();
-            check("results " + std::to_string(i));
-        }
-    }
-
     void expectGoodViews() {
-        onEveryView([this](const std::string& view) {
+        onEveryView(form, [this](const std::string& view) {
             EXPECT_TRUE(platform.Transcript.empty() ||
                         platform.Transcript.back().BoxKind != ShownBox::Kind::Message)
                 << view << ": " << lastBox().Text;

@@ -1,0 +1,276 @@
+// SPDX-FileCopyrightText: 2026 The Brenica developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/desktop.h"
+
+#include <QAction>
+#include <QLineEdit>
+#include <QTimer>
+
+#include "desktop/desktop_test.h"
+#include "ui/errors.h"
+
+namespace {
+
+constexpr int Patience = 20000;  // milliseconds until a loop that should have ended is ended
+
+/// The texts of the boxes that a loop has shown, each answered by Enter.
+class Boxes : public QObject {
+public:
+    Boxes() {
+        connect(&look_, &QTimer::timeout, this, [this] { answer(); });
+        look_.start(5);
+    }
+
+    QStringList Texts;
+
+private:
+    void answer() {
+        QWidget* box = QApplication::activeModalWidget();
+        if (box == nullptr) return;
+        Texts << box->accessibleDescription();
+        QTest::keyClick(box, Qt::Key_Return);
+    }
+
+    QTimer look_;
+};
+
+/// Runs the event loop until the program ends it, and returns its exit code; -1 where it does not.
+int exitCodeAfter(const std::function<void()>& action) {
+    QTimer::singleShot(0, qApp, action);
+    QTimer watch;
+    watch.setSingleShot(true);
+    QObject::connect(&watch, &QTimer::timeout, qApp, [] { QApplication::exit(-1); });
+    watch.start(Patience);
+    return QApplication::exec();
+}
+
+/// The program, started.
+struct Running {
+    desktop::Desktop desktop;
+
+    Running() { desktop.start(); }
+
+    static QList<QWidget*> windows(const char* name) {
+        QList<QWidget*> found;
+        for (QWidget* window : QApplication::topLevelWidgets()) {
+            if (window->objectName() == name) found.append(window);
+        }
+        return found;
+    }
+    QWidget& splash() { return *windows("frmSplash").first(); }
+    QWidget& splashChild(const char* name) { return *splash().findChild<QWidget*>(name); }
+    frmBrenica& form() { return *desktop.program().MainForm(); }
+    desktop::FormView& window() { return *desktop.mainWindow(); }
+
+    void openMain() {
+        desktop.run([this] { desktop.program().Splash()->UserClick(); });
+    }
+};
+
+/// The program in its main window.
+struct InMainWindow : Running {
+    InMainWindow() { openMain(); }
+};
+
+}  // namespace
+
+class DesktopTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void startsWithTheSplashAlone() {
+        Running program;
+        QVERIFY(program.splash().isVisible());
+        QVERIFY(program.splash().windowFlags().testFlag(Qt::FramelessWindowHint));
+        QVERIFY(program.desktop.mainWindow() == nullptr);
+    }
+
+    void theSplashIsGoneWhenItsTimeIsUp() {
+        Running program;
+        QCOMPARE(program.desktop.program().Splash()->SplashTimer.Interval, 5000);
+        program.desktop.run([&] { program.desktop.program().Splash()->SplashTimer.Elapse(); });
+        QVERIFY(!program.splash().isVisible());
+        QVERIFY(program.window().isVisible());
+    }
+
+    void aClickAnywhereOnTheSplashOpensTheMainWindow_data() {
+        QTest::addColumn<QByteArray>("name");
+        for (const char* name : {"imgSplash", "picHalvornLogo", "lblBrenicaSoftware", "lblVersion"})
+            QTest::newRow(name) << QByteArray(name);
+    }
+
+    void aClickAnywhereOnTheSplashOpensTheMainWindow() {
+        QFETCH(QByteArray, name);
+        Running program;
+        QTest::mouseClick(&program.splashChild(name.constData()), Qt::LeftButton);
+        QVERIFY(program.desktop.mainWindow() != nullptr);
+        QVERIFY(program.window().isVisible());
+        QVERIFY(!program.splash().isVisible());
+    }
+
+    void aKeyOpensTheMainWindow() {
+        Running program;
+        QTest::keyClick(&program.splash(), Qt::Key_A);
+        QVERIFY(program.desktop.mainWindow() != nullptr);
+        QVERIFY(program.window().isVisible());
+    }
+
+    void aSecondClickMakesNoSecondWindow() {
+        Running program;
+        QTest::mouseClick(&program.splashChild("lblVersion"), Qt::LeftButton);
+        const desktop::FormView* first = program.desktop.mainWindow();
+        QTest::mouseClick(&program.splashChild("lblVersion"), Qt::LeftButton);
+        QTest::keyClick(&program.splash(), Qt::Key_A);
+        QCOMPARE(program.desktop.mainWindow(), first);
+        QCOMPARE(Running::windows("frmBrenica").size(), 1);
+    }
+
+    void closingTheSplashEndsTheProgram() {
+        Running program;
+        QCOMPARE(exitCodeAfter([&] { program.splash().close(); }), 0);
+        QVERIFY(program.desktop.mainWindow() == nullptr);
+    }
+
+    void theMainWindowOpensMaximised() {
+        InMainWindow program;
+        QVERIFY(program.window().isMaximized());
+        QCOMPARE(program.form().WindowState(), ui::WindowState::Maximized);
+        const QSize shown = program.window().size();
+        QVERIFY(program.desktop.scale().pixels(program.form().tabBrenica.Width()) <= shown.width());
+        QVERIFY(program.desktop.scale().pixels(program.form().tabBrenica.Width()) >= shown.width() - 2);
+    }
+
+    void aRestoredWindowGoesToItsPlaceInItsLeastSizeOrMore() {
+        InMainWindow program;
+        const desktop::Scale& scale = program.desktop.scale();
+        program.window().showNormal();
+        program.window().setGeometry(3, 4, 200, 100);
+        const auto restored = [&] { return program.form().WindowState() == ui::WindowState::Normal; };
+        QTRY_VERIFY(restored() && program.form().Width() == 11000);
+        QCOMPARE(program.form().Height(), 7000);
+        QCOMPARE(program.form().Left(), 500);
+        QCOMPARE(program.form().Top(), 500);
+        QCOMPARE(program.window().frameGeometry().topLeft(), QPoint(scale.pixels(500), scale.pixels(500)));
+        const int width = scale.pixels(11000 - ui::FormWindow::BorderWidth);
+        QCOMPARE(program.window().width(), width);
+        program.window().resize(width + 300, program.window().height());
+        QTRY_VERIFY(program.form().Width() > 11000);
+        QCOMPARE(program.window().width(), width + 300);
+    }
+
+    void minimisingChangesNothing() {
+        InMainWindow program;
+        const int width = program.form().tabBrenica.Width();
+        program.window().showMinimized();
+        QTRY_COMPARE(program.form().WindowState(), ui::WindowState::Minimized);
+        QCOMPARE(program.form().tabBrenica.Width(), width);
+        program.window().showMaximized();
+        QTRY_COMPARE(program.form().WindowState(), ui::WindowState::Maximized);
+        QCOMPARE(program.form().tabBrenica.Width(), width);
+    }
+
+    void theCloseBoxEndsTheProgramAndAsksNothing() {
+        InMainWindow program;
+        program.form().ProjectChanged = true;
+        const Boxes boxes;
+        QCOMPARE(exitCodeAfter([&] { program.window().close(); }), 0);
+        QCOMPARE(boxes.Texts, QStringList());
+        QVERIFY(!program.window().isVisible());
+    }
+
+    void aFailureInAUserActionIsShownInOneBoxAndEndsTheProgram() {
+        InMainWindow program;
+        const Boxes boxes;
+        int later = 0;
+        program.form().mnuSaveGraph.Click = [] { ui::raise(ui::ErrorNumber::DiskFull); };
+        const int code = exitCodeAfter([&] {
+            program.window().findChild<QAction*>("mnuSaveGraph")->trigger();
+            program.window().findChild<QAction*>("mnuSaveGraph")->trigger();
+            program.desktop.run([&] { ++later; });
+        });
+        QVERIFY(code > 0);
+        QCOMPARE(boxes.Texts, QStringList("Disk full"));
+        QCOMPARE(later, 0);
+        QVERIFY(!program.window().isVisible());
+    }
+
+    void exhaustedMemoryIsAFailureToo() {
+        InMainWindow program;
+        const Boxes boxes;
+        QVERIFY(exitCodeAfter([&] { program.desktop.run([] { throw std::bad_alloc(); }); }) > 0);
+        QCOMPARE(boxes.Texts, QStringList("Out of memory"));
+    }
+
+    void actionsWhileTheFailureIsShownDoNothing() {
+        InMainWindow program;
+        int actions = 0;
+        int before = 0;
+        QTimer intruder;
+        intruder.callOnTimeout([&] { program.desktop.run([&] { ++actions; }); });
+        intruder.start(1);
+        const Boxes boxes;
+        const int code = exitCodeAfter([&] {
+            program.desktop.run([&] {
+                before = actions;
+                ui::raise(ui::ErrorNumber::Overflow);
+            });
+        });
+        QVERIFY(code > 0);
+        QTest::qWait(20);
+        QCOMPARE(actions, before);
+        QCOMPARE(boxes.Texts, QStringList("Overflow"));
+    }
+
+    void aFailureTakesTheWaitPointerAway() {
+        InMainWindow program;
+        const Boxes boxes;
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+        QVERIFY(exitCodeAfter([&] {
+                    program.desktop.run([] { ui::raise(ui::ErrorNumber::Overflow); });
+                }) > 0);
+        QVERIFY(QApplication::overrideCursor() == nullptr);
+    }
+
+    void boxesBelongToTheWindowOnView() {
+        Running program;
+        QCOMPARE(program.desktop.ownerOfBoxes(), &program.splash());
+        program.openMain();
+        QCOMPARE(program.desktop.ownerOfBoxes(), &program.window());
+    }
+
+    void theWindowShowsHowFarTheFormHasComeBeforeABoxIsUp() {
+        InMainWindow program;
+        QString caption;
+        QTimer::singleShot(0, qApp, [&] {
+            caption = program.window().windowTitle();
+            QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return);
+        });
+        program.desktop.run([&] {
+            program.form().Caption("half way");
+            program.form().GetPlatform().showMessage("text", "title", ui::MessageIcon::None);
+        });
+        QCOMPARE(caption, QString("half way"));
+    }
+
+    void theExitCommandEndsTheProgram() {
+        InMainWindow program;
+        program.form().ProjectChanged = false;
+        const auto quit = [&] {
+            QTest::keyClick(&program.window(), Qt::Key_Q, Qt::ControlModifier);
+        };
+        QCOMPARE(exitCodeAfter(quit), 0);
+        QVERIFY(program.form().Unloaded());
+    }
+
+    void twoProgramsLiveSideBySide() {
+        InMainWindow one;
+        InMainWindow other;
+        one.desktop.run([&] { one.form().txtTotalSpecies.Text("7"); });
+        QCOMPARE(one.window().findChild<QLineEdit*>("txtTotalSpecies")->text(), QString("7"));
+        QCOMPARE(other.window().findChild<QLineEdit*>("txtTotalSpecies")->text(), QString("0"));
+    }
+};
+
+static const desktop_test::Registered<DesktopTest> registered;
+
+#include "desktop_test.moc"

@@ -115,8 +115,11 @@ void GridPainter::paintText(QPainter& painter, CellAddress cell, const QRect& pl
     const int room = roomFor(cell, place);
     if (room <= 0) return;
     const ShapedText& text = shaped(cellText(grid_, cell), room, bold);
-    const bool centred = grid_.AlignmentOf(cell.Row, cell.Col) == ui::CellAlign::CentreCentre;
-    const double indent = centred ? std::max(0.0, std::floor((room - text.Width) / 2)) : 0;
+    const double free = std::max(0.0, room - text.Width);
+    const ui::CellAlign alignment = grid_.AlignmentOf(cell.Row, cell.Col);
+    const double indent = alignment == ui::CellAlign::CentreCentre  ? std::floor(free / 2)
+                          : alignment == ui::CellAlign::RightCentre ? std::floor(free)
+                                                                    : 0;
     const int height = static_cast<int>(std::ceil(text.Text.size().height()));
     painter.setFont(font(bold));
     painter.drawStaticText(

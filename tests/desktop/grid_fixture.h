@@ -74,12 +74,13 @@ struct GridWindow : Window {
         QTest::mouseRelease(view.viewport(), Qt::LeftButton, Qt::NoModifier, place);
     }
     void doubleClick(int row, int col) { doubleClick(middle(row, col)); }
-    void drag(QPoint place) {
-        QMouseEvent event(QEvent::MouseMove, place, view.viewport()->mapToGlobal(place), Qt::NoButton,
-                          Qt::LeftButton, Qt::NoModifier);
+    void movePointer(QPoint place, Qt::MouseButton pressed) {
+        QMouseEvent event(QEvent::MouseMove, place, view.viewport()->mapToGlobal(place), Qt::NoButton, pressed,
+                          Qt::NoModifier);
         QApplication::sendEvent(view.viewport(), &event);
     }
-    void hover(QPoint place) { QTest::mouseMove(view.viewport(), place); }
+    void drag(QPoint place) { movePointer(place, Qt::LeftButton); }
+    void hover(QPoint place) { movePointer(place, Qt::NoButton); }
 
     desktop::CellEditor& editor() { return *view.findChild<desktop::CellEditor*>(); }
     desktop::CellList& list() { return *view.findChild<desktop::CellList*>(); }

@@ -19,9 +19,8 @@ private slots:
         QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
         QTest::addColumn<int>("row");
         QTest::addColumn<int>("col");
-        const auto row = [](const char* name, int key, Qt::KeyboardModifiers modifiers, int toRow, int toCol) {
-            QTest::newRow(name) << key << modifiers << toRow << toCol;
-        };
+        const auto row = [](const char* name, int key, Qt::KeyboardModifiers modifiers, int toRow,
+                            int toCol) { QTest::newRow(name) << key << modifiers << toRow << toCol; };
         row("up", Qt::Key_Up, Qt::NoModifier, 2, 2);
         row("down", Qt::Key_Down, Qt::NoModifier, 4, 2);
         row("left", Qt::Key_Left, Qt::NoModifier, 3, 1);

@@ -86,13 +86,13 @@ class Road:
         same(grid.column(3), ["2"] * len(HABITATS), "levels of use")
         for row, (_, _, level) in enumerate(HABITATS, 1):
             if level != "2":
-                grid.chooseInCell(row, 3, level)
+                grid.chooseInCell(row, 3, "0123", level)
 
     def fillZones(self):
         """A block of names and areas, as it comes from a spreadsheet."""
         grid = self.addRows(len(ZONES), "Management zones", "management zones", "Update mng. zone list")
         grid.paste(1, 1, [(name, area) if area else (name,) for name, area, _ in ZONES])
-        same(grid.copy((1, 1), (2, 2)), [list(zone[:2]) for zone in ZONES[:2]], "copied cells")
+        same(grid.copy((2, 2), (1, 1)), [list(zone[:2]) for zone in ZONES[:2]], "copied cells")
 
     def fillActivities(self):
         grid = self.addRows(len(ACTIVITIES), "Human activities", "human activities", "Update human act. list")
@@ -147,7 +147,7 @@ class Road:
         zones = self.window.grid("Level of use of management zones")
         if place == 0:
             for row, level in enumerate(species.habitats, 1):
-                habitats.chooseInCell(row, 1, level)
+                habitats.chooseInCell(row, 1, "0123", level)
         else:
             habitats.enterDown(1, species.habitats)
         if place == 1:
@@ -202,7 +202,7 @@ class Road:
         grid = self.window.grid("Functionality")
         same(grid.at(place + 1, function + 1), wrong, "the grade entered")
         self.window.check("Allow summary table editing").tick()
-        grid.chooseInCell(place + 1, function + 1, right)
+        grid.chooseInCellByKeys(place + 1, function + 1, "0123", right)
         self.picture("summary_editing")
         self.window.check("Allow summary table editing").untick()
         self.window.page(PAGES[2])
@@ -298,6 +298,7 @@ class Road:
         same(box.shown, "Would you like to save the current project before starting a new project?", "question")
         self.picture("question_save")
         box.press("No")
+        self.window.box("Delete home range data").press("Yes")  # bins are given up before the species
         waitFor(lambda: self.window.title == "Brenica", "the title without a project")
         same(self.window.grid("Candidate species").rows, 1, "rows of the species list")
 

@@ -15,6 +15,7 @@ from accessible import Bus, Gone
 PATIENCE = float(os.environ.get("BRENICA_JOURNEY_PATIENCE", 30))  # seconds until a condition that does not come true is a failure
 PAUSE = 0.02  # seconds between two looks
 KEY_DELAY = 4  # milliseconds between two typed characters
+DOUBLE_CLICK = 0.45, 8  # seconds and pixels within which a second click makes a double click
 TOOLS = ("Xvfb", "dbus-daemon", "openbox", "xdotool", "xclip", "import")
 
 
@@ -63,6 +64,8 @@ class Session:
         self.bus = None
         self.program = None
         self.pictureCount = 0
+        self.lastPoint, self.lastClick = (0, 0), 0
+        self.scale = 1  # pixels of the screen for one of the program's
 
     def _environment(self, more):
         kept = {name: os.environ[name] for name in ("PATH", "LD_LIBRARY_PATH") if name in os.environ}
@@ -161,18 +164,34 @@ class Session:
             raise Failure(f"{' '.join(command)}: {done.stderr.decode(errors='replace')}")
         return done
 
+    def _keepApart(self, point):
+        """Waits until a press at this point is no second half of a double click."""
+        interval, distance = DOUBLE_CLICK
+        near = all(abs(one - other) < distance for one, other in zip(point, self.lastPoint))
+        rest = self.lastClick + interval - time.monotonic()
+        if near and rest > 0:
+            time.sleep(rest)
+
+    def _keepInMind(self, point):
+        self.lastPoint, self.lastClick = point, time.monotonic()
+
+    def _onScreen(self, point):
+        return [str(round(part * self.scale)) for part in point]
+
     def click(self, point, times=1, button=1):
-        x, y = (str(part) for part in point)
+        self._keepApart(point)
         repeat = ["--repeat", str(times), "--delay", "40"] if times > 1 else []
-        self._run("xdotool", "mousemove", x, y, "click", *repeat, str(button))
+        self._run("xdotool", "mousemove", *self._onScreen(point), "click", *repeat, str(button))
+        self._keepInMind(point)
 
     def move(self, point):
-        self._run("xdotool", "mousemove", *(str(part) for part in point))
+        self._run("xdotool", "mousemove", *self._onScreen(point))
 
     def drag(self, start, end):
-        (x, y), (toX, toY) = start, end
-        self._run("xdotool", "mousemove", str(x), str(y), "mousedown", "1", "mousemove", str((x + toX) // 2),
-                  str((y + toY) // 2), "mousemove", str(toX), str(toY), "mouseup", "1")
+        self._keepApart(start)
+        halfway = [(one + other) / 2 for one, other in zip(start, end)]
+        self._run("xdotool", "mousemove", *self._onScreen(start), "mousedown", "1",
+                  "mousemove", *self._onScreen(halfway), "mousemove", *self._onScreen(end), "mouseup", "1")
 
     def type(self, text):
         if text:
@@ -194,6 +213,11 @@ class Session:
 
     def clipboardTypes(self):
         done = self._run("xclip", "-selection", "clipboard", "-o", "-t", "TARGETS", check=False)
+        return done.stdout.decode().split()
+
+    def windows(self):
+        """The program's windows on view, those of open lists among them."""
+        done = self._run("xdotool", "search", "--onlyvisible", "--pid", str(self.program.pid), "", check=False)
         return done.stdout.decode().split()
 
     def picture(self, name):

@@ -30,6 +30,7 @@ def start(session, program, byKey):
     else:
         session.click(splash.accessible.box.middle)
     waitFor(lambda: window.isSelected(PAGES[0]), "the main window")
+    window.waitUntilAtRest()
     return window
 
 
@@ -63,8 +64,8 @@ def walkPages(window):
     session.picture("scores_chart")
     window.page(PAGES[6])
     session.picture("complementarity")
-    window.button("Select Brenic Species").click()
     export = window.button("Export the results")
+    window.button("Select Brenic Species").click()
     number = 0
     while title := waitFor(lambda: window.openBox() or export.enabled and "done", "a box or the results"):
         if title == "done":

@@ -68,20 +68,21 @@ class ComboBox(Control):
         self.click()
         return self.waitFor(lambda: self._items().get(item), f"the item {item!r} in its list")
 
-    def _waitUntilClosed(self):
+    def _waitFor(self, item):
         self.waitFor(lambda: not self._items(), "its list to close")
+        self.waitFor(lambda: self.accessible.name == item, lambda: f"{item!r}, not {self.accessible.name!r}")
 
     def choose(self, item):
         """Opens the list and clicks an item."""
         box = self._open(item).box
         self.session.click((box.x + min(box.width, 20) // 2, box.middle[1]))
-        self._waitUntilClosed()
+        self._waitFor(item)
 
     def chooseByKeys(self, item, steps):
         """Opens the list and goes down to an item from the first one."""
         self._open(item)
         self.session.keys("Home", *["Down"] * steps, "Return")
-        self._waitUntilClosed()
+        self._waitFor(item)
 
 
 class Grid(Control):
@@ -121,12 +122,24 @@ class Grid(Control):
         self.session.keys("Return")
         self.waitForCell(row, column, text)
 
-    def chooseInCell(self, row, column, item):
-        """Opens the list of a cell by its arrow and clicks an item."""
+    def chooseInCell(self, row, column, items, item):
+        """Opens the list of a cell by a double click and clicks an item, which stands below the cell."""
+        before = len(self.session.windows())
         box = self.cell(row, column).box
         self.session.click(box.middle, times=2)
-        self.session.click((box.x + box.width - box.height // 2, box.middle[1]))
-        self.window.find("list item", item, anywhere=True).click()
+        self.waitFor(lambda: len(self.session.windows()) > before, "the list of a cell")
+        x, y = box.middle
+        self.session.click((x, y + box.height * (items.index(item) + 1)))
+        self.waitForCell(row, column, item)
+        self.waitFor(lambda: len(self.session.windows()) == before, "the list of a cell to close")
+
+    def chooseInCellByKeys(self, row, column, items, item):
+        """Opens the list of a cell by F2 and goes down to an item."""
+        before = len(self.session.windows())
+        self.clickCell(row, column)
+        self.session.keys("F2")
+        self.waitFor(lambda: len(self.session.windows()) > before, "the list of a cell")
+        self.session.keys("Home", *["Down"] * items.index(item), "Return")
         self.waitForCell(row, column, item)
 
     def enterDown(self, column, texts, row=1):
@@ -254,7 +267,17 @@ class Window:
         return self.find("text", label)
 
     def combo(self, label):
-        return self.find("combo box", label)
+        """A combo box goes by its chosen item, so that it is found behind its label."""
+        def look():
+            seen = False
+            for root in self._roots(anywhere=False):
+                for item, role, _ in root.walk():
+                    seen = seen or role == "label" and item.name == label
+                    if seen and role == "combo box":
+                        return item
+            return None
+        what = f"combo box {label!r}"
+        return ComboBox(self, waitFor(look, f"the {what}"), what)
 
     def grid(self, name):
         return self.find("table", name)
@@ -264,6 +287,17 @@ class Window:
         """Of the main window, the last one that has come and is no box."""
         tops = [top for top in self._roots(anywhere=True) if top.role not in BOX_ROLES]
         return tops[-1].name if tops else None
+
+    def waitUntilAtRest(self):
+        """The window manager moves a new window about before it has the keys and stands still."""
+        looks = []
+
+        def look():
+            tops = self._roots(anywhere=True)
+            looks.append(tops[0].box if len(tops) == 1 and "active" in tops[0].states else None)
+            return looks[-1] and looks[-3:] == [looks[-1]] * 3
+        waitFor(look, "a window that is active and at rest")
+        self.session.scale = round(self.session.size[0] / looks[-1].width)
 
     # Doing.
 

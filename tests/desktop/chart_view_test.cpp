@@ -248,6 +248,8 @@ private slots:
             const QRect item = legend.item(i)->rect();
             QVERIFY(item.bottom() < shown.view.axisRect()->top());
             QVERIFY(shown.view.rect().contains(item));
+            const int text = QFontMetrics(legend.font()).horizontalAdvance(shown.bars(i).name());
+            QVERIFY(item.width() >= legend.iconSize().width() + legend.iconTextPadding() + text);
             QVERIFY(hasInk(picture, item.adjusted(legend.iconSize().width() + 2, 0, 0, 0)));
             for (int other = 0; other < i; ++other) QVERIFY(!legend.item(other)->rect().intersects(item));
         }

@@ -126,11 +126,14 @@ public:
     bool RowsOverflow() const;
     /// Width less border and, when the rows do not fit, less the scroll bar.
     int ClientWidth() const;
+    /// Height of row 0: with WordWrap as high as its texts need that are broken into lines, up to three.
+    int HeadingHeight() const;
 
     // The measures that ClientWidth and AutoSize count with, for a view to draw by. Twips.
     static constexpr int BorderWidth = 60;  ///< of both sides together
     static constexpr int ScrollBarWidth = 255;
     static constexpr int RowHeight = 240;
+    static constexpr int LineHeight = 160;   ///< of a further line in a heading
     static constexpr int CellPadding = 120;  ///< beside a text, on both sides together
 
     // Display settings.
@@ -259,6 +262,7 @@ private:
     bool stepTo(int row, int col);
     bool stepIntoBody();
     int measure(int col) const;
+    int headingLines(int col) const;
     void printRows(Files& files, int fileNumber) const;
     bool accept(TextEditor edited);
     void closeEditor();

@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "ui/text.h"
+
 namespace ui {
 
 namespace {
@@ -13,6 +15,7 @@ constexpr int DesignTimeRows = 1;
 constexpr int DesignTimeCols = 10;
 // More cells than any landscape has, and few enough that a slip of the finger does not exhaust the machine.
 constexpr long long MostCells = 1LL << 24;
+constexpr int MostHeadingLines = 3;
 const Font CellFont{};
 const Font BoldCellFont{.Bold = true};
 
@@ -203,7 +206,33 @@ int Grid::measure(int col) const {
 }
 
 bool Grid::RowsOverflow() const {
-    return static_cast<long long>(Rows()) * RowHeight > Height() - BorderWidth;
+    const long long further = static_cast<long long>(Rows()) - 1;
+    return further * RowHeight + HeadingHeight() > Height() - BorderWidth;
+}
+
+/// How many lines a heading takes: word by word, as many in a line as there is room for.
+int Grid::headingLines(int col) const {
+    const int room = ColWidth(col) - CellPadding;
+    const Font& font = IsBold(0, col) ? BoldCellFont : CellFont;
+    const std::string& text = TextMatrix(0, col);
+    if (text.empty() || platform().textWidth(text, font) <= room) return 1;
+    int lines = 0;
+    std::string line;
+    for (const std::string_view word : split(text, ' ')) {
+        const std::string longer = line.empty() ? std::string(word) : line + ' ' + std::string(word);
+        const bool fits = !line.empty() && platform().textWidth(longer, font) <= room;
+        if (!fits) ++lines;
+        line = fits ? longer : std::string(word);
+    }
+    return lines;
+}
+
+int Grid::HeadingHeight() const {
+    int lines = 1;
+    for (int col = 0; WordWrap && Rows() > 0 && fixedRows_ > 0 && col < Cols(); ++col) {
+        if (!ColHidden(col)) lines = std::max(lines, std::min(headingLines(col), MostHeadingLines));
+    }
+    return RowHeight + (lines - 1) * LineHeight;
 }
 
 int Grid::ClientWidth() const {

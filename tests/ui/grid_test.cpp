@@ -242,6 +242,36 @@ TEST_F(GridTest, LosesRoomToTheScrollBarWhenItsRowsDoNotFit) {
     EXPECT_EQ(grid.ClientWidth(), roomy);
 }
 
+TEST_F(GridTest, BreaksHeadingsIntoLinesWhereItWrapsWords) {
+    grid.TextMatrix(0, 1, "three short words");
+    const int whole = platform.textWidth("three short words", {}) + ui::Grid::CellPadding;
+    const int twoWords = platform.textWidth("three short", {}) + ui::Grid::CellPadding;
+    const auto heightAt = [this](int width) {
+        grid.ColWidth(1, width);
+        return grid.HeadingHeight();
+    };
+    EXPECT_EQ(heightAt(twoWords), ui::Grid::RowHeight);
+    grid.WordWrap = true;
+    EXPECT_EQ(heightAt(whole), ui::Grid::RowHeight);
+    EXPECT_EQ(heightAt(whole - 1), ui::Grid::RowHeight + ui::Grid::LineHeight);
+    EXPECT_EQ(heightAt(twoWords), ui::Grid::RowHeight + ui::Grid::LineHeight);
+    EXPECT_EQ(heightAt(twoWords / 2), ui::Grid::RowHeight + 2 * ui::Grid::LineHeight);
+    grid.TextMatrix(0, 1, "a heading of many more short words");
+    EXPECT_EQ(heightAt(100), ui::Grid::RowHeight + 2 * ui::Grid::LineHeight);
+    grid.ColHidden(1, true);
+    EXPECT_EQ(grid.HeadingHeight(), ui::Grid::RowHeight);
+}
+
+TEST_F(GridTest, ScrollsSoonerBelowAHighHeading) {
+    grid.WordWrap = true;
+    grid.Rows(10);
+    grid.Move(0, 0, 5000, 10 * ui::Grid::RowHeight + ui::Grid::BorderWidth);
+    EXPECT_FALSE(grid.RowsOverflow());
+    grid.TextMatrix(0, 1, "two words");
+    grid.ColWidth(1, 200);
+    EXPECT_TRUE(grid.RowsOverflow());
+}
+
 TEST_F(GridTest, SavesEveryRowAndColumnFixedAndHiddenOnesIncluded) {
     TemporaryFolder folder;
     ui::Files files;

@@ -71,8 +71,8 @@ QWidget* Box::makeText(const QString& text) {
     label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     const int widest = fontMetrics().averageCharWidth() * WidestLine;
     const QRect place = fontMetrics().boundingRect(QRect(0, 0, widest, 1 << 20), Qt::TextWordWrap, text);
-    const int titleWidth = fontMetrics().horizontalAdvance(windowTitle()) +
-                           fontMetrics().averageCharWidth() * TitleButtonsWidth;
+    const int titleWidth =
+        fontMetrics().horizontalAdvance(windowTitle()) + fontMetrics().averageCharWidth() * TitleButtonsWidth;
     const int width = std::max(place.width() + fontMetrics().averageCharWidth(), titleWidth);
     label->setMinimumSize(width, label->heightForWidth(width));
     if (label->minimumHeight() <= mostTextHeight(*this)) return label;

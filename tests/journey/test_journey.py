@@ -15,15 +15,16 @@ sys.path[:0] = [str(HERE), str(HERE.parent / "reference")]
 
 import landscape
 from brenica_reference import run as runModel
-from road import PAGES, Road
-from session import Session, missingTools, waitFor
-from tour import openByKeys, start, walkPages
-from window import Window
+from keyboard import KeyboardRoad
+from road import Road
+from session import Session, missingTools
+from tour import start
 
 TOP = HERE.parents[1]
 PROGRAM = Path(os.environ.get("BRENICA_PROGRAM", TOP / "build/release/src/desktop/brenica"))
 BATCH = Path(os.environ.get("BRENICA_BATCH", TOP / "build/release/src/batch/brenica-batch"))
 OUTPUT = Path(os.environ.get("BRENICA_JOURNEY_OUTPUT", TOP / "build/journey"))
+FULL_EXAMPLE = TOP / "examples/full_landscape.brn"
 LEVELS = {"error-margin": landscape.ERROR_MARGIN, "threat-representation": landscape.THREAT_REPRESENTATION,
           "conservation-status": landscape.CONSERVATION_STATUS}
 
@@ -41,15 +42,21 @@ def diagnosed(session, name):
         raise
 
 
-def batchResults(project, target):
-    """What brenica-batch makes of a project with the levels and answers of the journey."""
-    command = [str(BATCH), str(project), "--results", str(target)]
-    for level, value in LEVELS.items():
-        command += ["--" + level, value]
-    for answer in landscape.ANSWERS:
-        command += ["--answer", answer]
-    subprocess.run(command, check=True, capture_output=True, timeout=60)
+def batchResults(project, target, options):
+    """What brenica-batch makes of a project."""
+    subprocess.run([str(BATCH), *options, "--results", str(target), str(project)], check=True, capture_output=True,
+                   timeout=60)
     return target.read_bytes()
+
+
+def roadOptions():
+    options = [part for level, value in LEVELS.items() for part in ("--" + level, value)]
+    return options + [part for answer in landscape.ANSWERS for part in ("--answer", answer)]
+
+
+def exampleOptions():
+    """One option or value a line."""
+    return FULL_EXAMPLE.with_suffix(".options").read_text().split("\n")[:-1]
 
 
 class Journey(unittest.TestCase):
@@ -90,19 +97,25 @@ class Journey(unittest.TestCase):
 
             exported = first.read_bytes()
             self.assertEqual(exported.decode(), model.results.decode())
-            self.assertEqual(exported, batchResults(project, session.home / "batch.txt"))
+            self.assertEqual(exported, batchResults(project, session.home / "batch.txt", roadOptions()))
             self.assertEqual(second.read_bytes(), exported)
 
-    def test_walkByTheKeyboardAlone(self):
+    def test_fullExampleByTheKeyboardAlone(self):
         with Session(pictures=OUTPUT / "keyboard") as session, diagnosed(session, "keyboard"):
-            window = start(session, PROGRAM, byKey=True)
-            openByKeys(window, TOP / "examples/full_landscape.brn")
-            for page in PAGES[1:]:
-                session.keys("ctrl+Next")
-                waitFor(lambda: window.isSelected(page), f"the page {page!r}")
-            session.keys("alt+F4")
+            road = KeyboardRoad(start(session, PROGRAM, byKey=True))
+            results = session.home / "results.txt"
+            road.open(FULL_EXAMPLE)
+            road.walkLists()
+            road.walkCriteria()
+            road.editTable()
+            road.viewScores()
+            road.select()
+            road.export(results)
+            session.keys("alt+F4")  # the window's close box, which asks nothing
             self.assertEqual(session.waitForEnd(), 0)
             self.assertEqual(session.programOutput(), "")
+            self.assertEqual(results.read_bytes(), batchResults(FULL_EXAMPLE, session.home / "batch.txt",
+                                                                exampleOptions()))
 
 
 if __name__ == "__main__":

@@ -11,6 +11,7 @@ from pathlib import Path
 HERE = Path(__file__).resolve().parent
 sys.path[:0] = [str(HERE)]
 
+from keyboard import KeyboardRoad
 from road import CRITERIA, GRAPHS, LISTS, PAGES, SUMMARIES, VIEWS
 from session import Session, waitFor
 from window import Window
@@ -32,12 +33,6 @@ def start(session, program, byKey):
     waitFor(lambda: window.isSelected(PAGES[0]), "the main window")
     window.waitUntilAtRest()
     return window
-
-
-def openByKeys(window, path):
-    window.session.keys("ctrl+o")
-    window.chooseFile(path)
-    waitFor(lambda: window.title == f"Brenica - {path}", "the project's path in the title")
 
 
 def walkPages(window):
@@ -87,7 +82,7 @@ def main():
         size = tuple(int(part) for part in screen.split("x"))
         with Session(size, options.output / screen, **SCREENS[screen]) as session:
             window = start(session, options.program, byKey=True)
-            openByKeys(window, options.project)
+            KeyboardRoad(window).open(options.project)
             walkPages(window)
 
 

@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QScreen>
 #include <QShortcut>
+#include <QStyle>
 
 #include "desktop/menu_view.h"
 #include "desktop/tab_strip_view.h"
@@ -37,9 +38,16 @@ void followCommon(QWidget& widget, const ui::Control& control, const Scale& scal
 }  // namespace
 
 FormView::FormView(ui::FormWindow& form, FormLink& link)
-    : QWidget(nullptr, flagsOf(form)), form_(form), link_(link), contents_(new QWidget(this)) {
+    : QWidget(nullptr, flagsOf(form)),
+      form_(form),
+      link_(link),
+      scroll_(new QScrollArea(this)),
+      contents_(new QWidget) {
     setObjectName(shownText(form.Name()));
     contents_->setFocusPolicy(Qt::NoFocus);
+    scroll_->setFocusPolicy(Qt::NoFocus);
+    scroll_->setFrameShape(QFrame::NoFrame);
+    scroll_->setWidget(contents_);
     for (ui::Control* control : form.Controls()) addView(*control);
     startTimers();
     addPageKeys();
@@ -179,12 +187,26 @@ void FormView::takeFormsGeometry() {
     setGeometry(wanted);
     applying_ = false;
     arrangeContents();
+    settled_.start();  // to see whether it stayed there
 }
 
 void FormView::arrangeContents() {
     const int menuHeight = menu_ != nullptr ? menu_->sizeHint().height() : 0;
     if (menu_ != nullptr) menu_->setGeometry(0, 0, width(), menuHeight);
-    contents_->setGeometry(0, menuHeight, width(), height() - menuHeight);
+    scroll_->setGeometry(0, menuHeight, width(), height() - menuHeight);
+    contents_->resize(sizeOfContents(scroll_->size()));
+}
+
+/// The room that there is, or the least that the form has room in: on a small screen the rest is scrolled to.
+QSize FormView::sizeOfContents(QSize room) const {
+    const QSize border = borderOfForm();
+    const QSize least(link_.scale().pixels(form_.LeastSize.Width - border.width()),
+                      link_.scale().pixels(form_.LeastSize.Height - border.height()));
+    const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    const QSize before = room;
+    if (least.width() > before.width()) room.rheight() -= bar;
+    if (least.height() > before.height()) room.rwidth() -= bar;
+    return room.expandedTo(least);
 }
 
 void FormView::tellSize() {
@@ -197,11 +219,12 @@ void FormView::tellSize() {
     const int width = scale.twipsWithin(contents_->width()) + border.width();
     const int height = scale.twipsWithin(contents_->height()) + border.height();
     const QPoint place = frameGeometry().topLeft();
+    const QRect shown = geometry();
     link_.run([&] {
         form_.UserResize(state, scale.twipsWithin(place.x()), scale.twipsWithin(place.y()), width, height);
     });
     if (state != ui::WindowState::Normal) return;
-    if (wantedGeometry() == geometry()) askedFrom_.reset();
+    if (wantedGeometry() == shown) askedFrom_.reset();
     takeFormsGeometry();
 }
 

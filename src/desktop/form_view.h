@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QScrollArea>
 #include <QTimer>
 #include <QWidget>
 #include <memory>
@@ -46,6 +47,7 @@ private:
     void addPageKeys();
     void turnPage(bool innermost, int by);
     QSize borderOfForm() const;
+    QSize sizeOfContents(QSize room) const;
     QRect wantedGeometry() const;
     void takeFormsGeometry();
     void tellSize();
@@ -53,6 +55,7 @@ private:
     ui::FormWindow& form_;
     FormLink& link_;
     MenuView* menu_ = nullptr;
+    QScrollArea* scroll_;
     QWidget* contents_;
     std::unordered_map<const ui::Control*, View*> views_;
     std::vector<std::unique_ptr<QTimer>> timers_;

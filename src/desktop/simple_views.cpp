@@ -39,7 +39,8 @@ void LabelView::follow() {
     setText(hasAccessKey ? captionWithAccessKey(label_) : shownText(label_.Caption()));
 }
 
-void CaptionedFrameView::follow() { setTitle(captionWithAccessKey(frame_)); }
+/// Styles measure a title a little too narrow, by its ink: blanks keep its last letter whole.
+void CaptionedFrameView::follow() { setTitle(captionWithAccessKey(frame_) + "  "); }
 
 PictureView::PictureView(ui::Picture& picture, QWidget* parent)
     : QWidget(parent), renderer_(QString(":/pictures/%1.svg").arg(shownText(picture.Name()))) {}

@@ -20,11 +20,13 @@ void TabView::paintEvent(QPaintEvent*) {
     option.initFrom(this);
     option.shape = QTabBar::RoundedNorth;
     option.position = QStyleOptionTab::Middle;
-    option.text = text();
     if (isChecked()) option.state |= QStyle::State_Selected;
     QStylePainter painter(this);
     painter.drawControl(QStyle::CE_TabBarTabShape, option);
-    painter.drawControl(QStyle::CE_TabBarTabLabel, option);
+    painter.drawControl(QStyle::CE_TabBarTabLabel, option);  // the frame of the focus
+    // Styles leave so much room beside a text that the design's tabs would cut theirs off.
+    painter.drawItemText(rect(), Qt::AlignCenter | Qt::TextShowMnemonic, palette(), isEnabled(), text(),
+                         QPalette::WindowText);
 }
 
 void TabView::keyPressEvent(QKeyEvent* event) {

@@ -15,9 +15,9 @@ namespace desktop {
 
 namespace {
 
-// Qt leaves two pixels beside the text, which the design's boxes have no room for; the caret keeps one of them.
+// Qt leaves two pixels beside the text and its caret, which the design's boxes have no room for.
 constexpr int LeftMargin = -2;
-constexpr int RightMargin = -1;
+constexpr int RightMargin = -2;
 
 /// A place in UTF-16 as one in characters, and back.
 int charactersBefore(const QString& text, int place) {

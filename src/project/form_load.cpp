@@ -13,6 +13,7 @@ namespace {
 
 constexpr int StartWidth = 11000;
 constexpr int StartHeight = 7000;
+constexpr ui::Size LeastRoom{10000, 6200};  // which the layout was tried with
 constexpr int HideReadOnlyAndAskBeforeOverwriting = 6;
 
 /// Sets a grid up with one column a heading and one fixed column.
@@ -68,6 +69,7 @@ void frmBrenica::Form_Load() try {
     global_.ProjectFileName.clear();
     Width(StartWidth);
     Height(StartHeight);
+    LeastSize = LeastRoom;
     showFirstOnly(fraTabContents);
     CurrentMainTab = 1;
     setUpListPages();

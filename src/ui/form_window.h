@@ -27,6 +27,8 @@ public:
     static constexpr int BorderWidth = 150;
     static constexpr int BorderHeight = 700;
     FormBorder Border() const { return border_; }
+    /// The least size that the controls have room in, made once by the form; a window that is smaller scrolls.
+    Size LeastSize;
 
     Event<> Click;
     Event<> KeyPress;

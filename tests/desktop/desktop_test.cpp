@@ -135,9 +135,9 @@ private slots:
         InMainWindow program;
         QVERIFY(program.window().isMaximized());
         QCOMPARE(program.form().WindowState(), ui::WindowState::Maximized);
-        const QSize shown = program.window().size();
-        QVERIFY(program.desktop.scale().pixels(program.form().tabBrenica.Width()) <= shown.width());
-        QVERIFY(program.desktop.scale().pixels(program.form().tabBrenica.Width()) >= shown.width() - 2);
+        const QWidget& pages = program.window().viewOf(program.form().tabBrenica)->widget();
+        QVERIFY(pages.width() <= pages.parentWidget()->width());
+        QVERIFY(pages.width() >= pages.parentWidget()->width() - 2);
     }
 
     void aRestoredWindowGoesToItsPlaceInItsLeastSizeOrMore() {
@@ -225,9 +225,8 @@ private slots:
         InMainWindow program;
         const Boxes boxes;
         QApplication::setOverrideCursor(Qt::WaitCursor);
-        QVERIFY(exitCodeAfter([&] {
-                    program.desktop.run([] { ui::raise(ui::ErrorNumber::Overflow); });
-                }) > 0);
+        QVERIFY(exitCodeAfter([&] { program.desktop.run([] { ui::raise(ui::ErrorNumber::Overflow); }); }) >
+                0);
         QVERIFY(QApplication::overrideCursor() == nullptr);
     }
 
@@ -255,9 +254,7 @@ private slots:
     void theExitCommandEndsTheProgram() {
         InMainWindow program;
         program.form().ProjectChanged = false;
-        const auto quit = [&] {
-            QTest::keyClick(&program.window(), Qt::Key_Q, Qt::ControlModifier);
-        };
+        const auto quit = [&] { QTest::keyClick(&program.window(), Qt::Key_Q, Qt::ControlModifier); };
         QCOMPARE(exitCodeAfter(quit), 0);
         QVERIFY(program.form().Unloaded());
     }

@@ -163,7 +163,7 @@ class FormLayoutSizes : public FormLayoutTest, public testing::WithParamInterfac
 std::vector<WindowSize> windowSizes() {
     constexpr int LargestWidth = 57600;
     constexpr int LargestHeight = 32400;
-    std::vector<WindowSize> sizes;
+    std::vector<WindowSize> sizes = {{WindowState::Maximized, 10000, 6200}};  // the form's LeastSize
     for (const WindowState state : {WindowState::Normal, WindowState::Maximized}) {
         for (int width = 11000, height = 7000; width <= LargestWidth; width += 1237, height += 661)
             sizes.push_back({state, width, height});

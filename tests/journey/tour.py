@@ -81,8 +81,8 @@ def main():
     for screen in options.screen or SCREENS:
         size = tuple(int(part) for part in screen.split("x"))
         with Session(size, options.output / screen, **SCREENS[screen]) as session:
-            window = start(session, options.program, byKey=True)
-            KeyboardRoad(window).open(options.project)
+            window = start(session, options.program.resolve(), byKey=True)
+            KeyboardRoad(window).open(options.project.resolve())
             walkPages(window)
 
 

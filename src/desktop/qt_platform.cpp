@@ -105,8 +105,6 @@ int QtPlatform::textWidth(std::string_view text, const ui::Font& font) const {
     return width;
 }
 
-void QtPlatform::forgetTextWidths() { widths_.clear(); }
-
 ui::Size QtPlatform::screenSize() const {
     const QSize size = QApplication::primaryScreen()->availableSize();
     return {scale_.twips(size.width()), scale_.twips(size.height())};

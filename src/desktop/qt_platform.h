@@ -48,9 +48,6 @@ public:
     std::string programFolder() const override;
     ui::DecimalSeparator decimalSeparator() const override;
 
-    /// To be called when the desktop's font has become another one.
-    void forgetTextWidths();
-
 private:
     struct TextHash {
         using is_transparent = void;

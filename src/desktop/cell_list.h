@@ -7,7 +7,7 @@
 namespace desktop {
 
 /// The list of a cell that offers one, below its editor. Keys go to the view, which keeps the focus; a press beside the
-/// list closes it and counts for what it hits.
+/// list closes it.
 class CellList : public QListWidget {
     Q_OBJECT
 

@@ -33,7 +33,7 @@ bool GridView::editorKey(QKeyEvent* event) {
 }
 
 /// Takes Tab within the grid; false where it goes on to the next widget.
-bool GridView::tabKey(bool backwards) {
+bool GridView::goByTab(bool backwards) {
     if (grid_.Editing()) {
         editor_->tab(backwards);
         if (!grid_.Editing()) reveal({grid_.Row(), grid_.Col()});
@@ -148,11 +148,7 @@ bool GridView::editKey(QKeyEvent* event) {
     switch (event->key()) {
         case Qt::Key_F2: beginEdit(); return true;
         case Qt::Key_Delete: act([this] { grid_.UserDelete(); }); return true;
-        case Qt::Key_Backspace:
-            act([this] {
-                if (grid_.UserBeginEdit()) grid_.UserEditKey(ui::BackspaceKey);
-            });
-            return true;
+        case Qt::Key_Backspace: edit([this] { grid_.UserEditKey(ui::BackspaceKey); }); return true;
         default: break;
     }
     if (!isTyping(*event)) return false;
@@ -160,18 +156,21 @@ bool GridView::editKey(QKeyEvent* event) {
     return true;
 }
 
+/// Opens an editor on a closed cell for these keys and shows the cell.
+void GridView::edit(const std::function<void()>& keys) {
+    act([&] {
+        if (grid_.Editing() || grid_.UserBeginEdit()) keys();
+    });
+    if (grid_.Editing()) reveal({grid_.Row(), grid_.Col()});
+}
+
 void GridView::beginEdit() {
-    reveal({grid_.Row(), grid_.Col()});
-    act([this] { grid_.UserBeginEdit(); });
+    edit([] {});
     editor_->openList();
 }
 
-/// Opens an editor on a closed cell for what is typed.
 void GridView::typeText(const QString& text) {
-    reveal({grid_.Row(), grid_.Col()});
-    act([&] {
-        if (grid_.Editing() || grid_.UserBeginEdit()) typeInto(grid_, text);
-    });
+    edit([&] { typeInto(grid_, text); });
 }
 
 void GridView::inputMethodEvent(QInputMethodEvent* event) {
@@ -185,6 +184,7 @@ QVariant GridView::inputMethodQuery(Qt::InputMethodQuery query) const {
     if (query == Qt::ImEnabled) return grid_.Editable != ui::EditMode::ReadOnly;
     if (!grid_.Editing()) return QAbstractScrollArea::inputMethodQuery(query);
     const QVariant value = editor_->inputMethodValue(query);
+    if (query == Qt::ImCursorRectangle) return value.toRect().translated(viewport()->pos());
     return value.isValid() ? value : QAbstractScrollArea::inputMethodQuery(query);
 }
 

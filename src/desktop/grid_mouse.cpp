@@ -47,6 +47,8 @@ void GridView::mousePressEvent(QMouseEvent* event) {
 
 void GridView::mouseMoveEvent(QMouseEvent* event) {
     const QPoint place = event->position().toPoint();
+    // A box that a press brought up takes the release.
+    if (!(event->buttons() & Qt::LeftButton)) endDrag();
     if (draggedCol_ >= 0) return dragColumn(place);
     hover(place);
     if (selecting_) return dragSelection(place);
@@ -58,7 +60,10 @@ void GridView::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void GridView::mouseReleaseEvent(QMouseEvent* event) {
-    if (event->button() != Qt::LeftButton) return;
+    if (event->button() == Qt::LeftButton) endDrag();
+}
+
+void GridView::endDrag() {
     draggedCol_ = -1;
     selecting_ = false;
     autoScroll_.stop();

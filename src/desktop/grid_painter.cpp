@@ -110,6 +110,7 @@ void GridPainter::paintCell(QPainter& painter, CellAddress cell, const QRect& pl
     if (bearsSortMark(cell)) paintSortMark(painter, place);
 }
 
+/// Rows are one line high, so that WordWrap has nothing to wrap.
 void GridPainter::paintText(QPainter& painter, CellAddress cell, const QRect& place) {
     const bool bold = grid_.IsBold(cell.Row, cell.Col);
     const int room = roomFor(cell, place);

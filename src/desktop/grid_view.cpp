@@ -153,10 +153,11 @@ void GridView::focusOutEvent(QFocusEvent* event) {
 }
 
 void GridView::paintEvent(QPaintEvent*) {
-    if (grid_.Redraw() && (outdated_ || picture_.deviceIndependentSize().toSize() != viewport()->size()))
-        render();
-    QPainter painter(viewport());
     const QRect shown(QPoint(), picture_.deviceIndependentSize().toSize());
+    const bool fits =
+        shown.size() == viewport()->size() && picture_.devicePixelRatio() == viewport()->devicePixelRatioF();
+    if (grid_.Redraw() && (outdated_ || !fits)) render();
+    QPainter painter(viewport());
     if (!shown.contains(viewport()->rect())) painter.fillRect(viewport()->rect(), palette().base());
     painter.drawPixmap(0, 0, picture_);
 }
@@ -198,7 +199,7 @@ bool GridView::event(QEvent* event) {
         const auto* key = static_cast<QKeyEvent*>(event);
         const bool plain = !(key->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
         const bool backwards = key->key() == Qt::Key_Backtab;
-        if (plain && (backwards || key->key() == Qt::Key_Tab) && tabKey(backwards)) return true;
+        if (plain && (backwards || key->key() == Qt::Key_Tab) && goByTab(backwards)) return true;
     }
     return QAbstractScrollArea::event(event);
 }

@@ -70,7 +70,7 @@ private:
     // Keys, while no editor is open (grid_keys.cpp).
     static bool isOwnShortcut(QKeyEvent& key);
     bool editorKey(QKeyEvent* event);
-    bool tabKey(bool backwards);
+    bool goByTab(bool backwards);
     bool clipboardKey(QKeyEvent* event);
     bool moveKey(QKeyEvent* event);
     bool editKey(QKeyEvent* event);
@@ -79,6 +79,7 @@ private:
     void step(const std::function<bool()>& action);
     void selectTo(CellAddress cell);
     void selectAll();
+    void edit(const std::function<void()>& keys);
     void beginEdit();
     void typeText(const QString& text);
     void copyCells() const;
@@ -87,6 +88,7 @@ private:
     // The mouse (grid_mouse.cpp).
     void hover(QPoint place);
     void leave();
+    void endDrag();
     void dragColumn(QPoint place);
     void dragSelection(QPoint place);
     CellAddress bodyCellNear(QPoint place) const;

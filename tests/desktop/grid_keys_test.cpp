@@ -227,6 +227,26 @@ private slots:
         QCOMPARE(w.text(2, 2), std::string("2.2"));
     }
 
+    void backspaceEmptiesTheCellInItsEditor() {
+        GridWindow w;
+        w.key(Qt::Key_Backspace);
+        QVERIFY(w.grid.Editing());
+        QCOMPARE(w.grid.EditText(), std::string());
+        w.key(Qt::Key_Escape);
+        QCOMPARE(w.text(1, 1), std::string("1.1"));
+    }
+
+    void typingWhereNothingCanBeTypedScrollsNothing() {
+        GridWindow w(100, 4);
+        w.grid.Editable = ui::EditMode::ReadOnly;
+        w.view.verticalScrollBar()->setValue(40);
+        w.type("x");
+        w.key(Qt::Key_F2);
+        w.key(Qt::Key_Backspace);
+        QCOMPARE(w.view.verticalScrollBar()->value(), 40);
+        QCOMPARE(w.text(1, 1), std::string("1.1"));
+    }
+
     void theMenuCopiesAndPastes() {
         GridWindow w;
         QApplication::clipboard()->setText("pasted");

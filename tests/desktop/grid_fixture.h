@@ -75,8 +75,8 @@ struct GridWindow : Window {
     }
     void doubleClick(int row, int col) { doubleClick(middle(row, col)); }
     void movePointer(QPoint place, Qt::MouseButton pressed) {
-        QMouseEvent event(QEvent::MouseMove, place, view.viewport()->mapToGlobal(place), Qt::NoButton, pressed,
-                          Qt::NoModifier);
+        QMouseEvent event(QEvent::MouseMove, place, view.viewport()->mapToGlobal(place), Qt::NoButton,
+                          pressed, Qt::NoModifier);
         QApplication::sendEvent(view.viewport(), &event);
     }
     void drag(QPoint place) { movePointer(place, Qt::LeftButton); }

@@ -20,7 +20,7 @@ namespace desktop {
 namespace {
 
 constexpr int WidestLine = 80;         // average characters, beyond which a line is hard to read
-constexpr int TitleButtonsWidth = 16;  // average characters that a title bar has beside its text
+constexpr int TitleButtonsWidth = 20;  // average characters that a title bar has beside its text
 // Flags of a file dialogue.
 constexpr int AskBeforeOverwriting = 2;
 
@@ -40,7 +40,7 @@ QStringList filtersOf(const std::string& filter) {
 }  // namespace
 
 Box::Box(QWidget* parent, const std::string& title, const std::string& text)
-    : QDialog(parent),
+    : QDialog(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint),
       icon_(new QLabel(this)),
       column_(new QVBoxLayout),
       buttons_(new QDialogButtonBox(this)) {

@@ -9,6 +9,7 @@
 #include <QShortcut>
 #include <QStyle>
 
+#include "desktop/accessible_role.h"
 #include "desktop/menu_view.h"
 #include "desktop/tab_strip_view.h"
 #include "desktop/texts.h"
@@ -44,6 +45,7 @@ FormView::FormView(ui::FormWindow& form, FormLink& link)
       scroll_(new QScrollArea(this)),
       contents_(new QWidget) {
     setObjectName(shownText(form.Name()));
+    announceAs(*this, QAccessible::Window);
     contents_->setFocusPolicy(Qt::NoFocus);
     scroll_->setFocusPolicy(Qt::NoFocus);
     scroll_->setFrameShape(QFrame::NoFrame);
@@ -93,7 +95,7 @@ void FormView::addPageKeys() {
     add(Qt::CTRL | Qt::Key_PageDown, false, 1);
     add(Qt::CTRL | Qt::Key_PageUp, false, -1);
     add(Qt::CTRL | Qt::Key_Tab, true, 1);
-    add(Qt::CTRL | Qt::SHIFT | Qt::Key_Backtab, true, -1);
+    add(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab, true, -1);
 }
 
 void FormView::turnPage(bool innermost, int by) {

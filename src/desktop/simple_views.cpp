@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 
+#include "desktop/accessible_role.h"
 #include "desktop/texts.h"
 
 namespace desktop {
@@ -58,6 +59,12 @@ CommandButtonView::CommandButtonView(ui::CommandButton& button, FormLink& link, 
 
 void CommandButtonView::follow() { setText(captionWithAccessKey(button_)); }
 
+void CommandButtonView::keyPressEvent(QKeyEvent* event) {
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (enter && !event->isAutoRepeat()) return click();
+    QPushButton::keyPressEvent(event);
+}
+
 CheckBoxView::CheckBoxView(ui::CheckBox& box, FormLink& link, QWidget* parent)
     : QCheckBox(parent), box_(box) {
     connect(this, &QCheckBox::clicked, this, [this, &link] { link.run([this] { box_.UserClick(); }); });
@@ -71,6 +78,7 @@ void CheckBoxView::follow() {
 OptionButtonView::OptionButtonView(ui::OptionButton& button, FormLink& link, QWidget* parent)
     : QRadioButton(parent), button_(button), link_(link) {
     setAutoExclusive(false);  // the form keeps one of a group on
+    announceAs(*this, QAccessible::RadioButton);
     connect(this, &QRadioButton::clicked, this, [this] { choose(); });
 }
 
@@ -102,7 +110,8 @@ OptionButtonView* OptionButtonView::neighbour(int step) const {
     QList<OptionButtonView*> group;
     for (QObject* sibling : parentWidget()->children()) {
         auto* view = dynamic_cast<OptionButtonView*>(sibling);
-        if (view != nullptr && view->isEnabled() && groupOf(*view) == groupOf(*this)) group.append(view);
+        const bool reached = view != nullptr && view->isEnabled() && view->isVisibleTo(parentWidget());
+        if (reached && groupOf(*view) == groupOf(*this)) group.append(view);
     }
     return group.value(group.indexOf(const_cast<OptionButtonView*>(this)) + step, nullptr);
 }

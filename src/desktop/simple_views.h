@@ -63,6 +63,10 @@ public:
     QWidget& widget() override { return *this; }
     void follow() override;
 
+protected:
+    /// Enter clicks, as the blank does.
+    void keyPressEvent(QKeyEvent* event) override;
+
 private:
     ui::CommandButton& button_;
 };

@@ -2,54 +2,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/tab_strip_view.h"
 
-#include <QAccessibleWidget>
 #include <QKeyEvent>
 #include <QStyleOptionTab>
 #include <QStylePainter>
 
+#include "desktop/accessible_role.h"
 #include "desktop/texts.h"
 
 namespace desktop {
 
-namespace {
-
-/// A tab to a screen reader: it can be chosen, and it is chosen or not.
-class TabAccessible : public QAccessibleWidget {
-public:
-    explicit TabAccessible(TabView* tab) : QAccessibleWidget(tab, QAccessible::PageTab), tab_(tab) {}
-
-    QAccessible::State state() const override {
-        QAccessible::State state = QAccessibleWidget::state();
-        state.selectable = true;
-        state.selected = tab_->isChecked();
-        return state;
-    }
-    QStringList actionNames() const override {
-        return QStringList(pressAction()) + QAccessibleWidget::actionNames();
-    }
-    void doAction(const QString& action) override {
-        if (action == pressAction()) return tab_->click();
-        QAccessibleWidget::doAction(action);
-    }
-
-private:
-    TabView* tab_;
-};
-
-QAccessibleInterface* makeTabInterface(const QString&, QObject* object) {
-    auto* tab = dynamic_cast<TabView*>(object);
-    return tab == nullptr ? nullptr : new TabAccessible(tab);
-}
-
-void installTabAccessibility() {
-    static const bool installed = (QAccessible::installFactory(makeTabInterface), true);
-    static_cast<void>(installed);
-}
-
-}  // namespace
-
 TabView::TabView(int index, TabStripView& strip) : QAbstractButton(&strip), index_(index), strip_(strip) {
-    installTabAccessibility();
+    announceAs(*this, QAccessible::PageTab);
     setCheckable(true);
     connect(this, &QAbstractButton::clicked, this, [this] { strip_.select(index_); });
 }

@@ -203,9 +203,10 @@ void Flow::add(std::initializer_list<Item> group) {
     nextLeft_ += WideGap - Gap;
 }
 
+/// A hidden last column is neither stretched nor counted in.
 void fitColumns(ui::Grid& grid) {
     const bool hiddenLast = grid.Cols() > 0 && grid.ColHidden(grid.Cols() - 1);
-    modFlexGridUtilities::ResizeGrid(grid, hiddenLast, hiddenLast ? 1 : 0);
+    modFlexGridUtilities::ResizeGrid(grid, false, hiddenLast ? 1 : 0);
 }
 
 }  // namespace layout

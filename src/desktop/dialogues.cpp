@@ -24,7 +24,8 @@ constexpr int TitleButtonsWidth = 20;  // average characters that a title bar ha
 // Flags of a file dialogue.
 constexpr int AskBeforeOverwriting = 2;
 
-int mostTextHeight(const QWidget& widget) { return widget.screen()->availableSize().height() * 6 / 10; }
+/// What a box leaves to its text, so that it fits on the screen with all that stands around the text.
+QSize mostTextSize(const QWidget& widget) { return widget.screen()->availableSize() * 6 / 10; }
 
 /// "Description|pattern|Description|pattern" as Qt's list of filters.
 QStringList filtersOf(const std::string& filter) {
@@ -73,13 +74,17 @@ QWidget* Box::makeText(const QString& text) {
     const QRect place = fontMetrics().boundingRect(QRect(0, 0, widest, 1 << 20), Qt::TextWordWrap, text);
     const int titleWidth =
         fontMetrics().horizontalAdvance(windowTitle()) + fontMetrics().averageCharWidth() * TitleButtonsWidth;
-    const int width = std::max(place.width() + fontMetrics().averageCharWidth(), titleWidth);
-    label->setMinimumSize(width, label->heightForWidth(width));
-    if (label->minimumHeight() <= mostTextHeight(*this)) return label;
+    const QSize most = mostTextSize(*this);
+    const int width =
+        std::max(place.width() + fontMetrics().averageCharWidth(), std::min(titleWidth, most.width()));
+    const QSize needed(width, label->heightForWidth(width));
+    label->setMinimumSize(needed);
+    if (needed.boundedTo(most) == needed) return label;
     auto* scrolled = new QScrollArea(this);
     scrolled->setWidget(label);
     scrolled->setFrameShape(QFrame::NoFrame);
-    scrolled->setMinimumSize(width + style()->pixelMetric(QStyle::PM_ScrollBarExtent), mostTextHeight(*this));
+    const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    scrolled->setMinimumSize((needed + QSize(bar, bar)).boundedTo(most));
     return scrolled;
 }
 

@@ -1,0 +1,375 @@
+// SPDX-FileCopyrightText: 2026 The Brenica developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/dialogues.h"
+
+#include <QDialogButtonBox>
+#include <QDir>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QTemporaryDir>
+
+#include "desktop/desktop_test.h"
+
+namespace {
+
+/// What a user does with the boxes that come up while a call waits, one step after the other. A step that returns false
+/// is tried again.
+class User : public QObject {
+public:
+    using Step = std::function<bool(QWidget& box)>;
+
+    explicit User(QList<Step> steps) : steps_(std::move(steps)) { lookAgain(); }
+    bool done() const { return next_ == steps_.size(); }
+
+private:
+    /// A timer of its own each time, since one that has fired waits until its step has returned.
+    void lookAgain() {
+        QTimer::singleShot(1, this, [this] { act(); });
+    }
+
+    void act() {
+        if (done()) return;
+        lookAgain();
+        QWidget* box = QApplication::activeModalWidget();
+        if (box == nullptr) return;
+        const qsizetype step = next_++;  // before the step, which may open a box of its own
+        if (!steps_[step](*box)) next_ = step;
+    }
+
+    QList<Step> steps_;
+    qsizetype next_ = 0;
+};
+
+User::Step press(Qt::Key key) {
+    return [key](QWidget& box) {
+        QTest::keyClick(box.focusWidget() != nullptr ? box.focusWidget() : &box, key);
+        return true;
+    };
+}
+
+const QLabel& textOf(const QWidget& box) {
+    for (const QLabel* label : box.findChildren<QLabel*>()) {
+        if (!label->text().isEmpty()) return *label;
+    }
+    qFatal("a box without a text");
+}
+
+bool hasIcon(const QWidget& box) {
+    for (const QLabel* label : box.findChildren<QLabel*>()) {
+        if (label->isVisible() && !label->pixmap(Qt::ReturnByValue).isNull()) return true;
+    }
+    return false;
+}
+
+/// File dialogues that are looked at and answered.
+struct FileBox {
+    QTemporaryDir folder;
+    QString lastFolder;
+    ui::FileDialogRequest request{ui::FileDialogKind::Save, "", "Text Files (*.txt)|*.txt", "txt", "", 6};
+    QString filters;
+    QString directory;
+
+    FileBox() { request.InitDir = folder.path().toStdString(); }
+
+    QString path(const char* name) const { return QDir(folder.path()).filePath(name); }
+    void write(const char* name, const char* content) const {
+        QFile file(path(name));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(content);
+    }
+    User::Step look() {
+        return [this](QWidget& box) {
+            const auto& dialogue = dynamic_cast<QFileDialog&>(box);
+            filters = dialogue.nameFilters().join('|');
+            directory = dialogue.directory().absolutePath();
+            return true;
+        };
+    }
+    static User::Step choose(const QString& name) {
+        return [name](QWidget& box) {
+            auto* edit = box.findChild<QLineEdit*>("fileNameEdit");
+            if (edit == nullptr) return false;
+            edit->setText(name);
+            static_cast<QDialog&>(box).accept();
+            return true;
+        };
+    }
+    static User::Step cancel() { return press(Qt::Key_Escape); }
+    std::optional<std::string> show() { return desktop::showFileDialogue(nullptr, request, lastFolder); }
+};
+
+}  // namespace
+
+class DialoguesTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { QApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
+
+    void aMessageShowsItsTitleAndPlainText() {
+        QString title;
+        QString text;
+        User user({[&](QWidget& box) {
+                       title = box.windowTitle();
+                       text = textOf(box).text();
+                       return textOf(box).textFormat() == Qt::PlainText;
+                   },
+                   press(Qt::Key_Return)});
+        desktop::showMessageBox(nullptr, "<b>One</b> & two\r\nthree\rfour", "A <i>title</i>",
+                                ui::MessageIcon::None);
+        QVERIFY(user.done());
+        QCOMPARE(title, QString("A <i>title</i>"));
+        QCOMPARE(text, QString("<b>One</b> & two\nthree\nfour"));
+    }
+
+    void aMessageHasTheIconOfItsKind() {
+        for (const ui::MessageIcon icon :
+             {ui::MessageIcon::None, ui::MessageIcon::Exclamation, ui::MessageIcon::Question}) {
+            bool shown = false;
+            User user({[&](QWidget& box) {
+                           shown = hasIcon(box);
+                           return true;
+                       },
+                       press(Qt::Key_Return)});
+            desktop::showMessageBox(nullptr, "text", "title", icon);
+            QCOMPARE(shown, icon != ui::MessageIcon::None);
+        }
+    }
+
+    void everyLineOfTheTextIsOnView() {
+        bool whole = false;
+        User user({[&](QWidget& box) {
+                       const QLabel& text = textOf(box);
+                       whole = text.height() >= text.heightForWidth(text.width()) &&
+                               box.rect().contains(QRect(text.mapTo(&box, QPoint()), text.size()));
+                       return true;
+                   },
+                   press(Qt::Key_Return)});
+        desktop::showMessageBox(nullptr, QString("line of some words\r\n").repeated(9).toStdString(), "title",
+                                ui::MessageIcon::Exclamation);
+        QVERIFY(whole);
+    }
+
+    void aQuestionIsYesByEnter() {
+        User user({press(Qt::Key_Return)});
+        QVERIFY(desktop::showQuestionBox(nullptr, "Sure?", "title"));
+    }
+
+    void aQuestionIsNoByEscapeAndByTheCloseBox() {
+        User escape({press(Qt::Key_Escape)});
+        QVERIFY(!desktop::showQuestionBox(nullptr, "Sure?", "title"));
+        User close({[](QWidget& box) { return box.close(); }});
+        QVERIFY(!desktop::showQuestionBox(nullptr, "Sure?", "title"));
+    }
+
+    void aQuestionIsAnsweredByItsButtons() {
+        const auto click = [](QDialogButtonBox::StandardButton which) -> User::Step {
+            return [which](QWidget& box) {
+                QTest::mouseClick(box.findChild<QDialogButtonBox*>()->button(which), Qt::LeftButton);
+                return true;
+            };
+        };
+        User no({click(QDialogButtonBox::No)});
+        QVERIFY(!desktop::showQuestionBox(nullptr, "Sure?", "title"));
+        User yes({click(QDialogButtonBox::Yes)});
+        QVERIFY(desktop::showQuestionBox(nullptr, "Sure?", "title"));
+    }
+
+    void anInputProposesItsDefaultSelected() {
+        QString selected;
+        User user({[&](QWidget& box) {
+                       selected = box.findChild<QLineEdit*>()->selectedText();
+                       return box.findChild<QLineEdit*>()->hasFocus();
+                   },
+                   press(Qt::Key_Return)});
+        QCOMPARE(desktop::showInputBox(nullptr, "How many?", "title", "12 é"), std::string("12 é"));
+        QCOMPARE(selected, QString("12 é"));
+    }
+
+    void anInputGivesWhatIsTyped() {
+        User user({[](QWidget& box) {
+                       QTest::keyClicks(box.findChild<QLineEdit*>(), "34");
+                       return true;
+                   },
+                   press(Qt::Key_Return)});
+        QCOMPARE(desktop::showInputBox(nullptr, "How many?", "title", "12"), std::string("34"));
+    }
+
+    void aCancelledInputGivesNothing() {
+        User escape({press(Qt::Key_Escape)});
+        QCOMPARE(desktop::showInputBox(nullptr, "How many?", "title", "12"), std::string());
+        User cancel({[](QWidget& box) {
+            QTest::mouseClick(box.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Cancel),
+                              Qt::LeftButton);
+            return true;
+        }});
+        QCOMPARE(desktop::showInputBox(nullptr, "How many?", "title", "12"), std::string());
+    }
+
+    void aVeryLongTextScrollsInABoxThatFitsTheScreen_data() {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("title");
+        QTest::newRow("lines") << QString("A line of a report\r\n").repeated(400) << QString("title");
+        QTest::newRow("one line") << QString("words and ").repeated(3000) << QString("title");
+        QTest::newRow("a word") << QString(4000, 'w') << QString("title");
+        QTest::newRow("title") << QString("text") << QString("long title ").repeated(60);
+    }
+
+    void aVeryLongTextScrollsInABoxThatFitsTheScreen() {
+        QFETCH(QString, text);
+        QFETCH(QString, title);
+        QSize size;
+        bool reachable = false;
+        User user({[&](QWidget& box) {
+                       size = box.size();
+                       const auto* area = box.findChild<QScrollArea*>();
+                       reachable = area == nullptr || area->verticalScrollBar()->maximum() > 0 ||
+                                   area->horizontalScrollBar()->maximum() > 0;
+                       return true;
+                   },
+                   press(Qt::Key_Return)});
+        desktop::showInputBox(nullptr, text.toStdString(), title.toStdString(), "0");
+        const QSize screen = QApplication::primaryScreen()->availableSize();
+        QVERIFY2(size.width() <= screen.width(), qPrintable(QString::number(size.width())));
+        QVERIFY2(size.height() <= screen.height(), qPrintable(QString::number(size.height())));
+        QVERIFY(reachable);
+    }
+
+    void aHundredBoxesOneAfterAnotherAreAnsweredByEnter() {
+        User user(QList<User::Step>(100, press(Qt::Key_Return)));
+        for (int i = 0; i < 100; ++i) {
+            if (i % 2 == 0) {
+                desktop::showMessageBox(nullptr, "text", "title", ui::MessageIcon::Exclamation);
+            } else {
+                QVERIFY(desktop::showQuestionBox(nullptr, "text", "title"));
+            }
+        }
+        QVERIFY(user.done());
+        QVERIFY(QApplication::activeModalWidget() == nullptr);
+    }
+
+    void screenReadersGetTitleAndText() {
+        QStringList names;
+        User user({[&](QWidget& box) {
+                       names = {box.accessibleName(), box.accessibleDescription(),
+                                box.findChild<QLineEdit*>()->accessibleName()};
+                       return true;
+                   },
+                   press(Qt::Key_Return)});
+        desktop::showInputBox(nullptr, "How many?", "title", "0");
+        QCOMPARE(names, QStringList({"title", "How many?", "How many?"}));
+    }
+
+    void aFileDialogueOpensWithFilterAndFolder() {
+        FileBox w;
+        User user({w.look(), FileBox::cancel()});
+        QVERIFY(!w.show().has_value());
+        QCOMPARE(w.filters, QString("Text Files (*.txt)"));
+        QCOMPARE(w.directory, QDir(w.folder.path()).absolutePath());
+    }
+
+    void aNameWithoutAnExtensionGetsTheDefaultOne() {
+        for (const char* extension : {"txt", ".txt"}) {
+            FileBox w;
+            w.request.DefaultExt = extension;
+            User user({FileBox::choose("result")});
+            QCOMPARE(QString::fromStdString(w.show().value_or("")), w.path("result.txt"));
+        }
+        FileBox w;
+        User user({FileBox::choose("result.brn")});
+        QCOMPARE(QString::fromStdString(w.show().value_or("")), w.path("result.brn"));
+    }
+
+    void theProposedNameIsTheChoice() {
+        FileBox w;
+        w.request.FileName = "Proposed";
+        User user({[](QWidget& box) {
+            static_cast<QDialog&>(box).accept();
+            return true;
+        }});
+        QCOMPARE(QString::fromStdString(w.show().value_or("")), w.path("Proposed.txt"));
+    }
+
+    void overwritingIsAskedForAndMayBeRefused() {
+        FileBox w;
+        w.write("old.txt", "old");
+        int questions = 0;
+        const auto answer = [&](QMessageBox::StandardButton button) -> User::Step {
+            return [&questions, button](QWidget& box) {
+                auto* question = qobject_cast<QMessageBox*>(&box);
+                if (question == nullptr) return false;
+                ++questions;
+                question->button(button)->click();
+                return true;
+            };
+        };
+        User refusing({FileBox::choose("old.txt"), answer(QMessageBox::No), FileBox::cancel()});
+        QVERIFY(!w.show().has_value());
+        QCOMPARE(questions, 1);
+        User agreeing({FileBox::choose("old.txt"), answer(QMessageBox::Yes)});
+        QCOMPARE(QString::fromStdString(w.show().value_or("")), w.path("old.txt"));
+        QCOMPARE(questions, 2);
+    }
+
+    void withoutTheFlagOverwritingIsNotAskedFor() {
+        FileBox w;
+        w.write("old.txt", "old");
+        w.request.Flags = 4;
+        User user({FileBox::choose("old.txt")});
+        QCOMPARE(QString::fromStdString(w.show().value_or("")), w.path("old.txt"));
+    }
+
+    void theFolderOfTheLastChoiceIsWhereTheNextDialogueOpens() {
+        FileBox w;
+        w.write("there.txt", "");
+        w.request.Kind = ui::FileDialogKind::Open;
+        User choosing({FileBox::choose("there.txt")});
+        QVERIFY(w.show().has_value());
+        w.request.InitDir.clear();
+        User looking({w.look(), FileBox::cancel()});
+        QVERIFY(!w.show().has_value());
+        QCOMPARE(w.directory, QDir(w.folder.path()).absolutePath());
+        QCOMPARE(w.lastFolder, QDir(w.folder.path()).absolutePath());
+    }
+
+    void aCancelledDialogueKeepsTheFolder() {
+        FileBox w;
+        w.lastFolder = "/kept";
+        User user({FileBox::cancel()});
+        QVERIFY(!w.show().has_value());
+        QCOMPARE(w.lastFolder, QString("/kept"));
+    }
+
+    void aProposedPathOpensItsOwnFolder() {
+        FileBox w;
+        const QTemporaryDir other;
+        w.request.FileName = QDir(other.path()).filePath("project.brn").toStdString();
+        User user({w.look(), FileBox::cancel()});
+        QVERIFY(!w.show().has_value());
+        QCOMPARE(w.directory, QDir(other.path()).absolutePath());
+    }
+
+    void openTakesOnlyFilesThatAreThere() {
+        FileBox w;
+        w.request.Kind = ui::FileDialogKind::Open;
+        bool warned = false;
+        User user({FileBox::choose("missing.txt"),
+                   [&](QWidget& box) {
+                       if (qobject_cast<QMessageBox*>(&box) == nullptr) return false;
+                       warned = true;
+                       QTest::keyClick(&box, Qt::Key_Escape);
+                       return true;
+                   },
+                   FileBox::cancel()});
+        QVERIFY(!w.show().has_value());
+        QVERIFY(warned);
+    }
+};
+
+static const desktop_test::Registered<DialoguesTest> registered;
+
+#include "dialogues_test.moc"

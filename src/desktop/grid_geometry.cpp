@@ -27,6 +27,13 @@ void GridGeometry::follow() {
         twips_.push_back(twips_.back() + (grid_.ColHidden(col) ? 0 : grid_.ColWidth(col)));
         edges_.push_back(scale_.pixels(twips_.back()));
     }
+    furtherLines_ = (grid_.HeadingHeight() - ui::Grid::RowHeight) / ui::Grid::LineHeight;
+}
+
+/// All rows are equally high but the first, which may have further lines.
+int GridGeometry::slotTop(int slot) const {
+    const int furtherHeight = slot > 0 ? furtherLines_ * ui::Grid::LineHeight : 0;
+    return scale_.pixels(slot * ui::Grid::RowHeight + furtherHeight);
 }
 
 void GridGeometry::scrollTo(int rows, int pixels) {
@@ -71,7 +78,8 @@ QRect GridGeometry::cell(int row, int col) const {
 }
 
 int GridGeometry::slotAt(int y) const {
-    int slot = std::max(0, scale_.twips(y) / ui::Grid::RowHeight);
+    const int plain = scale_.twips(y) - furtherLines_ * ui::Grid::LineHeight;
+    int slot = std::max(0, plain / ui::Grid::RowHeight);
     while (slot > 0 && slotTop(slot) > y) --slot;
     while (slotTop(slot + 1) <= y) ++slot;
     return slot;

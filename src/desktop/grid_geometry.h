@@ -23,11 +23,13 @@ class GridGeometry {
 public:
     GridGeometry(const ui::Grid& grid, const Scale& scale);
 
-    /// Takes over the columns' widths.
+    /// Takes over the columns' widths and the heading's height.
     void follow();
     /// Scrolls to this many rows and pixels of the body.
     void scrollTo(int rows, int pixels);
 
+    /// Lines of text that row 0 has room for.
+    int headingLines() const { return furtherLines_ + 1; }
     /// Heading rows and columns that there are.
     int fixedRows() const;
     int fixedCols() const;
@@ -62,13 +64,14 @@ public:
     int widthUpTo(int col, int x) const;
 
 private:
-    int slotTop(int slot) const { return scale_.pixels(slot * ui::Grid::RowHeight); }
+    int slotTop(int slot) const;
     int slotAt(int y) const;
 
     const ui::Grid& grid_;
     const Scale& scale_;
     std::vector<int> edges_{0};
     std::vector<int> twips_{0};
+    int furtherLines_ = 0;
     int scrolledRows_ = 0;
     int scrolledPixels_ = 0;
 };

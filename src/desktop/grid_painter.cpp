@@ -43,6 +43,27 @@ bool isDisabled(const QPalette& palette) { return palette.currentColorGroup() ==
 
 }  // namespace
 
+/// A text in as many lines as there are, word by word; the last one is cut where it is too long.
+QStringList brokenIntoLines(const QString& text, int room, int lines, const QFontMetricsF& metrics) {
+    // No character that shows is narrower than a pixel: a long text need not be measured to its end.
+    const QStringList words = text.left((room + 1) * lines).split(' ');
+    QStringList broken;
+    QString line = words.first();
+    for (const QString& word : words.mid(1)) {
+        const QString longer = line + ' ' + word;
+        const bool last = broken.size() + 1 == lines;
+        if (!last && metrics.horizontalAdvance(longer) > room) {
+            broken.append(line);
+            line = word;
+        } else {
+            line = longer;
+        }
+    }
+    broken.append(line);
+    for (QString& shown : broken) shown = metrics.elidedText(shown, Qt::ElideRight, room);
+    return broken;
+}
+
 QString cellText(const ui::Grid& grid, CellAddress cell) {
     QString text = QString::fromStdString(grid.TextMatrix(cell.Row, cell.Col));
     for (QChar& character : text) {
@@ -110,12 +131,12 @@ void GridPainter::paintCell(QPainter& painter, CellAddress cell, const QRect& pl
     if (bearsSortMark(cell)) paintSortMark(painter, place);
 }
 
-/// Rows are one line high, so that WordWrap has nothing to wrap.
+/// Only headings have room for more than one line.
 void GridPainter::paintText(QPainter& painter, CellAddress cell, const QRect& place) {
     const bool bold = grid_.IsBold(cell.Row, cell.Col);
     const int room = roomFor(cell, place);
     if (room <= 0) return;
-    const ShapedText& text = shaped(cellText(grid_, cell), room, bold);
+    const ShapedText& text = shaped(cellText(grid_, cell), room, linesFor(cell), bold);
     const double free = std::max(0.0, room - text.Width);
     const ui::CellAlign alignment = grid_.AlignmentOf(cell.Row, cell.Col);
     const double indent = alignment == ui::CellAlign::CentreCentre  ? std::floor(free / 2)
@@ -134,17 +155,16 @@ int GridPainter::roomFor(CellAddress cell, const QRect& place) const {
     return place.width() - padding_ - RightPadding - (bearsSortMark(cell) ? SortMarkWidth + RightPadding : 0);
 }
 
-const GridPainter::ShapedText& GridPainter::shaped(const QString& text, int room, bool bold) {
-    const TextKey key{text, room, bold};
+const GridPainter::ShapedText& GridPainter::shaped(const QString& text, int room, int lines, bool bold) {
+    const TextKey key{text, room, lines, bold};
     if (const ShapedText* known = texts_.object(key)) return *known;
     const QFontMetricsF metrics(font(bold));
     auto added = std::make_unique<ShapedText>();
-    // No character that shows is narrower than a pixel: a long text need not be measured to its end.
-    const QString shown = metrics.elidedText(text.left(room + 1), Qt::ElideRight, room);
+    const QStringList shown = brokenIntoLines(text, room, lines, metrics);
     added->Text.setTextFormat(Qt::PlainText);
-    added->Text.setText(shown);
+    added->Text.setText(shown.join('\n'));
     added->Text.prepare({}, font(bold));
-    added->Width = metrics.horizontalAdvance(shown);
+    for (const QString& line : shown) added->Width = std::max(added->Width, metrics.horizontalAdvance(line));
     ShapedText* kept = added.release();
     texts_.insert(key, kept);
     return *kept;
@@ -153,7 +173,8 @@ const GridPainter::ShapedText& GridPainter::shaped(const QString& text, int room
 bool GridPainter::isCut(CellAddress cell) const {
     const QFontMetricsF metrics(font(grid_.IsBold(cell.Row, cell.Col)));
     const int room = roomFor(cell, geometry_.cell(cell.Row, cell.Col));
-    return metrics.horizontalAdvance(cellText(grid_, cell)) > room;
+    const QString text = cellText(grid_, cell);
+    return brokenIntoLines(text, room, linesFor(cell), metrics).join(' ') != text;
 }
 
 bool GridPainter::bearsSortMark(CellAddress cell) const {
@@ -193,7 +214,8 @@ void GridPainter::paintLines(QPainter& painter, const Area& area, const QColor& 
     painter.drawLines(lines);
 }
 
-/// Shades a range of several cells and frames the current cell.
+/// Shades a range that the user has selected, and frames the current cell of the grid with the focus. A range that code has selected to set its
+/// colours must not change how these look.
 void GridPainter::paintSelection(QPainter& painter, const Area& body, bool focused) const {
     const CellAddress current{grid_.Row(), grid_.Col()};
     if (!body.Clip.isValid() || current.Row < geometry_.fixedRows() || current.Col < geometry_.fixedCols())
@@ -204,20 +226,18 @@ void GridPainter::paintSelection(QPainter& painter, const Area& body, bool focus
     const QRect place = geometry_.cell(current.Row, current.Col);
     const QRect frame = place.adjusted(-1, -1, 0, 0);
     const CellAddress other{grid_.RowSel(), grid_.ColSel()};
-    if (other != current) {
+    if (other != current && grid_.UserSelected()) {
         const QRect range = place | geometry_.cell(other.Row, other.Col);
         QColor shade = highlight;
         shade.setAlphaF(SelectionWeight);
         QRegion shaded = QRegion(range & body.Clip) - place;
         for (const QRect& part : shaded) painter.fillRect(part, shade);
     }
-    if (place.width() == 0) return;
+    if (place.width() == 0 || !focused) return;
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(focused
-                       ? highlight
-                       : mixed(palette_.color(QPalette::Base), palette_.color(QPalette::Text), FadedWeight));
+    painter.setPen(highlight);
     painter.drawRect(frame.adjusted(0, 0, -1, -1));
-    if (focused) painter.drawRect(frame.adjusted(1, 1, -2, -2));
+    painter.drawRect(frame.adjusted(1, 1, -2, -2));
 }
 
 QColor GridPainter::backColour(CellAddress cell, bool heading) const {

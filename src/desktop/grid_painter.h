@@ -40,10 +40,11 @@ private:
     struct TextKey {
         QString Text;
         int Room;
+        int Lines;
         bool Bold;
         bool operator==(const TextKey&) const = default;
         friend std::size_t qHash(const TextKey& key, std::size_t seed) {
-            return qHashMulti(seed, key.Text, key.Room, key.Bold);
+            return qHashMulti(seed, key.Text, key.Room, key.Lines, key.Bold);
         }
     };
 
@@ -57,7 +58,8 @@ private:
     QColor textColour(CellAddress cell, bool heading) const;
     bool bearsSortMark(CellAddress cell) const;
     int roomFor(CellAddress cell, const QRect& place) const;
-    const ShapedText& shaped(const QString& text, int room, bool bold);
+    int linesFor(CellAddress cell) const { return cell.Row == 0 ? geometry_.headingLines() : 1; }
+    const ShapedText& shaped(const QString& text, int room, int lines, bool bold);
 
     const ui::Grid& grid_;
     const GridGeometry& geometry_;

@@ -15,7 +15,7 @@ constexpr int DesignTimeRows = 1;
 constexpr int DesignTimeCols = 10;
 // More cells than any landscape has, and few enough that a slip of the finger does not exhaust the machine.
 constexpr long long MostCells = 1LL << 24;
-constexpr int MostHeadingLines = 3;
+constexpr int MostHeadingLines = 2;
 const Font CellFont{};
 const Font BoldCellFont{.Bold = true};
 
@@ -117,6 +117,7 @@ void Grid::Select(int row1, int col1, int row2, int col2) {
     change(col_, col1);
     change(rowSel_, row2);
     change(colSel_, col2);
+    change(userSelected_, false);
 }
 
 Grid::CellRange Grid::selection() const {
@@ -205,9 +206,11 @@ int Grid::measure(int col) const {
     return widest + CellPadding;
 }
 
+/// Room for a high heading is counted in any case: whether a scroll bar takes room must not hang on the columns' widths,
+/// which hang on that room.
 bool Grid::RowsOverflow() const {
-    const long long further = static_cast<long long>(Rows()) - 1;
-    return further * RowHeight + HeadingHeight() > Height() - BorderWidth;
+    const int furtherLines = WordWrap && fixedRows_ > 0 ? MostHeadingLines - 1 : 0;
+    return static_cast<long long>(Rows()) * RowHeight + furtherLines * LineHeight > Height() - BorderWidth;
 }
 
 /// How many lines a heading takes: word by word, as many in a line as there is room for.

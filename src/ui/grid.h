@@ -78,6 +78,8 @@ public:
     void Col(int col) { Select(row_, col); }
     int RowSel() const { return rowSel_; }
     int ColSel() const { return colSel_; }
+    /// Whether the range of selected cells was made by the user, to be shown as such.
+    bool UserSelected() const { return userSelected_; }
     /// Makes (row1, col1) the current cell, unless BeforeRowColChange refuses, and selects up to (row2, col2).
     void Select(int row1, int col1, int row2, int col2);
     void Select(int row, int col) { Select(row, col, row, col); }
@@ -126,7 +128,7 @@ public:
     bool RowsOverflow() const;
     /// Width less border and, when the rows do not fit, less the scroll bar.
     int ClientWidth() const;
-    /// Height of row 0: with WordWrap as high as its texts need that are broken into lines, up to three.
+    /// Height of row 0: with WordWrap as high as its texts need that are broken into lines, up to two.
     int HeadingHeight() const;
 
     // The measures that ClientWidth and AutoSize count with, for a view to draw by. Twips.
@@ -276,6 +278,7 @@ private:
     int col_ = 0;
     int rowSel_ = 0;
     int colSel_ = 0;
+    bool userSelected_ = false;
     SortMark sortMark_;
     CellAlign cellPictureAlignment_ = CellAlign::LeftCentre;
     bool redraw_ = true;

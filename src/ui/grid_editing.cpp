@@ -82,6 +82,7 @@ bool Grid::UserSelectTo(int row, int col) {
     if (!acceptsUserAction() || !isBody(row_, col_) || !isBody(row, col)) return false;
     change(rowSel_, row);
     change(colSel_, col);
+    change(userSelected_, true);
     return true;
 }
 

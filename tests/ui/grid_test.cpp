@@ -255,21 +255,22 @@ TEST_F(GridTest, BreaksHeadingsIntoLinesWhereItWrapsWords) {
     EXPECT_EQ(heightAt(whole), ui::Grid::RowHeight);
     EXPECT_EQ(heightAt(whole - 1), ui::Grid::RowHeight + ui::Grid::LineHeight);
     EXPECT_EQ(heightAt(twoWords), ui::Grid::RowHeight + ui::Grid::LineHeight);
-    EXPECT_EQ(heightAt(twoWords / 2), ui::Grid::RowHeight + 2 * ui::Grid::LineHeight);
-    grid.TextMatrix(0, 1, "a heading of many more short words");
-    EXPECT_EQ(heightAt(100), ui::Grid::RowHeight + 2 * ui::Grid::LineHeight);
+    EXPECT_EQ(heightAt(100), ui::Grid::RowHeight + ui::Grid::LineHeight);
     grid.ColHidden(1, true);
     EXPECT_EQ(grid.HeadingHeight(), ui::Grid::RowHeight);
 }
 
-TEST_F(GridTest, ScrollsSoonerBelowAHighHeading) {
-    grid.WordWrap = true;
+TEST_F(GridTest, CountsRoomForAHighHeadingWhateverTheColumnsWidths) {
     grid.Rows(10);
     grid.Move(0, 0, 5000, 10 * ui::Grid::RowHeight + ui::Grid::BorderWidth);
     EXPECT_FALSE(grid.RowsOverflow());
+    grid.WordWrap = true;
+    EXPECT_TRUE(grid.RowsOverflow());
+    grid.Height(grid.Height() + ui::Grid::LineHeight);
+    EXPECT_FALSE(grid.RowsOverflow());
     grid.TextMatrix(0, 1, "two words");
     grid.ColWidth(1, 200);
-    EXPECT_TRUE(grid.RowsOverflow());
+    EXPECT_FALSE(grid.RowsOverflow());
 }
 
 TEST_F(GridTest, SavesEveryRowAndColumnFixedAndHiddenOnesIncluded) {

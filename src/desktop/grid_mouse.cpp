@@ -74,8 +74,9 @@ void GridView::mouseDoubleClickEvent(QMouseEvent* event) {
     const QPoint place = event->position().toPoint();
     if (const int edge = geometry_.edgeAt(place); edge >= 0) return act([&] { grid_.UserFitColumn(edge); });
     const CellAddress cell = geometry_.cellAt(place);
+    if (cell.Row < geometry_.fixedRows()) return;
     if (cell != CellAddress{grid_.Row(), grid_.Col()}) return mousePressEvent(event);
-    if (cell.Row >= geometry_.fixedRows()) beginEdit();
+    beginEdit();
 }
 
 void GridView::dragColumn(QPoint place) {

@@ -163,6 +163,7 @@ const GridPainter::ShapedText& GridPainter::shaped(const QString& text, int room
     const QStringList shown = brokenIntoLines(text, room, lines, metrics);
     added->Text.setTextFormat(Qt::PlainText);
     added->Text.setText(shown.join('\n'));
+    if (shown.size() > 1) added->Text.setTextWidth(room + 1);  // without a width line breaks are not heeded
     added->Text.prepare({}, font(bold));
     for (const QString& line : shown) added->Width = std::max(added->Width, metrics.horizontalAdvance(line));
     ShapedText* kept = added.release();

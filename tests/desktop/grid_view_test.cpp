@@ -267,7 +267,7 @@ private slots:
         QCOMPARE(w.picture().copy(marked), plain.copy(marked));
     }
 
-    void theCurrentCellHasAFrameThatTellsTheFocus() {
+    void theCurrentCellHasAFrameWhileTheGridHasTheFocus() {
         GridWindow w;
         w.select(2, 2);
         const QRect around = w.view.cellPlace(2, 2).adjusted(-1, -1, 0, 0);
@@ -277,17 +277,26 @@ private slots:
         w.select(4, 3);
         const QImage without = w.picture().copy(around);
         QVERIFY(focused != unfocused);
-        QVERIFY(unfocused != without);
+        QCOMPARE(unfocused, without);
         const QColor highlight = w.view.palette().color(QPalette::Highlight);
         QVERIFY(countOf(focused, highlight) > 2 * around.width());
         QCOMPARE(focused.pixelColor(focused.rect().topRight() + QPoint(-3, 3)),
                  w.view.palette().color(QPalette::Base));
     }
 
-    void aRangeIsShadedBesideItsCurrentCell() {
+    void aRangeThatCodeSelectsKeepsTheColoursOfItsCells() {
         GridWindow w;
+        w.run([&] { w.grid.Select(1, 1); });
         const QImage before = w.picture();
         w.run([&] { w.grid.Select(1, 1, 3, 2); });
+        QCOMPARE(w.picture(), before);
+    }
+
+    void aRangeOfTheUserIsShadedBesideItsCurrentCell() {
+        GridWindow w;
+        w.run([&] { w.grid.Select(1, 1); });
+        const QImage before = w.picture();
+        w.run([&] { w.grid.UserSelectTo(3, 2); });
         const QImage after = w.picture();
         const auto inside = [&](int row, int col) {
             return w.view.cellPlace(row, col).topLeft() + QPoint(3, 3);
@@ -299,6 +308,23 @@ private slots:
         QCOMPARE(after.pixelColor(inside(4, 2)), base);
         QCOMPARE(after.pixelColor(inside(3, 3)), base);
         QVERIFY(before != after);
+    }
+
+    void aHeadingTooLongForItsColumnTakesTwoLines() {
+        GridWindow w;
+        w.grid.WordWrap = true;
+        w.run([&] {
+            w.grid.TextMatrix(0, 2, "Proportion affected");
+            w.grid.ColWidth(2, 1200);
+        });
+        const QRect heading = w.view.cellPlace(0, 2);
+        QCOMPARE(heading.height(), w.link.scale().pixels(ui::Grid::RowHeight + ui::Grid::LineHeight));
+        const QImage upper = w.picture().copy(heading.adjusted(3, 3, -3, -heading.height() / 2));
+        const QImage lower = w.picture().copy(heading.adjusted(3, heading.height() / 2, -3, -3));
+        for (const QImage& half : {upper, lower})
+            QVERIFY(countOf(half, half.pixelColor(0, 0)) < half.width() * half.height() - 20);
+        QCOMPARE(w.view.cellPlace(1, 2).top(), heading.bottom() + 1);
+        QCOMPARE(w.view.cellAt(w.view.cellPlace(3, 2).center()), (desktop::CellAddress{3, 2}));
     }
 
     void aDisabledGridLooksDisabled() {

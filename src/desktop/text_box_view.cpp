@@ -6,6 +6,8 @@
 #include <QContextMenuEvent>
 #include <QGuiApplication>
 #include <QMenu>
+#include <QStyleOption>
+#include <algorithm>
 
 #include "desktop/texts.h"
 #include "ui/text_editor.h"
@@ -15,9 +17,8 @@ namespace desktop {
 
 namespace {
 
-// Qt leaves two pixels beside the text and its caret, which the design's boxes have no room for.
-constexpr int LeftMargin = -2;
-constexpr int RightMargin = -2;
+constexpr int QtMargin = 2;    // what Qt leaves beside the text and its caret
+constexpr int FrameWidth = 1;  // what the design's boxes have room for instead
 
 /// A place in UTF-16 as one in characters, and back.
 int charactersBefore(const QString& text, int place) {
@@ -33,11 +34,28 @@ int placeOf(const QString& text, int characters) {
 
 TextBoxView::TextBoxView(ui::TextBox& box, FormLink& link, QWidget* parent)
     : QLineEdit(parent), box_(box), link_(link) {
-    setTextMargins(LeftMargin, 0, RightMargin, 0);
+    fitMargins();
     setAcceptDrops(false);
     setDragEnabled(false);
     connect(this, &QLineEdit::selectionChanged, this, [this] { tellSelection(); });
     connect(this, &QLineEdit::cursorPositionChanged, this, [this] { tellSelection(); });
+}
+
+/// Takes back what the style's frame is wider than the design's boxes have room for.
+void TextBoxView::fitMargins() {
+    QStyleOptionFrame option;
+    initStyleOption(&option);
+    option.rect = QRect(0, 0, 1000, 1000);
+    const QRect contents = style()->subElementRect(QStyle::SE_LineEditContents, &option, this);
+    const auto margin = [](int frame, int room) { return std::min(0, room - frame); };
+    setTextMargins(margin(contents.left(), FrameWidth - QtMargin), margin(contents.top(), FrameWidth),
+                   margin(option.rect.right() - contents.right(), FrameWidth - QtMargin),
+                   margin(option.rect.bottom() - contents.bottom(), FrameWidth));
+}
+
+void TextBoxView::changeEvent(QEvent* event) {
+    QLineEdit::changeEvent(event);
+    if (event->type() == QEvent::StyleChange) fitMargins();
 }
 
 void TextBoxView::follow() {

@@ -17,6 +17,7 @@ public:
     void follow() override;
 
 protected:
+    void changeEvent(QEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
@@ -25,6 +26,7 @@ protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
+    void fitMargins();
     void type(const QString& text);
     void pressKey(int key);
     void pasteText(const QString& text);

@@ -238,16 +238,22 @@ class LayoutTest : public QObject {
 private slots:
     void everyViewIsWholeAndReadable_data() {
         QTest::addColumn<int>("pixels");
+        QTest::addColumn<QString>("style");
         for (const int dotsPerInch : {96, 144, 192}) {
             for (const int points : {9, 10, 12, 14}) {
                 QTest::addRow("%d points at %d dots per inch", points, dotsPerInch)
-                    << qRound(points * dotsPerInch / 72.0);
+                    << qRound(points * dotsPerInch / 72.0) << "Fusion";
             }
         }
+        for (const int pixels : {12, 17, 30})
+            QTest::addRow("%d pixels in another style", pixels) << pixels << "Windows";
     }
 
     void everyViewIsWholeAndReadable() {
         QFETCH(int, pixels);
+        QFETCH(QString, style);
+        QApplication::setStyle(style);
+        const auto takeBack = qScopeGuard([] { QApplication::setStyle("Fusion"); });
         const DesktopFont font(pixels);
         MainWindow window;
         window.open(ProjectText(12, 30, 8, 25)

@@ -123,6 +123,7 @@ private slots:
         w.run([&] { w.box.ListIndex(1); });
         w.clicks.clear();
         w.refuseEverything();
+        w.link.Followed = nullptr;  // as the control has not changed
         w.view.setFocus();
         w.key(Qt::Key_Down);
         QCOMPARE(w.view.currentIndex(), 1);

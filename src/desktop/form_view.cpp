@@ -213,6 +213,7 @@ QSize FormView::sizeOfContents(QSize room) const {
 
 void FormView::tellSize() {
     if (!open_) return;
+    arrangeContents();
     const Scale& scale = link_.scale();
     const QSize border = borderOfForm();
     const auto state = isMinimized()                     ? ui::WindowState::Minimized
@@ -228,6 +229,10 @@ void FormView::tellSize() {
     if (state != ui::WindowState::Normal) return;
     if (wantedGeometry() == shown) askedFrom_.reset();
     takeFormsGeometry();
+    // A form that is larger than a window manager lets its window be is scrolled.
+    const QSize laidOut(scale.pixels(form_.Width() - border.width()),
+                        scale.pixels(form_.Height() - border.height()));
+    contents_->resize(contents_->size().expandedTo(laidOut));
 }
 
 void FormView::resizeEvent(QResizeEvent*) {

@@ -4,6 +4,7 @@
 
 #include <QAction>
 #include <QLineEdit>
+#include <QScrollBar>
 #include <QTimer>
 
 #include "desktop/desktop_test.h"
@@ -156,6 +157,9 @@ private slots:
         program.window().resize(width + 300, program.window().height());
         QTRY_VERIFY(program.form().Width() > 11000);
         QCOMPARE(program.window().width(), width + 300);
+        const auto& area = *program.window().findChild<QScrollArea*>();
+        QCOMPARE(area.horizontalScrollBar()->maximum(), 0);
+        QCOMPARE(area.verticalScrollBar()->maximum(), 0);
     }
 
     void minimisingChangesNothing() {

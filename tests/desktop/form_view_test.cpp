@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTextDocument>
 
 #include "desktop/desktop_test.h"
@@ -289,6 +290,9 @@ private slots:
         for (int i = 0; i < 4; ++i) w.settle();
         QCOMPARE(manager.Refusals, 1);
         QCOMPARE(w.view->geometry(), QRect(40, 50, 300, 200));
+        const auto& area = *w.view->findChild<QScrollArea*>();
+        QCOMPARE(area.widget()->width(), w.link.scale().pixels(11000 - ui::FormWindow::BorderWidth));
+        QVERIFY(area.horizontalScrollBar()->maximum() > 0);
     }
 
     void aMinimisedWindowTellsItsStateOnly() {

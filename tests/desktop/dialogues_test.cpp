@@ -51,6 +51,13 @@ User::Step press(Qt::Key key) {
     };
 }
 
+User::Step click(QDialogButtonBox::StandardButton which) {
+    return [which](QWidget& box) {
+        QTest::mouseClick(box.findChild<QDialogButtonBox*>()->button(which), Qt::LeftButton);
+        return true;
+    };
+}
+
 const QLabel& textOf(const QWidget& box) {
     for (const QLabel* label : box.findChildren<QLabel*>()) {
         if (!label->text().isEmpty()) return *label;
@@ -159,20 +166,19 @@ private slots:
         QVERIFY(desktop::showQuestionBox(nullptr, "Sure?", "title"));
     }
 
-    void aQuestionIsNoByEscapeAndByTheCloseBox() {
-        User escape({press(Qt::Key_Escape)});
+    /// Whether they answer it or leave it to its buttons.
+    void aQuestionIsNeverYesByEscapeOrTheCloseBox() {
+        User escape({press(Qt::Key_Escape), click(QDialogButtonBox::No)});
         QVERIFY(!desktop::showQuestionBox(nullptr, "Sure?", "title"));
-        User close({[](QWidget& box) { return box.close(); }});
+        User close({[](QWidget& box) {
+                        box.close();
+                        return true;
+                    },
+                    click(QDialogButtonBox::No)});
         QVERIFY(!desktop::showQuestionBox(nullptr, "Sure?", "title"));
     }
 
     void aQuestionIsAnsweredByItsButtons() {
-        const auto click = [](QDialogButtonBox::StandardButton which) -> User::Step {
-            return [which](QWidget& box) {
-                QTest::mouseClick(box.findChild<QDialogButtonBox*>()->button(which), Qt::LeftButton);
-                return true;
-            };
-        };
         User no({click(QDialogButtonBox::No)});
         QVERIFY(!desktop::showQuestionBox(nullptr, "Sure?", "title"));
         User yes({click(QDialogButtonBox::Yes)});

@@ -54,7 +54,7 @@ CellEditor::CellEditor(ui::Grid& grid, FormLink& link, const GridPainter& painte
       list_(new CellList(view, link.scale().pixels(ui::Grid::RowHeight))) {
     setFocusPolicy(Qt::NoFocus);
     setCursor(Qt::IBeamCursor);
-    connect(list_, &QListWidget::itemClicked, this, [this] { chooseItem(list_->currentRow()); });
+    connect(list_, &QListWidget::itemClicked, this, [this] { chooseItem(list_->currentRow(), false); });
     hide();
 }
 
@@ -118,7 +118,7 @@ bool CellEditor::listKey(QKeyEvent* event) {
     }
     if (toggles || event->key() == Qt::Key_Escape) return list_->hide(), true;
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-        return chooseItem(list_->currentRow()), true;
+        return chooseItem(list_->currentRow(), true), true;
     }
     return list_->move(event->key());
 }
@@ -133,14 +133,20 @@ void CellEditor::openList() {
     list_->open(items, static_cast<int>(items.indexOf(text())), QRect(mapToGlobal(QPoint()), size()));
 }
 
-/// Takes an item of the list and closes the editor with it; without one the list closes only.
-void CellEditor::chooseItem(int index) {
+/// Takes an item of the list and closes the editor with it, by Enter for the next cell; without an item the list closes
+/// only.
+void CellEditor::chooseItem(int index, bool stepsOn) {
     list_->hide();
     const auto items = grid_.ComboItems();
     if (index < 0 || static_cast<std::size_t>(index) >= items.size()) return;
     const std::string item(items[static_cast<std::size_t>(index)]);
     link_.run([&] {
-        if (grid_.UserEditChoose(item)) grid_.UserCommitEdit();
+        if (!grid_.UserEditChoose(item)) return;
+        if (stepsOn) {
+            grid_.UserEditKey(ui::EnterKey);
+        } else {
+            grid_.UserCommitEdit();
+        }
     });
 }
 

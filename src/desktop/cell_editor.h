@@ -52,7 +52,7 @@ protected:
 
 private:
     bool listKey(QKeyEvent* event);
-    void chooseItem(int index);
+    void chooseItem(int index, bool stepsOn);
     void followList();
     QRect button() const;
     bool commandKey(QKeyEvent* event);

@@ -19,7 +19,6 @@ constexpr double GroupWidth = 0.72;           // of a category
 constexpr double CrowdedGroupWidth = 1;       // where a gap would be no pixel wide
 constexpr double NarrowestGap = 1;            // pixels
 constexpr double NarrowestBarWithEdge = 3.5;  // pixels
-constexpr int EdgeContrast = 120;             // per cent: how much darker a bar is that has no edge
 constexpr int TickLength = 4;
 constexpr double TickDistance = 2;  // lines, from one value to the next
 constexpr double HitTolerance = 3;  // pixels
@@ -211,7 +210,8 @@ void ChartPlot::arrangeCategoryAxis() {
     xAxis->setTickLabelRotation(labels_.Upright ? Upright : 0);
 }
 
-/// An edge around every bar would blacken bars that are a few pixels wide.
+/// An edge around every bar would blacken bars that are a few pixels wide; smoothing would thin their colours. The
+/// narrowest keep a pixel in their own colour.
 void ChartPlot::arrangeBars() {
     const double spacing = axisRect()->width() / xAxis->range().size();
     const double group = spacing * (1 - GroupWidth) < NarrowestGap ? CrowdedGroupWidth : GroupWidth;
@@ -220,10 +220,10 @@ void ChartPlot::arrangeBars() {
     for (std::size_t i = 0; i < bars_.size(); ++i) {
         const ChartNumbers::Series& series = numbers_.AllSeries[i];
         bars_[i]->setWidth(width);
-        bars_[i]->setPen(edged ? QPen(series.EdgePen) : QPen(Qt::NoPen));
-        bars_[i]->setBrush(edged ? series.FillColor : series.FillColor.darker(EdgeContrast));
-        bars_[i]->setAntialiased(!edged);
-        bars_[i]->setAntialiasedFill(!edged);
+        bars_[i]->setPen(edged ? series.EdgePen : series.FillColor);
+        bars_[i]->setBrush(series.FillColor);
+        bars_[i]->setAntialiased(false);
+        bars_[i]->setAntialiasedFill(false);
     }
 }
 

@@ -17,6 +17,7 @@ public:
     void follow() override;
 
 protected:
+    void keyPressEvent(QKeyEvent* event) override;
     void showPopup() override;
     /// A wheel that only scrolls past must not choose.
     void wheelEvent(QWheelEvent* event) override;
@@ -25,6 +26,7 @@ private:
     bool showsTheItems() const;
 
     ui::ComboBox& box_;
+    FormLink& link_;
 };
 
 }  // namespace desktop

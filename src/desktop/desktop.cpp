@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <new>
+#include <utility>
 
 #include "desktop/chart_view.h"
 #include "desktop/dialogues.h"
@@ -15,6 +16,19 @@ namespace {
 
 constexpr int ExitAfterFailure = 4;  // as brenica-batch ends after an unexpected error
 
+/// Gives a flag a value for as long as it lives.
+class Held {
+public:
+    Held(bool& flag, bool value) : flag_(flag), before_(std::exchange(flag, value)) {}
+    ~Held() { flag_ = before_; }
+    Held(const Held&) = delete;
+    Held& operator=(const Held&) = delete;
+
+private:
+    bool& flag_;
+    bool before_;
+};
+
 }  // namespace
 
 Desktop::Desktop() : scale_(QApplication::font()), platform_(scale_, *this), program_(platform_) {}
@@ -25,29 +39,38 @@ void Desktop::start() {
 
 /// The end of all exceptions. A failure ends the program, as the form has nothing to go on with.
 void Desktop::run(const std::function<void()>& action) {
-    if (ended_) return;
+    if (ended_ || busy_) return;
     try {
+        const Held busy(busy_, true);
         action();
-        followForms();
     } catch (const std::bad_alloc&) {
         return fail(ui::describe(ui::ErrorNumber::OutOfMemory));
     } catch (const std::exception& failure) {
         return fail(failure.what());
     }
+    followForms();
     if (program_.Ended()) end(0);
 }
 
 void Desktop::fail(const std::string& description) {
     if (std::exchange(ended_, true)) return;
+    followForms();
     while (QApplication::overrideCursor() != nullptr) QApplication::restoreOverrideCursor();
     showMessageBox(ownerOfBoxes(), description, ui::ApplicationTitle, ui::MessageIcon::Exclamation);
     end(ExitAfterFailure);
 }
 
+/// The one place where other actions may begin within one.
+void Desktop::handlePendingEvents() {
+    const Held free(busy_, false);
+    followForms();
+    QApplication::processEvents();
+}
+
 void Desktop::end(int exitCode) {
     ended_ = true;
     for (FormView* window : {splash_.get(), mainWindow_.get()}) {
-        if (window != nullptr) window->hide();
+        if (window != nullptr) window->retire();
     }
     // Queued, since the loop may not have begun.
     QMetaObject::invokeMethod(
@@ -64,7 +87,7 @@ void Desktop::followForms() {
 void Desktop::follow(std::unique_ptr<FormView>& window, ui::FormWindow* form) {
     if (form == nullptr) return;
     if (form->Unloaded()) {
-        if (window != nullptr) window->hide();
+        if (window != nullptr) window->retire();
     } else if (window == nullptr) {
         window = std::make_unique<FormView>(*form, *this);
         window->open();

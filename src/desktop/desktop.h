@@ -19,10 +19,12 @@ public:
     void start();
 
     void run(const std::function<void()>& action) override;
+    bool isBusy() const override { return busy_; }
     const Scale& scale() const override { return scale_; }
 
     void followForms() override;
     QWidget* ownerOfBoxes() override;
+    void handlePendingEvents() override;
     QPixmap pictureOf(const ui::Chart& chart) override;
 
     Program& program() { return program_; }
@@ -39,6 +41,7 @@ private:
     Program program_;
     std::unique_ptr<FormView> splash_;
     std::unique_ptr<FormView> mainWindow_;
+    bool busy_ = false;
     bool ended_ = false;
 };
 

@@ -3,17 +3,21 @@
 #include "desktop/dialogues.h"
 
 #include <QDialogButtonBox>
+#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QStandardPaths>
 #include <QVBoxLayout>
 
 #include "desktop/texts.h"
+#include "ui/window_texts.h"
 
 namespace desktop {
 
@@ -80,12 +84,12 @@ QWidget* Box::makeText(const QString& text) {
     const QSize needed(width, label->heightForWidth(width));
     label->setMinimumSize(needed);
     if (needed.boundedTo(most) == needed) return label;
-    auto* scrolled = new QScrollArea(this);
-    scrolled->setWidget(label);
-    scrolled->setFrameShape(QFrame::NoFrame);
+    scrolled_ = new QScrollArea(this);
+    scrolled_->setWidget(label);
+    scrolled_->setFrameShape(QFrame::NoFrame);
     const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
-    scrolled->setMinimumSize((needed + QSize(bar, bar)).boundedTo(most));
-    return scrolled;
+    scrolled_->setMinimumSize((needed + QSize(bar, bar)).boundedTo(most));
+    return scrolled_;
 }
 
 void Box::setIcon(QStyle::StandardPixmap icon) {
@@ -101,7 +105,29 @@ QLineEdit& Box::addAnswer(const std::string& proposed) {
     column_->addWidget(answer);
     answer->selectAll();
     answer->setFocus();
+    answer->installEventFilter(this);
     return *answer;
+}
+
+void Box::reject() {
+    if (!mustBeAnswered_) QDialog::reject();
+}
+
+bool Box::eventFilter(QObject*, QEvent* event) {
+    if (event->type() != QEvent::KeyPress) return false;
+    const auto& key = *static_cast<QKeyEvent*>(event);
+    switch (key.key()) {
+        case Qt::Key_Return:
+        case Qt::Key_Enter: return key.isAutoRepeat();
+        case Qt::Key_PageUp:
+        case Qt::Key_PageDown: break;
+        default: return false;
+    }
+    if (scrolled_ == nullptr) return false;
+    const bool back = key.key() == Qt::Key_PageUp;
+    scrolled_->verticalScrollBar()->triggerAction(back ? QScrollBar::SliderPageStepSub
+                                                       : QScrollBar::SliderPageStepAdd);
+    return true;
 }
 
 void showMessageBox(QWidget* parent, const std::string& text, const std::string& title,
@@ -117,9 +143,12 @@ bool showQuestionBox(QWidget* parent, const std::string& text, const std::string
     Box box(parent, title, text);
     box.setIcon(QStyle::SP_MessageBoxQuestion);
     box.buttons().setStandardButtons(QDialogButtonBox::Yes | QDialogButtonBox::No);
+    box.mustBeAnswered();
     QPushButton* yes = box.buttons().button(QDialogButtonBox::Yes);
     yes->setDefault(true);
     yes->setFocus();
+    const QPushButton* no = box.buttons().button(QDialogButtonBox::No);
+    QObject::connect(no, &QPushButton::clicked, &box, [&box] { box.done(QDialog::Rejected); });
     return box.exec() == QDialog::Accepted;
 }
 
@@ -131,29 +160,62 @@ std::string showInputBox(QWidget* parent, const std::string& prompt, const std::
     return box.exec() == QDialog::Accepted ? utf8(answer.text()) : std::string();
 }
 
-std::optional<std::string> showFileDialogue(QWidget* parent, const ui::FileDialogRequest& request,
-                                            QString& lastFolder) {
-    QFileDialog dialogue(parent);
-    const bool saves = request.Kind == ui::FileDialogKind::Save;
-    dialogue.setAcceptMode(saves ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
-    dialogue.setFileMode(saves ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
-    dialogue.setOption(QFileDialog::DontConfirmOverwrite, (request.Flags & AskBeforeOverwriting) == 0);
-    dialogue.setNameFilters(filtersOf(request.Filter));
-    QString extension = QString::fromStdString(request.DefaultExt);
-    if (extension.startsWith('.')) extension.remove(0, 1);
-    dialogue.setDefaultSuffix(extension);
-    if (lastFolder.isEmpty()) {
-        lastFolder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+namespace {
+
+/// The path with the extension that its name lacks.
+QString completed(const QString& path, const QString& extension) {
+    const QString ending = '.' + extension;
+    return extension.isEmpty() || path.endsWith(ending, Qt::CaseInsensitive) ? path : path + ending;
+}
+
+/// Whether a file may be written there: in a folder that there is, and over another file only if the user says so.
+bool mayBeWritten(QWidget* parent, const QString& path, bool asksBeforeOverwriting) {
+    const QFileInfo file(path);
+    if (!QDir(file.absolutePath()).exists()) {
+        const QString fault = QString::fromUtf8(ui::window_text::NoSuchFolder).arg(file.absolutePath());
+        showMessageBox(parent, utf8(fault), ui::ApplicationTitle, ui::MessageIcon::Exclamation);
+        return false;
     }
+    if (!asksBeforeOverwriting || !file.exists()) return true;
+    const QString question = QString::fromUtf8(ui::window_text::MayBeReplaced).arg(file.fileName());
+    return showQuestionBox(parent, utf8(question), ui::ApplicationTitle);
+}
+
+void openWhereProposed(QFileDialog& dialogue, const ui::FileDialogRequest& request,
+                       const QString& lastFolder) {
     const QFileInfo proposed(QString::fromStdString(request.FileName));
     const QString wanted = QString::fromStdString(request.InitDir);
     const bool namesFolder = !request.FileName.empty() && proposed.isAbsolute();
     dialogue.setDirectory(namesFolder ? proposed.absolutePath() : wanted.isEmpty() ? lastFolder : wanted);
     if (!request.FileName.empty()) dialogue.selectFile(proposed.fileName());
-    if (dialogue.exec() != QDialog::Accepted) return std::nullopt;
-    const QString chosen = dialogue.selectedFiles().value(0);
-    lastFolder = QFileInfo(chosen).absolutePath();
-    return utf8(chosen);
+}
+
+}  // namespace
+
+/// What is chosen is looked at here, since dialogues of the desktop's own complete names after they have asked.
+std::optional<std::string> showFileDialogue(QWidget* parent, const ui::FileDialogRequest& request,
+                                            QString& lastFolder) {
+    const bool saves = request.Kind == ui::FileDialogKind::Save;
+    QString extension = QString::fromStdString(request.DefaultExt);
+    if (extension.startsWith('.')) extension.remove(0, 1);
+    if (lastFolder.isEmpty()) {
+        lastFolder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    }
+    QFileDialog dialogue(parent);
+    dialogue.setAcceptMode(saves ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    dialogue.setFileMode(saves ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    dialogue.setOption(QFileDialog::DontConfirmOverwrite);
+    dialogue.setNameFilters(filtersOf(request.Filter));
+    dialogue.setDefaultSuffix(extension);
+    openWhereProposed(dialogue, request, lastFolder);
+    while (dialogue.exec() == QDialog::Accepted) {
+        const QString chosen = dialogue.selectedFiles().value(0);
+        const QString path = saves ? completed(chosen, extension) : chosen;
+        if (saves && !mayBeWritten(parent, path, (request.Flags & AskBeforeOverwriting) != 0)) continue;
+        lastFolder = QFileInfo(path).absolutePath();
+        return utf8(path);
+    }
+    return std::nullopt;
 }
 
 }  // namespace desktop

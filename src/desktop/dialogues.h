@@ -12,6 +12,7 @@
 #include "ui/platform.h"
 
 class QDialogButtonBox;
+class QScrollArea;
 class QVBoxLayout;
 
 namespace desktop {
@@ -26,6 +27,14 @@ public:
     /// A line to answer in, with the proposed answer selected.
     QLineEdit& addAnswer(const std::string& proposed);
     QDialogButtonBox& buttons() { return *buttons_; }
+    /// Escape and the close box then do nothing: one of the buttons has to be pressed.
+    void mustBeAnswered() { mustBeAnswered_ = true; }
+
+    void reject() override;
+
+protected:
+    /// Keys of the answer that are not its own: paging through the text, and a held Enter, which answers nothing.
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     QWidget* makeText(const QString& text);
@@ -33,15 +42,17 @@ private:
     QLabel* icon_;
     QVBoxLayout* column_;
     QDialogButtonBox* buttons_;
+    QScrollArea* scrolled_ = nullptr;
+    bool mustBeAnswered_ = false;
 };
 
 void showMessageBox(QWidget* parent, const std::string& text, const std::string& title, ui::MessageIcon icon);
-/// Yes is the default; Escape and the close box are No.
+/// Yes is the default. Only its buttons answer it: whoever presses Escape does not mean that work be lost.
 bool showQuestionBox(QWidget* parent, const std::string& text, const std::string& title);
 /// The answer, empty when the box is cancelled.
 std::string showInputBox(QWidget* parent, const std::string& prompt, const std::string& title,
                          const std::string& proposed);
-/// The path chosen. `lastFolder` is where a dialogue opens that names no folder; it becomes the chosen file's.
+/// The path chosen, in a folder that exists and with an extension. `lastFolder` is where a dialogue opens that names no folder; it becomes the chosen file's.
 std::optional<std::string> showFileDialogue(QWidget* parent, const ui::FileDialogRequest& request,
                                             QString& lastFolder);
 

@@ -46,6 +46,7 @@ FormView::FormView(ui::FormWindow& form, FormLink& link)
       contents_(new QWidget) {
     setObjectName(shownText(form.Name()));
     announceAs(*this, QAccessible::Window);
+    setAttribute(Qt::WA_KeyboardFocusChange);  // styles then show the focus after a click, too
     contents_->setFocusPolicy(Qt::NoFocus);
     scroll_->setFocusPolicy(Qt::NoFocus);
     scroll_->setFrameShape(QFrame::NoFrame);
@@ -78,12 +79,17 @@ void FormView::addView(ui::Control& control) {
 
 void FormView::startTimers() {
     for (ui::Timer* timer : form_.Timers()) {
-        auto ticking = std::make_unique<QTimer>();
-        connect(ticking.get(), &QTimer::timeout, this,
-                [this, timer] { link_.run([timer] { timer->Elapse(); }); });
+        auto* ticking = new QTimer(this);
+        connect(ticking, &QTimer::timeout, this, [this, timer] { link_.run([timer] { timer->Elapse(); }); });
         if (timer->Enabled) ticking->start(timer->Interval);
-        timers_.push_back(std::move(ticking));
+        timers_.append(ticking);
     }
+}
+
+void FormView::retire() {
+    for (QTimer* timer : timers_) timer->stop();
+    settled_.stop();
+    hide();
 }
 
 /// The keys that turn pages wherever the focus is: those of the outermost strip on view, and of the innermost.
@@ -213,6 +219,7 @@ QSize FormView::sizeOfContents(QSize room) const {
 
 void FormView::tellSize() {
     if (!open_) return;
+    if (link_.isBusy()) return settled_.start();  // under a box: once it has been answered
     arrangeContents();
     const Scale& scale = link_.scale();
     const QSize border = borderOfForm();

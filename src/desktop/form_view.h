@@ -5,10 +5,8 @@
 #include <QScrollArea>
 #include <QTimer>
 #include <QWidget>
-#include <memory>
 #include <optional>
 #include <unordered_map>
-#include <vector>
 
 #include "desktop/view.h"
 #include "ui/form_window.h"
@@ -26,6 +24,9 @@ public:
     void open();
     /// Lets the views of all changed controls follow.
     void follow();
+    /// Takes the window away for good, with its timers. It stays in memory, since the action that ended its form may
+    /// have come from it.
+    void retire();
     /// Nothing for a control of another form.
     View* viewOf(const ui::Control& control) const;
 
@@ -58,7 +59,7 @@ private:
     QScrollArea* scroll_;
     QWidget* contents_;
     std::unordered_map<const ui::Control*, View*> views_;
-    std::vector<std::unique_ptr<QTimer>> timers_;
+    QList<QTimer*> timers_;
     QTimer settled_;
     /// Where the window stood when it was last asked to go where the form wants it, to ask a window manager only once.
     std::optional<QRect> askedFrom_;

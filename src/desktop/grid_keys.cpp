@@ -49,7 +49,16 @@ bool GridView::clipboardKey(QKeyEvent* event) {
     if (event->matches(QKeySequence::Copy)) return copyCells(), true;
     if (event->matches(QKeySequence::Paste)) return pasteCells(), true;
     if (event->matches(QKeySequence::SelectAll)) return selectAll(), true;
+    if (event->matches(QKeySequence::Cut)) return cutCell(), true;
     return false;
+}
+
+/// Only one cell at a time can be emptied.
+void GridView::cutCell() {
+    if (grid_.Editable == ui::EditMode::ReadOnly) return;
+    const bool oneCell = grid_.Row() == grid_.RowSel() && grid_.Col() == grid_.ColSel();
+    copyCells();
+    if (oneCell) act([this] { grid_.UserDelete(); });
 }
 
 bool GridView::moveKey(QKeyEvent* event) {
@@ -159,7 +168,7 @@ bool GridView::editKey(QKeyEvent* event) {
 /// Opens an editor on a closed cell for these keys and shows the cell.
 void GridView::edit(const std::function<void()>& keys) {
     act([&] {
-        if (grid_.Editing() || grid_.UserBeginEdit()) keys();
+        if (grid_.Editing() || (grid_.UserEnterBody() && grid_.UserBeginEdit())) keys();
     });
     if (grid_.Editing()) reveal({grid_.Row(), grid_.Col()});
 }

@@ -25,8 +25,9 @@ void GridView::hover(QPoint place) {
     act([&] { grid_.UserMouseMove(cell.Row, cell.Col); });
 }
 
+/// The form hears nothing of it: a tip stays with its heading until the mouse is over another cell.
 void GridView::leave() {
-    hover({-1, -1});
+    hovered_ = {};
     if (draggedCol_ < 0) viewport()->unsetCursor();
 }
 

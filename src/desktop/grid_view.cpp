@@ -238,7 +238,20 @@ void GridView::reveal(CellAddress cell) {
     if (before > 0) columns->setValue(columns->value() - before);
 }
 
+/// A right click on a cell outside the selection is meant for that cell.
+void GridView::moveToClicked(QPoint place) {
+    const CellAddress cell = geometry_.cellAt(place);
+    const auto within = [](int index, int one, int other) {
+        return index >= std::min(one, other) && index <= std::max(one, other);
+    };
+    if (grid_.Editing() || cell.Row < geometry_.fixedRows() || cell.Col < geometry_.fixedCols()) return;
+    const bool selected =
+        within(cell.Row, grid_.Row(), grid_.RowSel()) && within(cell.Col, grid_.Col(), grid_.ColSel());
+    if (!selected) act([&] { grid_.UserMoveTo(cell.Row, cell.Col); });
+}
+
 void GridView::contextMenuEvent(QContextMenuEvent* event) {
+    if (event->reason() == QContextMenuEvent::Mouse) moveToClicked(event->pos());
     auto* menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     const auto add = [&](const char* text, QKeySequence::StandardKey keys, bool enabled, auto action) {
@@ -271,7 +284,10 @@ void GridView::pasteCells() {
     if (grid_.Editing()) return editor_->paste();
     const std::string lines = utf8(QApplication::clipboard()->text());
     if (grid_.Editable == ui::EditMode::ReadOnly || lines.empty()) return;
-    act([&] { grid_.UserPasteBlock(lines); });
+    act([&] {
+        grid_.UserEnterBody();
+        grid_.UserPasteBlock(lines);
+    });
     reveal({grid_.Row(), grid_.Col()});
 }
 

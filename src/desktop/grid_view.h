@@ -82,6 +82,8 @@ private:
     void edit(const std::function<void()>& keys);
     void beginEdit();
     void typeText(const QString& text);
+    void moveToClicked(QPoint place);
+    void cutCell();
     void copyCells() const;
     void pasteCells();
 

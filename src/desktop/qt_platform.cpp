@@ -118,10 +118,7 @@ void QtPlatform::setMousePointer(ui::MousePointer pointer) {
     }
 }
 
-void QtPlatform::processPendingEvents() {
-    windows_.followForms();
-    QApplication::processEvents();
-}
+void QtPlatform::processPendingEvents() { windows_.handlePendingEvents(); }
 
 /// The examples, installed beside the program or in the tree that it was built in.
 std::string QtPlatform::programFolder() const {

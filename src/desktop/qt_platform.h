@@ -21,6 +21,8 @@ public:
     virtual ~Windows() = default;
     /// Lets every view follow the form, as before a box that stays until it is answered.
     virtual void followForms() = 0;
+    /// Shows what there is to show and lets events through that are waiting, actions of the user among them.
+    virtual void handlePendingEvents() = 0;
     /// The window that a box belongs to; null while there is none.
     virtual QWidget* ownerOfBoxes() = 0;
     /// The chart as it is seen.

@@ -4,6 +4,7 @@
 
 #include <QKeyEvent>
 #include <QPainter>
+#include <QShortcutEvent>
 
 #include "desktop/accessible_role.h"
 #include "desktop/texts.h"
@@ -20,6 +21,14 @@ Qt::Alignment alignmentOf(ui::CellAlign alignment) {
         case ui::CellAlign::RightCentre: return Qt::AlignRight | Qt::AlignTop;
         default: return Qt::AlignLeft | Qt::AlignTop;
     }
+}
+
+/// An access key clicks at once. Left to itself Qt clicks a moment later, when another command may have begun.
+bool clickedByAccessKey(QAbstractButton& button, QEvent& event) {
+    if (event.type() != QEvent::Shortcut || static_cast<QShortcutEvent&>(event).isAmbiguous()) return false;
+    button.setFocus(Qt::ShortcutFocusReason);
+    button.click();
+    return true;
 }
 
 }  // namespace
@@ -59,6 +68,10 @@ CommandButtonView::CommandButtonView(ui::CommandButton& button, FormLink& link, 
 
 void CommandButtonView::follow() { setText(captionWithAccessKey(button_)); }
 
+bool CommandButtonView::event(QEvent* event) {
+    return clickedByAccessKey(*this, *event) || QPushButton::event(event);
+}
+
 void CommandButtonView::keyPressEvent(QKeyEvent* event) {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (enter && !event->isAutoRepeat()) return click();
@@ -68,6 +81,10 @@ void CommandButtonView::keyPressEvent(QKeyEvent* event) {
 CheckBoxView::CheckBoxView(ui::CheckBox& box, FormLink& link, QWidget* parent)
     : QCheckBox(parent), box_(box) {
     connect(this, &QCheckBox::clicked, this, [this, &link] { link.run([this] { box_.UserClick(); }); });
+}
+
+bool CheckBoxView::event(QEvent* event) {
+    return clickedByAccessKey(*this, *event) || QCheckBox::event(event);
 }
 
 void CheckBoxView::follow() {
@@ -80,6 +97,10 @@ OptionButtonView::OptionButtonView(ui::OptionButton& button, FormLink& link, QWi
     setAutoExclusive(false);  // the form keeps one of a group on
     announceAs(*this, QAccessible::RadioButton);
     connect(this, &QRadioButton::clicked, this, [this] { choose(); });
+}
+
+bool OptionButtonView::event(QEvent* event) {
+    return clickedByAccessKey(*this, *event) || QRadioButton::event(event);
 }
 
 void OptionButtonView::follow() {

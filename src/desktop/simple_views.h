@@ -64,6 +64,7 @@ public:
     void follow() override;
 
 protected:
+    bool event(QEvent* event) override;
     /// Enter clicks, as the blank does.
     void keyPressEvent(QKeyEvent* event) override;
 
@@ -79,6 +80,7 @@ public:
     void follow() override;
 
 protected:
+    bool event(QEvent* event) override;
     void nextCheckState() override {}
 
 private:
@@ -92,6 +94,7 @@ public:
     void follow() override;
 
 protected:
+    bool event(QEvent* event) override;
     void nextCheckState() override {}
     /// The arrows choose the next button of the group.
     void keyPressEvent(QKeyEvent* event) override;

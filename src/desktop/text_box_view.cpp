@@ -86,8 +86,9 @@ void TextBoxView::focusInEvent(QFocusEvent* event) {
     following_ = true;  // Qt selects by itself
     QLineEdit::focusInEvent(event);
     following_ = false;
-    const bool cameBack =
-        event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason;
+    const bool cameBack = event->reason() == Qt::ActiveWindowFocusReason ||
+                          event->reason() == Qt::PopupFocusReason ||
+                          event->reason() == Qt::MenuBarFocusReason;
     pressGaveFocus_ = event->reason() == Qt::MouseFocusReason;
     if (!cameBack) link_.run([this] { box_.UserFocus(); });
     follow();

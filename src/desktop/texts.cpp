@@ -19,8 +19,10 @@ QString captionWithAccessKey(const ui::Control& control) {
 }
 
 QString plainToolTip(std::string_view text) {
+    constexpr int LongestLine = 80;  // characters; Qt breaks lines of marked-up text only
     const QString tip = shownText(text);
-    return Qt::mightBeRichText(tip) ? tip.toHtmlEscaped() : tip;
+    if (tip.size() <= LongestLine && !Qt::mightBeRichText(tip)) return tip;
+    return "<p>" + tip.toHtmlEscaped().replace('\n', "<br>") + "</p>";
 }
 
 std::string utf8(const QString& text) { return text.toStdString(); }

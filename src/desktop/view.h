@@ -15,8 +15,11 @@ public:
     virtual ~FormLink() = default;
 
     /// Runs `action`, which calls user actions of the form's controls. When it has returned, every view of a control
-    /// that it changed has followed. If it fails, the failure is shown and the program ends: nothing is thrown on.
+    /// that it changed has followed. If it fails, the failure is shown and the program ends: nothing is thrown on. While
+    /// another action runs, as under a box that it shows, nothing happens.
     virtual void run(const std::function<void()>& action) = 0;
+    /// Whether an action runs, so that another one would be dropped.
+    virtual bool isBusy() const { return false; }
     virtual const Scale& scale() const = 0;
 };
 

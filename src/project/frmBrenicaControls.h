@@ -231,9 +231,6 @@ struct frmBrenicaControls : ui::FormWindow {
         fraCriteria(2), "flxLandUsesVulnerability", {.AccessibleName = "Vulnerability to human activities"}};
     ui::Grid flxFunctionality{fraCriteria(3), "flxFunctionality", {.AccessibleName = "Ecological functions"}};
     ui::Grid flxSocioEcon{fraCriteria(4), "flxSocioEcon", {.AccessibleName = "Socio-economic value"}};
-    ui::Label lblCCS{
-        fraTabContents(2), "lblCCS", {.Caption = "Current Conservation Status:", .AccessKey = 'u'}};
-    ui::TextBox txtCCS{fraTabContents(2), "txtCCS", "0"};
     ui::Label lblDataQuality{
         fraTabContents(2), "lblDataQuality", {.Caption = "Data quality:", .AccessKey = 'q'}};
     ui::ComboBox cbxDataQuality{
@@ -242,6 +239,9 @@ struct frmBrenicaControls : ui::FormWindow {
         {"1 - Excellent data from site", "2 - Excellent data from similar site",
          "3 - Good data from site/similar site", "4 - Bad or incomplete data from site/similar site",
          "5 - Data from similar species/dissimilar site", "6 - No data just informed guesses"}};
+    ui::Label lblCCS{
+        fraTabContents(2), "lblCCS", {.Caption = "Current Conservation Status:", .AccessKey = 'u'}};
+    ui::TextBox txtCCS{fraTabContents(2), "txtCCS", "0"};
 
     // Page 4: summary tables.
     ui::TabStrip tabCriteriaSummary{fraTabContents(3),

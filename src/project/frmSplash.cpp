@@ -34,6 +34,9 @@ frmSplash::frmSplash(ui::Platform& platform, std::function<void()> showMainForm,
     lblMerrowdaleProg.Move(0, 0, 3000, 400);
     lblMerrowdaleProg.TextFont.Size = 14;
     lblMerrowdaleProg.Alignment = ui::CellAlign::RightCentre;
+    for (ui::Label* label : {&lblBrenicaSoftware, &lblVersion, &lblMerrowdaleProg}) {
+        label->ForeColor = ui::rgb(20, 48, 44);  // dark on the picture's sky and water
+    }
     SplashTimer.Elapsed = [this] { SplashTimer_Timer(); };
     Click = [this] { Form_Click(); };
     KeyPress = [this] { Form_KeyPress(); };

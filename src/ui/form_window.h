@@ -58,7 +58,9 @@ public:
     void UserKeyPress() { KeyPress(); }
     void UserResize(ui::WindowState state, int left, int top, int width, int height);
     /// The window's close box: asks nothing.
-    void UserClose() { Unload(); }
+    void UserClose() {
+        if (CommitOpenEditor()) Unload();
+    }
 
     /// The grid with the open cell editor, if any.
     Grid* EditingGrid() const { return editingGrid_; }

@@ -177,6 +177,9 @@ public:
     /// Whether Tab, or Tab backwards, finds no further cell.
     bool AtLastCell() const;
     bool AtFirstCell() const;
+    /// Moves from a heading, where a grid's current cell is at first, to the first cell of the body; false where there
+    /// is none.
+    bool UserEnterBody();
     /// Selects the cells between the current cell and this one of the body, without moving the current cell.
     bool UserSelectTo(int row, int col);
     /// The selected cells as lines of tab-separated texts, hidden columns left out.

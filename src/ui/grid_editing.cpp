@@ -45,8 +45,11 @@ bool Grid::stepTo(int row, int col) { return isBody(row, col) && UserMoveTo(row,
 
 /// From a heading to the cell of the body that is next to it.
 bool Grid::stepIntoBody() {
-    return stepTo(std::max(row_, fixedRows_), nextShownCol(std::max(col_, fixedCols_) - 1, 1));
+    const int before = row_ < fixedRows_ ? fixedCols_ - 1 : std::max(col_, fixedCols_) - 1;
+    return stepTo(std::max(row_, fixedRows_), nextShownCol(before, 1));
 }
+
+bool Grid::UserEnterBody() { return isBody(row_, col_) || stepIntoBody(); }
 
 bool Grid::UserStep(int key) {
     if (!isBody(row_, col_)) return stepIntoBody();
@@ -89,10 +92,11 @@ bool Grid::UserSelectTo(int row, int col) {
 std::string Grid::SelectedText() const {
     std::string lines;
     if (!contains(row_, col_)) return lines;
+    const int firstRow = std::min(row_, rowSel_);
     const int lastRow = std::max(row_, rowSel_);
     const int lastCol = std::max(col_, colSel_);
-    for (int row = std::min(row_, rowSel_); row <= lastRow; ++row) {
-        if (!lines.empty()) lines += '\n';
+    for (int row = firstRow; row <= lastRow; ++row) {
+        if (row > firstRow) lines += '\n';
         std::string line;
         for (int col = std::min(col_, colSel_); col <= lastCol; ++col) {
             if (column(col).Hidden) continue;
@@ -105,7 +109,7 @@ std::string Grid::SelectedText() const {
 
 bool Grid::UserPasteBlock(std::string_view lines) {
     if (!acceptsUserAction()) return false;
-    while (!lines.empty() && (lines.back() == '\n' || lines.back() == '\r')) lines.remove_suffix(1);
+    if (lines.ends_with('\n')) lines.remove_suffix(1);  // ends the last line; blank cells above it count
     int row = std::min(row_, rowSel_);
     const int firstCol = std::min(col_, colSel_);
     for (std::string_view line : split(lines, '\n')) {

@@ -7,6 +7,9 @@ namespace ui::window_text {
 
 inline constexpr const char* CopyCells = "Copy cells";
 inline constexpr const char* PasteCells = "Paste cells";
+// Of a file dialogue; %1 is the folder or the file.
+inline constexpr const char* NoSuchFolder = "There is no folder %1.";
+inline constexpr const char* MayBeReplaced = "%1 exists already. Do you want to replace it?";
 // Of the menu of a text box.
 inline constexpr const char* CutText = "Cut";
 inline constexpr const char* CopyText = "Copy";

@@ -298,7 +298,7 @@ private slots:
         QCOMPARE(w.text(1, 1), std::string("2"));
         QVERIFY(!w.grid.Editing());
         QVERIFY(!w.list().isVisible());
-        QCOMPARE(w.current(), (CellAddress{1, 1}));
+        QCOMPARE(w.current(), (CellAddress{2, 1}));  // Enter goes on, as it does after typing
     }
 
     void aClickChoosesAnItem() {

@@ -255,6 +255,30 @@ private slots:
         QCOMPARE(caption, QString("half way"));
     }
 
+    void nothingBeginsUnderABox() {
+        InMainWindow w;
+        bool ran = false;
+        QTimer user;
+        connect(&user, &QTimer::timeout, [&] {
+            QWidget* box = QApplication::activeModalWidget();
+            if (box == nullptr) return;
+            user.stop();
+            w.desktop.run([&] { ran = true; });
+            QTest::keyClick(box, Qt::Key_Return);
+        });
+        user.start(5);
+        w.desktop.run([&] { w.form().GetPlatform().showMessage("text", "title", ui::MessageIcon::None); });
+        QVERIFY(!ran);
+        w.desktop.run([&] { ran = true; });
+        QVERIFY(ran);
+    }
+
+    void theSplashesTimerEndsWithIt() {
+        InMainWindow w;
+        for (QTimer* timer : w.splash().findChildren<QTimer*>()) QVERIFY(!timer->isActive());
+        QVERIFY(!w.desktop.program().Splash()->SplashTimer.Enabled);
+    }
+
     void theExitCommandEndsTheProgram() {
         InMainWindow program;
         program.form().ProjectChanged = false;

@@ -287,7 +287,24 @@ private slots:
         }
         FileBox w;
         User user({FileBox::choose("result.brn")});
-        QCOMPARE(QString::fromStdString(w.show().value_or("")), w.path("result.brn"));
+        QCOMPARE(QString::fromStdString(w.show().value_or("")), w.path("result.brn.txt"));
+        User dotted({FileBox::choose("scores v1.2")});
+        QCOMPARE(QString::fromStdString(w.show().value_or("")), w.path("scores v1.2.txt"));
+        User spelled({FileBox::choose("SCORES.TXT")});
+        QCOMPARE(QString::fromStdString(w.show().value_or("")), w.path("SCORES.TXT"));
+    }
+
+    void aFolderThatIsNotThereIsToldAndAskedForAgain() {
+        FileBox w;
+        int told = 0;
+        const User::Step reading = [&told](QWidget& box) {
+            if (qobject_cast<QFileDialog*>(&box) != nullptr) return false;
+            told += textOf(box).text().contains("nowhere") ? 1 : 0;
+            return click(QDialogButtonBox::Ok)(box);
+        };
+        User user({FileBox::choose("nowhere/result.txt"), reading, FileBox::choose("result.txt")});
+        QCOMPARE(QString::fromStdString(w.show().value_or("")), w.path("result.txt"));
+        QCOMPARE(told, 1);
     }
 
     void theProposedNameIsTheChoice() {
@@ -304,19 +321,17 @@ private slots:
         FileBox w;
         w.write("old.txt", "old");
         int questions = 0;
-        const auto answer = [&](QMessageBox::StandardButton button) -> User::Step {
+        const auto answer = [&](QDialogButtonBox::StandardButton button) -> User::Step {
             return [&questions, button](QWidget& box) {
-                auto* question = qobject_cast<QMessageBox*>(&box);
-                if (question == nullptr) return false;
+                if (qobject_cast<QFileDialog*>(&box) != nullptr) return false;
                 ++questions;
-                question->button(button)->click();
-                return true;
+                return click(button)(box);
             };
         };
-        User refusing({FileBox::choose("old.txt"), answer(QMessageBox::No), FileBox::cancel()});
+        User refusing({FileBox::choose("old.txt"), answer(QDialogButtonBox::No), FileBox::cancel()});
         QVERIFY(!w.show().has_value());
         QCOMPARE(questions, 1);
-        User agreeing({FileBox::choose("old.txt"), answer(QMessageBox::Yes)});
+        User agreeing({FileBox::choose("old.txt"), answer(QDialogButtonBox::Yes)});
         QCOMPARE(QString::fromStdString(w.show().value_or("")), w.path("old.txt"));
         QCOMPARE(questions, 2);
     }

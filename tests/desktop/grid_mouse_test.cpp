@@ -56,7 +56,32 @@ private slots:
         w.hover(w.middle(1, 0));
         QEvent leave(QEvent::Leave);
         QApplication::sendEvent(w.view.viewport(), &leave);
-        QCOMPARE(told, (std::vector<std::string>{"2.2", "0.1", "-1.-1", "1.0", "-1.-1"}));
+        QCOMPARE(told, (std::vector<std::string>{"2.2", "0.1", "-1.-1", "1.0"}));
+    }
+
+    void leavingTheGridKeepsTheTipOfItsHeading() {
+        GridWindow w;
+        w.grid.MouseMove = [&] { w.grid.ToolTipText(w.grid.MouseRow() == 0 ? "a heading" : ""); };
+        w.hover(w.middle(0, 2));
+        QEvent leave(QEvent::Leave);
+        QApplication::sendEvent(w.view.viewport(), &leave);
+        QCOMPARE(w.grid.ToolTipText(), std::string("a heading"));
+    }
+
+    void aRightClickMovesToACellOutsideTheSelection() {
+        GridWindow w;
+        w.select(2, 1);
+        w.run([&] { w.grid.UserSelectTo(3, 1); });
+        const auto rightClick = [&](int row, int col) {
+            QContextMenuEvent event(QContextMenuEvent::Mouse, w.middle(row, col), QPoint());
+            QApplication::sendEvent(w.view.viewport(), &event);
+            if (QWidget* menu = QApplication::activePopupWidget()) menu->close();
+        };
+        rightClick(3, 1);
+        QCOMPARE(w.current(), (CellAddress{2, 1}));
+        rightClick(1, 2);
+        QCOMPARE(w.current(), (CellAddress{1, 2}));
+        QCOMPARE(w.selectedTo(), (CellAddress{1, 2}));
     }
 
     void aDragSelectsARange() {
@@ -161,7 +186,7 @@ private slots:
         GridWindow w;
         w.grid.MouseMove = [&] { w.grid.ToolTipText(w.grid.MouseRow() == 0 ? "<b>share</b> of area" : ""); };
         w.hover(w.middle(0, 2));
-        QCOMPARE(tipAt(w, w.middle(0, 2)), QString("&lt;b&gt;share&lt;/b&gt; of area"));
+        QCOMPARE(tipAt(w, w.middle(0, 2)), QString("<p>&lt;b&gt;share&lt;/b&gt; of area</p>"));
         w.hover(w.middle(2, 2));
         QCOMPARE(tipAt(w, w.middle(2, 2)), QString());
     }

@@ -17,6 +17,7 @@ namespace desktop_test {
 class NoWindows : public desktop::Windows {
 public:
     void followForms() override {}
+    void handlePendingEvents() override {}
     QWidget* ownerOfBoxes() override { return nullptr; }
     QPixmap pictureOf(const ui::Chart&) override { return {}; }
 };

@@ -104,3 +104,101 @@ TEST_F(GridSteps, RowsOverflowWhenTheyAreHigherThanTheGrid) {
     grid.Rows(5);
     EXPECT_TRUE(grid.RowsOverflow());
 }
+
+TEST_F(GridSteps, TheBodyIsEnteredAtItsFirstCellOnView) {
+    grid.Select(0, 2);
+    EXPECT_TRUE(grid.UserEnterBody());
+    EXPECT_EQ(current(), "1.1");
+    grid.Select(2, 2);
+    EXPECT_TRUE(grid.UserEnterBody());
+    EXPECT_EQ(current(), "2.2");
+    grid.Rows(1);
+    EXPECT_FALSE(grid.UserEnterBody());
+}
+
+TEST_F(GridSteps, OnlyTheUsersRangeIsTheUsers) {
+    grid.Select(1, 1, 3, 2);
+    EXPECT_FALSE(grid.UserSelected());
+    grid.Select(1, 1);
+    EXPECT_TRUE(grid.UserSelectTo(3, 2));
+    EXPECT_TRUE(grid.UserSelected());
+    EXPECT_EQ(current(), "1.1");
+    grid.Select(1, 1, 3, 2);
+    EXPECT_FALSE(grid.UserSelected());
+}
+
+TEST_F(GridSteps, SelectedCellsAreCopiedAsLinesBlankOnesIncluded) {
+    grid.TextMatrix(1, 1, "");
+    grid.TextMatrix(2, 2, "a\tb\nc");
+    grid.TextMatrix(3, 1, "");
+    grid.Select(1, 1);
+    grid.UserSelectTo(3, 1);
+    EXPECT_EQ(grid.SelectedText(), "\n2.1\n");
+    grid.UserSelectTo(2, 2);
+    EXPECT_EQ(grid.SelectedText(), "\t1.2\n2.1\ta b c");
+    grid.ColHidden(1, true);
+    EXPECT_EQ(grid.SelectedText(), "1.2\na b c");
+}
+
+TEST_F(GridSteps, ABlockIsPastedCellByCell) {
+    std::vector<std::string> changed;
+    grid.AfterEdit = [&](int row, int col) {
+        changed.push_back(at(row, col) + "=" + grid.TextMatrix(row, col));
+    };
+    grid.Select(1, 1);
+    EXPECT_TRUE(grid.UserPasteBlock("a\tb\r\nc\td\r\n"));
+    EXPECT_EQ(changed, (std::vector<std::string>{"1.1=a", "1.2=b", "2.1=c", "2.2=d"}));
+    EXPECT_EQ(current(), "2.2");
+    EXPECT_EQ(platform.Beeps, 0);
+}
+
+TEST_F(GridSteps, BlankCellsAtTheEndOfABlockArePastedToo) {
+    grid.Select(1, 1);
+    EXPECT_TRUE(grid.UserPasteBlock("x\n\n\n"));
+    EXPECT_EQ(column(1), (std::vector<std::string>{"0.1", "x", "", ""}));
+}
+
+TEST_F(GridSteps, ABlockStopsWithABeepAtTheFirstCellThatRefuses) {
+    grid.ValidateEdit = [&](int, int, bool& cancel) { cancel = grid.EditText() == "bad"; };
+    grid.Select(1, 1);
+    EXPECT_FALSE(grid.UserPasteBlock("a\nbad\nc"));
+    EXPECT_EQ(column(1), (std::vector<std::string>{"0.1", "a", "2.1", "3.1"}));
+    EXPECT_EQ(current(), "2.1");
+    EXPECT_FALSE(grid.Editing());
+    EXPECT_EQ(platform.Beeps, 1);
+}
+
+TEST_F(GridSteps, ABlockStopsWithABeepAtTheEdges) {
+    grid.Select(3, 1);
+    EXPECT_FALSE(grid.UserPasteBlock("a\tb\tc"));
+    EXPECT_EQ(grid.TextMatrix(3, 2), "b");
+    EXPECT_EQ(platform.Beeps, 1);
+    grid.Select(3, 1);
+    EXPECT_FALSE(grid.UserPasteBlock("d\ne"));
+    EXPECT_EQ(grid.TextMatrix(3, 1), "d");
+    EXPECT_EQ(platform.Beeps, 2);
+}
+
+TEST_F(GridSteps, ASortMarksItsColumnUntilItsValuesChange) {
+    grid.Select(0, 2);
+    grid.Sort(ui::SortOrder::GenericDescending);
+    EXPECT_EQ(grid.Sorted().Col, 2);
+    EXPECT_TRUE(grid.Sorted().Descending);
+    grid.TextMatrix(1, 1, "another column");
+    EXPECT_EQ(grid.Sorted().Col, 2);
+    grid.TextMatrix(1, 2, "9");
+    EXPECT_EQ(grid.Sorted().Col, -1);
+    grid.Select(1, 2, 3, 2);
+    grid.Sort(ui::SortOrder::GenericAscending);
+    EXPECT_EQ(grid.Sorted().Col, -1);
+}
+
+TEST_F(GridSteps, TheCloseBoxDoesNotPassARefusedEdit) {
+    grid.ValidateEdit = [](int, int, bool& cancel) { cancel = true; };
+    grid.UserBeginEdit();
+    window.UserClose();
+    EXPECT_FALSE(window.Unloaded());
+    grid.UserCancelEdit();
+    window.UserClose();
+    EXPECT_TRUE(window.Unloaded());
+}

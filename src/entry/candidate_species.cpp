@@ -25,6 +25,7 @@ void frmBrenica::cmdUpdateSpecies_Click() try {
     const int oldTotal = global_.TotalSpecies;
     UpdateFlexGrid(flxCandidateSpecies, added, global_.TotalSpecies, true);
     UpdateOtherSpeciesFlexGrids(added, oldTotal);
+    arrangeListPages();  // the numbers may have become wider, and a scroll bar takes room
 } catch (...) {
     ReportError(9999, "Brenica.cmdUpdateSpecies_Click", "");
 }

@@ -64,6 +64,7 @@ void frmBrenica::enableBinControls(bool enabled) {
 
 void frmBrenica::cmdUpdateBins_Click() try {
     modFlexGridUtilities::UpdateFlexGrid(flxBins, txtTotalBins.Long(), global_.TotalBins, true);
+    arrangeListPages();
 } catch (...) {
     ReportError(9999, "Brenica.cmdUpdateBins_Click", "");
 }

@@ -137,6 +137,7 @@ void frmBrenica::updateList(const ParameterList& list) try {
         list.Grid->TextMatrix(row, list::LevelOfUse, DefaultLevelOfUse);
     }
     updateOtherGrids(list, added);
+    arrangeListPages();
 } catch (...) {
     ReportError(9999, list.UpdateSource, "");
 }

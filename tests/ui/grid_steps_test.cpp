@@ -37,7 +37,7 @@ TEST_F(GridSteps, AStepFromAHeadingLeadsIntoTheBody) {
     }
     grid.Select(0, 2);
     EXPECT_TRUE(grid.UserStep(ui::DownKey));
-    EXPECT_EQ(current(), "1.2");
+    EXPECT_EQ(current(), "1.1");
     grid.Select(3, 0);
     EXPECT_TRUE(grid.UserStep(ui::RightKey));
     EXPECT_EQ(current(), "3.1");

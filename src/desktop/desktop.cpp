@@ -29,6 +29,18 @@ private:
     bool before_;
 };
 
+std::string descriptionOf(const std::exception_ptr& failure) {
+    try {
+        std::rethrow_exception(failure);
+    } catch (const std::bad_alloc&) {
+        return ui::describe(ui::ErrorNumber::OutOfMemory);
+    } catch (const std::exception& told) {
+        return told.what();
+    } catch (...) {
+        return ui::describe(ui::ErrorNumber::InvalidProcedureCall);
+    }
+}
+
 }  // namespace
 
 Desktop::Desktop() : scale_(QApplication::font()), platform_(scale_, *this), program_(platform_) {}
@@ -43,20 +55,19 @@ void Desktop::run(const std::function<void()>& action) {
     try {
         const Held busy(busy_, true);
         action();
-    } catch (const std::bad_alloc&) {
-        return fail(ui::describe(ui::ErrorNumber::OutOfMemory));
-    } catch (const std::exception& failure) {
-        return fail(failure.what());
+    } catch (...) {
+        return fail(std::current_exception());
     }
     followForms();
     if (program_.Ended()) end(0);
 }
 
-void Desktop::fail(const std::string& description) {
+void Desktop::fail(const std::exception_ptr& failure) {
     if (std::exchange(ended_, true)) return;
     followForms();
     while (QApplication::overrideCursor() != nullptr) QApplication::restoreOverrideCursor();
-    showMessageBox(ownerOfBoxes(), description, ui::ApplicationTitle, ui::MessageIcon::Exclamation);
+    showMessageBox(ownerOfBoxes(), descriptionOf(failure), ui::ApplicationTitle,
+                   ui::MessageIcon::Exclamation);
     end(ExitAfterFailure);
 }
 

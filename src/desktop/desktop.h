@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <exception>
 #include <memory>
 
 #include "desktop/form_view.h"
@@ -25,6 +26,10 @@ public:
     void followForms() override;
     QWidget* ownerOfBoxes() override;
     void handlePendingEvents() override;
+
+    /// Shows what went wrong in one box and ends the program.
+    void fail(const std::exception_ptr& failure);
+
     QPixmap pictureOf(const ui::Chart& chart) override;
 
     Program& program() { return program_; }
@@ -33,7 +38,6 @@ public:
 
 private:
     void follow(std::unique_ptr<FormView>& window, ui::FormWindow* form);
-    void fail(const std::string& description);
     void end(int exitCode);
 
     Scale scale_;

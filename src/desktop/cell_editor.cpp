@@ -20,17 +20,6 @@ namespace {
 constexpr int FrameWidth = 2;
 constexpr double Endless = 1e6;
 
-/// Where a character begins in Qt's text, whose units are halves of some characters.
-int unitOf(const QString& text, int character) {
-    int unit = 0;
-    for (; character > 0 && unit < text.size(); --character) {
-        unit += text.at(unit).isHighSurrogate() && unit + 1 < text.size() ? 2 : 1;
-    }
-    return unit;
-}
-
-int characterOf(const QString& text, int unit) { return static_cast<int>(text.left(unit).toUcs4().size()); }
-
 }  // namespace
 
 void typeInto(ui::Grid& grid, const QString& text) {

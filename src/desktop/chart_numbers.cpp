@@ -97,6 +97,4 @@ ChartNumbers readNumbers(const ui::Chart& chart) {
     return numbers;
 }
 
-QColor toColour(ui::Colour colour) { return {colour & 0xFF, (colour >> 8) & 0xFF, (colour >> 16) & 0xFF}; }
-
 }  // namespace desktop

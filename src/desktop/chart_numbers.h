@@ -7,6 +7,7 @@
 #include <optional>
 #include <vector>
 
+#include "desktop/colours.h"
 #include "ui/chart.h"
 
 namespace desktop {
@@ -45,7 +46,5 @@ struct ChartNumbers {
 
 /// Rows without a category and without any value are none.
 ChartNumbers readNumbers(const ui::Chart& chart);
-
-QColor toColour(ui::Colour colour);
 
 }  // namespace desktop

@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/chart_view.h"
 
-#include <QAccessibleWidget>
 #include <QMenu>
 #include <QToolTip>
 #include <cmath>
 
+#include "desktop/accessible_role.h"
 #include "desktop/chart_numbers_window.h"
 #include "desktop/texts.h"
 #include "ui/window_texts.h"
@@ -19,16 +19,6 @@ constexpr double WheelStep = 120;     // of a wheel's angle
 constexpr double ZoomFactor = 0.8;    // a step
 constexpr double MoveByKey = 0.1;     // of the shown categories
 constexpr double LeastMoveByKey = 1;  // category
-
-QAccessibleInterface* makeAccessible(const QString& className, QObject* object) {
-    if (className != ChartView::staticMetaObject.className()) return nullptr;
-    return new QAccessibleWidget(static_cast<QWidget*>(object), QAccessible::Chart);
-}
-
-void announceCharts() {
-    static const bool announced = (QAccessible::installFactory(makeAccessible), true);
-    static_cast<void>(announced);
-}
 
 /// Where a value stands, in words.
 QString placeOf(const ChartNumbers& numbers, int category, int series) {
@@ -59,7 +49,7 @@ QString plainTip(const QString& text) {
 
 ChartView::ChartView(ui::Chart& chart, FormLink& link, QWidget* parent)
     : ChartPlot(chart, link.scale(), parent), control_(chart), link_(link) {
-    announceCharts();
+    announceAs(*this, QAccessible::Chart);
     setFocusPolicy(Qt::StrongFocus);
 }
 

@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "desktop/colours.h"
+
 namespace desktop {
 
 namespace {
@@ -27,8 +29,6 @@ QColor mixed(const QColor& back, const QColor& front, double weight) {
     return {part(back.red(), front.red()), part(back.green(), front.green()),
             part(back.blue(), front.blue())};
 }
-
-QColor colourOf(ui::Colour colour) { return {colour & 0xff, (colour >> 8) & 0xff, (colour >> 16) & 0xff}; }
 
 /// How light the eye finds a colour, from 0 to 1.
 double lightness(const QColor& colour) {
@@ -244,8 +244,8 @@ void GridPainter::paintSelection(QPainter& painter, const Area& body, bool focus
 QColor GridPainter::backColour(CellAddress cell, bool heading) const {
     const ui::Colour own = grid_.BackColorOf(cell.Row, cell.Col);
     if (own == Unset) return palette_.color(heading ? QPalette::Button : QPalette::Base);
-    if (!isDisabled(palette_)) return colourOf(own);
-    return mixed(colourOf(own), palette_.color(QPalette::Window), FadedWeight);
+    if (!isDisabled(palette_)) return toColour(own);
+    return mixed(toColour(own), palette_.color(QPalette::Window), FadedWeight);
 }
 
 QColor GridPainter::textColour(CellAddress cell, bool heading) const {

@@ -24,10 +24,14 @@ int Scale::twips(int pixels) const { return static_cast<int>(std::ceil(pixels / 
 
 int Scale::twipsWithin(int pixels) const { return static_cast<int>(std::floor(pixels / pixelsPerTwip_)); }
 
-QRect Scale::place(const ui::Control& control) const {
-    const QPoint topLeft(pixels(control.Left()), pixels(control.Top()));
-    const QPoint behind(pixels(control.Left() + control.Width()), pixels(control.Top() + control.Height()));
+QRect Scale::place(int left, int top, int width, int height) const {
+    const QPoint topLeft(pixels(left), pixels(top));
+    const QPoint behind(pixels(left + width), pixels(top + height));
     return {topLeft, behind - QPoint(1, 1)};
+}
+
+QRect Scale::place(const ui::Control& control) const {
+    return place(control.Left(), control.Top(), control.Width(), control.Height());
 }
 
 QFont Scale::font(const ui::Font& font) const {

@@ -21,7 +21,8 @@ public:
     int twips(int pixels) const;
     /// The greatest number of twips that so many pixels hold.
     int twipsWithin(int pixels) const;
-    /// A control's place in its container. Its edges are rounded one by one, so that neighbours meet.
+    /// A place in pixels. Its edges are rounded one by one, so that neighbours meet.
+    QRect place(int left, int top, int width, int height) const;
     QRect place(const ui::Control& control) const;
     /// The desktop's font for the design's own one, and another family where the design names one; sizes keep their
     /// ratio to the design's 8 points.

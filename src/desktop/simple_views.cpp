@@ -7,13 +7,12 @@
 #include <QShortcutEvent>
 
 #include "desktop/accessible_role.h"
+#include "desktop/colours.h"
 #include "desktop/texts.h"
 
 namespace desktop {
 
 namespace {
-
-QColor colourOf(ui::Colour colour) { return {colour % 256, colour / 256 % 256, colour / 65536 % 256}; }
 
 Qt::Alignment alignmentOf(ui::CellAlign alignment) {
     switch (alignment) {
@@ -40,7 +39,7 @@ LabelView::LabelView(ui::Label& label, FormLink& link, QWidget* parent) : QLabel
     setFont(link.scale().font(label.TextFont));
     if (!label.ForeColor) return;
     QPalette colours = palette();
-    colours.setColor(QPalette::WindowText, colourOf(*label.ForeColor));
+    colours.setColor(QPalette::WindowText, toColour(*label.ForeColor));
     setPalette(colours);
 }
 

@@ -58,10 +58,8 @@ void TabStripView::follow() {
     const Scale& scale = link_.scale();
     for (int i = 0; i < tabs_.size(); ++i) {
         const ui::TabPlace& place = places[static_cast<std::size_t>(i)];
-        const QPoint topLeft(scale.pixels(place.Left), scale.pixels(place.Top));
-        const QPoint behind(scale.pixels(place.Left + place.Width), scale.pixels(place.Top + place.Height));
         const bool selected = i + 1 == strip_.SelectedItem();
-        tabs_[i]->setGeometry(QRect(topLeft, behind - QPoint(1, 1)));
+        tabs_[i]->setGeometry(scale.place(place.Left, place.Top, place.Width, place.Height));
         tabs_[i]->setChecked(selected);
         tabs_[i]->setFocusPolicy(selected ? Qt::StrongFocus : Qt::ClickFocus);
     }

@@ -20,16 +20,6 @@ namespace {
 constexpr int QtMargin = 2;    // what Qt leaves beside the text and its caret
 constexpr int FrameWidth = 1;  // what the design's boxes have room for instead
 
-/// A place in UTF-16 as one in characters, and back.
-int charactersBefore(const QString& text, int place) {
-    return static_cast<int>(text.left(place).toUcs4().size());
-}
-int placeOf(const QString& text, int characters) {
-    const QList<uint> all = text.toUcs4();
-    return static_cast<int>(
-        QString::fromUcs4(reinterpret_cast<const char32_t*>(all.data()), characters).size());
-}
-
 }  // namespace
 
 TextBoxView::TextBoxView(ui::TextBox& box, FormLink& link, QWidget* parent)
@@ -62,8 +52,8 @@ void TextBoxView::follow() {
     following_ = true;
     const QString shown = QString::fromStdString(box_.Text());
     if (text() != shown) setText(shown);
-    const int start = placeOf(shown, box_.SelStart());
-    const int end = placeOf(shown, box_.SelStart() + box_.SelLength());
+    const int start = unitOf(shown, box_.SelStart());
+    const int end = unitOf(shown, box_.SelStart() + box_.SelLength());
     if (start != end) {
         setSelection(start, end - start);
     } else {
@@ -76,8 +66,8 @@ void TextBoxView::follow() {
 void TextBoxView::tellSelection() {
     if (following_) return;
     const int start = hasSelectedText() ? selectionStart() : cursorPosition();
-    const int first = charactersBefore(text(), start);
-    const int count = charactersBefore(text(), start + static_cast<int>(selectedText().size())) - first;
+    const int first = characterOf(text(), start);
+    const int count = characterOf(text(), start + static_cast<int>(selectedText().size())) - first;
     if (first == box_.SelStart() && count == box_.SelLength()) return;
     box_.UserSelect(first, count);
 }

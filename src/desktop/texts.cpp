@@ -27,4 +27,14 @@ QString plainToolTip(std::string_view text) {
 
 std::string utf8(const QString& text) { return text.toStdString(); }
 
+int unitOf(const QString& text, int character) {
+    int unit = 0;
+    for (; character > 0 && unit < text.size(); --character) {
+        unit += text.at(unit).isHighSurrogate() && unit + 1 < text.size() ? 2 : 1;
+    }
+    return unit;
+}
+
+int characterOf(const QString& text, int unit) { return static_cast<int>(text.left(unit).toUcs4().size()); }
+
 }  // namespace desktop

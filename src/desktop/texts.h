@@ -17,5 +17,8 @@ QString captionWithAccessKey(const ui::Control& control);
 /// A tool tip that Qt does not take for marked-up text.
 QString plainToolTip(std::string_view text);
 std::string utf8(const QString& text);
+/// Where a character begins in Qt's text, whose units are halves of some characters, and the character at a unit.
+int unitOf(const QString& text, int character);
+int characterOf(const QString& text, int unit);
 
 }  // namespace desktop

@@ -6,15 +6,14 @@ import os
 import pwd
 import resource
 import signal
+import socket
 import stat
-import subprocess
-import threading
 import time
 import unittest
-from pathlib import Path
 
 from program import SUITE, TABLE, ProgramTest, snapshot
 
+TIME_OF_A_GIBIBYTE = 120  # seconds, with sanitizers
 SELECTED = 0
 WRONG_USAGE = 1
 UNREADABLE = 2
@@ -162,7 +161,6 @@ class Targets(ProgramTest):
             self.assertRegex(err, f"^brenica-batch: {path}: cannot be written: [A-Z][a-z ]+\n$")
 
     def testASocketIsNoTarget(self):
-        import socket
         with socket.socket(socket.AF_UNIX) as server:
             server.bind(str(self.folder / "socket"))
             self.own(self.folder / "socket")
@@ -385,10 +383,10 @@ class Projects(ProgramTest):
     def testWhatMayNotBeReadIsNotMissing(self):
         self.write("secret.brn", self.project).chmod(0)
         self.expectUnreadable("secret.brn", "Permission denied")
-        self.makeFolder("locked")
-        self.write("locked/p.brn", self.project)
+        self.makeFolder("locked/inner")
+        self.write("locked/inner/p.brn", self.project)
         (self.folder / "locked").chmod(0)
-        self.expectUnreadable("locked/p.brn", "Permission denied")
+        self.expectUnreadable("locked/inner/p.brn", "Permission denied")
 
     def testWhatIsMissing(self):
         self.link("loop", "loop")
@@ -399,8 +397,6 @@ class Projects(ProgramTest):
         self.expectUnreadable("n" * 300, "Path/File access error")
         self.expectUnreadable("", "Path/File access error")
 
-
-TIME_OF_A_GIBIBYTE = 120
 
 if __name__ == "__main__":
     unittest.main()

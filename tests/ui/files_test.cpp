@@ -160,14 +160,14 @@ TEST_F(FilesTest, EachErrorOfTheSystemHasItsNumber) {
 /// Root may look everywhere, so that a child looks as somebody else.
 TEST_F(FilesTest, WhatMayNotBeLookedAtIsDeniedAndNotMissing) {
     const std::string locked = folder.file("locked");
-    std::filesystem::create_directory(locked);
-    writeFile(locked + "/file.txt", "text");
+    std::filesystem::create_directories(locked + "/inner");
+    writeFile(locked + "/inner/file.txt", "text");
     std::filesystem::permissions(locked, std::filesystem::perms::none);
     const auto openAsNobody = [&](FileMode mode) {
         constexpr uid_t Nobody = 65534;
         if (geteuid() == 0 && setuid(Nobody) != 0) std::_Exit(0);
         try {
-            files.Open(locked + "/file.txt", mode, 1);
+            files.Open(locked + "/inner/file.txt", mode, 1);
         } catch (const ui::RunTimeError& error) {
             std::_Exit(error.Number);
         }

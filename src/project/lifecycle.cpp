@@ -78,8 +78,11 @@ void frmBrenica::showProjectPath(const std::string& path) {
     Caption("Brenica - " + path);
 }
 
+/// With no species on view first, so that no control that is reset writes to a table. Whatever keeps the page from being
+/// left, a gate that refuses or a failure, the steps go on.
 void frmBrenica::InitializeProject() try {
-    tabBrenica.SelectedItem(1);
+    CurrentSpeciesIndex = 0;
+    succeeds([&] { tabBrenica.SelectedItem(1); });
     fraTabContents(CurrentMainTab - 1).Visible(false);
     fraTabContents(0).Visible(true);
     CurrentMainTab = 1;
@@ -117,11 +120,16 @@ void frmBrenica::clearCriteria() {
     flxJurisUnitHetero.Rows(1);
     optHomeRangeType(0).Value(true);
     HomeRangeType = 0;
+    if (!optHomeRangeType(0).Value()) {  // the answer No has put the former type back on
+        optHomeRangeType(0).Value(true);
+        flxBins.Enabled(false);
+    }
     enableBinControls(false);
     showHomeRangeControls(0);
     cbxDispersalYN.ListIndex(0);
     cbxConnectivity.ListIndex(0);
     cbxDefaultBinsHR.ListIndex(-1);
+    cbxUserDefBinsHR.Clear();
     flxLandUsesVulnerability.Rows(1);
     flxFunctionality.Rows(1);
     fraCriteria(0).Visible(true);
@@ -147,7 +155,6 @@ void frmBrenica::clearFunctions() {
     modFlexGridUtilities::UpdateFlexGridCol(flxFunctions, list::Name, FunctionNames);
     for (int row = 1; row <= TotalSocioEcon; ++row) flxSocioEcon.TextMatrix(row, 1, "0");
     clearChangeFlags();
-    CurrentSpeciesIndex = 0;
     txtPropOccupied.Text("0");
 }
 
@@ -193,6 +200,7 @@ void frmBrenica::clearGraphs() {
 }
 
 void frmBrenica::clearScores() {
+    optScoreDisplay(0).Value(true);
     for (auto* grids : {&flxScores, &flxScoresSort}) {
         for (ui::Grid& grid : *grids) {
             grid.Rows(1);

@@ -140,6 +140,7 @@ std::string frmBrenica::summaryTip(int index, int row, int col) const {
          "Number of species affected by the threat", "Number of threats affecting a species",
          "Total threat score summed by species", &frmBrenica::flxLandUses, vulnerability::ThreatOffset},
     };
+    if (row >= 1 && row <= global_.TotalSpecies) return "";
     const ui::Grid& grid = flxSummary(index);
     for (const CrossTableTips& table : Tables) {
         if (table.Member != index || row < 0) continue;

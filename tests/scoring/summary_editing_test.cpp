@@ -432,6 +432,17 @@ TEST_F(SummaryTips, AreEmptyOverDataAndTheFirstColumn) {
     }
 }
 
+TEST_F(SummaryTips, AreEmptyOverDataOfATableWithoutTotals) {
+    openAt(ProjectText(2, 0, 0, 0), 4);
+    for (const int member : {0, 1, 5}) {
+        ASSERT_EQ(table(member).Rows(), 3);
+        for (const int row : {1, 2}) {
+            table(member).ToolTipText("left over");
+            EXPECT_EQ(tipAt(member, row, 0), "") << member << ": " << row;
+        }
+    }
+}
+
 TEST_F(SummaryTips, BelongToThreeTablesOnly) {
     openAt(project(), 4);
     for (const int member : {2, 3, 4, 6, 7, 8, 9, 10}) {

@@ -146,6 +146,6 @@ inline void Walker::run(int deeds) {
         randomDeed();
         if (Total == before) act(Deed::MouseMove, "nowhere", [] {});
     }
-    if (completes && running() && !OutOfStep) completeAndSelect();
+    if (completes && running() && !DamagedFile) completeAndSelect();
     if (running()) End = WalkEnd::Tired;
 }

@@ -39,20 +39,10 @@ public:
         act(Deed::ChooseItem, box.Name() + " " + std::to_string(index), [&] { box.UserChoose(index); });
     }
     void click(ui::CheckBox& box) {
-        act(Deed::ClickCheckBox, box.Name(), [&] {
-            box.UserClick();
-            if (&box == &form_.chkShowGraphs) walker_.leeway_.StrayScoreButton = false;
-        });
-    }
-    void click(ui::OptionButton& button, bool& stray) {
-        act(Deed::ClickOption, button.Name(), [&] {
-            button.UserClick();
-            stray = false;
-        });
+        act(Deed::ClickCheckBox, box.Name(), [&] { box.UserClick(); });
     }
     void click(ui::OptionButton& button) {
-        bool none = false;
-        click(button, none);
+        act(Deed::ClickOption, button.Name(), [&] { button.UserClick(); });
     }
     void push(Deed deed, ui::CommandButton& button) {
         act(deed, button.Name(), [&] { button.UserClick(); });
@@ -153,7 +143,7 @@ private:
         walker_.randomAnswers();
         if (random_.chance(15)) return click(form_.optLandChar(random_.below(5)));
         if (form_.CurrentLandChar == 3 && random_.chance(25)) {
-            return click(form_.optHomeRangeType(random_.below(3)), walker_.leeway_.StrayHomeRangeButton);
+            return click(form_.optHomeRangeType(random_.below(3)));
         }
         listPage(listOnView());
     }
@@ -226,7 +216,7 @@ private:
     void scorePage() {
         walker_.randomAnswers();
         switch (random_.below(7)) {
-            case 0: return click(form_.optScoreDisplay(random_.below(2)), walker_.leeway_.StrayScoreButton);
+            case 0: return click(form_.optScoreDisplay(random_.below(2)));
             case 1: return click(form_.chkShowGraphs);
             case 2: return click(form_.chkShowAggregateScore);
             case 3: return random_.chance(50) ? graphCommand() : exportTable();

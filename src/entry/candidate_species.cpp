@@ -105,6 +105,10 @@ void frmBrenica::RemoveSpecies(int row) try {
     for (auto* grids : {&flxScores, &flxScoresSort}) {
         for (ui::Grid& grid : *grids) grid.RemoveItem(row);
     }
+    std::erase(global_.SpeciesRanks, row);
+    for (int& ranked : global_.SpeciesRanks) {
+        if (ranked > row) --ranked;
+    }
     for (int i = 1; i <= global_.TotalSpecies; ++i) {
         flxScoresSort(0).TextMatrix(i, score::SortKey, ui::toText(i));
         flxScoresSort(1).TextMatrix(i, score::OriginalSortKey, ui::toText(i));
@@ -141,6 +145,7 @@ void frmBrenica::removeSpeciesRows(int row) {
         }
     }
     if (global_.TotalSpecies > 0) return;
+    threatFactorsLost_ = true;
     flxSummary(summary::HabitatUse).Cols(global_.TotalHabitatTypes + 1);
     flxSummary(summary::JurisUnitUse).Cols(global_.TotalJurisUnits + 1);
     flxSummary(summary::Vulnerability).Cols(global_.TotalLandUses + vulnerability::ThreatOffset + 1);

@@ -209,7 +209,8 @@ void frmBrenica::removeFromList(const ParameterList& list, int row) try {
     ReportError(9999, list.RemoveSource, "");
 }
 
-/// Only the headings move up: the species' cells keep their columns and the last column goes.
+/// Only the headings move up: the species' cells keep their columns and the last column goes. The next calculation of
+/// use puts the levels of use right.
 void frmBrenica::shrinkWideTable(const ParameterList& list, int row) {
     ui::Grid& grid = flxSummary(list.WideMember);
     const int total = global_.*list.Total;
@@ -218,6 +219,7 @@ void frmBrenica::shrinkWideTable(const ParameterList& list, int row) {
         grid.TextMatrix(0, col, grid.TextMatrix(0, col + 1));
     }
     grid.Cols(total + list.WideOffset + 1);
+    if (list.HasLevelOfUse && row <= total) levelsShifted(list) = true;
     if (!list.WideNumbered) return;
     for (int i = 1; i <= total; ++i) grid.TextMatrix(0, i + list.WideOffset, ui::toText(i));
     if (total == 0) grid.Rows(global_.TotalSpecies + 1);

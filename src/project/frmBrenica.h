@@ -15,6 +15,7 @@
 #include "project/frmBrenicaControls.h"
 #include "project/modGlobal.h"
 #include "scoring/export_tables.h"
+#include "ui/event.h"
 #include "ui/files.h"
 
 /// The main form: all controls of frmBrenicaControls, the form's own fields and every procedure. Its grids are the
@@ -170,6 +171,9 @@ public:
 
     // selection/complementarity.cpp
     void cmdComplement_Click();
+    /// Fires in the place of a selection when entries were added to the lists since the last scores, which Aggregate
+    /// Scores would bring up to date. The form says nothing; whoever watches may.
+    ui::Event<> SelectionRefused;
     void InitComplementarity();
 
     // selection/results_display.cpp
@@ -324,6 +328,15 @@ private:
     bool allFilled(int member, int firstCol, int lastCol, const char* message);
     void showInvalidValue(const std::string& message);
 
+    // scoring/unit_use.cpp
+    bool& levelsShifted(const ParameterList& list) {
+        return levelsShifted_[static_cast<std::size_t>(list.Kind)];
+    }
+    void realignLevels(const ParameterList& list);
+
+    // scoring/vulnerability.cpp
+    void restoreThreatFactors();
+
     // scoring/scores.cpp
     void emptyScoreTables();
     void fillSortedScores();
@@ -346,6 +359,9 @@ private:
     // scoring/grid_import.cpp
     void appendRecord(int importCase, const std::vector<std::string>& fields);
 
+    // selection/complementarity.cpp
+    bool scoresServe() const;
+
     // selection/results_export.cpp
     void printResult(std::string_view line);
     void printRanking();
@@ -365,6 +381,12 @@ private:
     std::vector<CellEditing> cellEditings_;
     std::vector<HeadingTips> headingTips_;
     std::vector<ExportTable> exportTables_;
+
+    // What the next calculation has to bring up to date.
+    /// By ListKind: a habitat or zone was removed and the levels of those behind it still stand in their old columns.
+    std::array<bool, 2> levelsShifted_{};
+    /// The last species took urgency and probability along from the rows that those of later species are copied from.
+    bool threatFactorsLost_ = false;
 
     // What the mouse handlers remember from event to event.
     struct SortMemory {

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Brenica developers
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <algorithm>
 #include <array>
 
 #include "entry/modErrorHandling.h"
@@ -112,6 +113,7 @@ void frmBrenica::RemoveSpecies(RowNumbers rows) try {
     for (auto* grids : {&flxScores, &flxScoresSort}) {
         for (ui::Grid& grid : *grids) removeRows(grid, rows);
     }
+    removeFromRanks(rows);
     for (int i = 1; i <= global_.TotalSpecies; ++i) {
         flxScoresSort(0).TextMatrix(i, score::SortKey, ui::toText(i));
         flxScoresSort(1).TextMatrix(i, score::OriginalSortKey, ui::toText(i));
@@ -131,6 +133,15 @@ void frmBrenica::removeFromSelector(RowNumbers rows) {
     for (const int row : rows) {
         if (row <= cbxSpeciesName.ListCount()) cbxSpeciesName.RemoveItem(row - 1);
     }
+}
+
+/// The others keep their order, under the rows that they have now.
+void frmBrenica::removeFromRanks(RowNumbers rows) {
+    const std::vector<int> removed(rows.rbegin(), rows.rend());
+    const auto firstFrom = [&](int row) { return std::lower_bound(removed.begin(), removed.end(), row); };
+    std::erase_if(global_.SpeciesRanks,
+                  [&](int row) { return std::binary_search(removed.begin(), removed.end(), row); });
+    for (int& row : global_.SpeciesRanks) row -= static_cast<int>(firstFrom(row) - removed.begin());
 }
 
 /// The last species' block stays with the names of its units.
@@ -159,6 +170,7 @@ void frmBrenica::removeSpeciesRows(RowNumbers rows) {
         }
     }
     if (global_.TotalSpecies > 0) return;
+    threatFactorsLost_ = true;
     flxSummary(summary::HabitatUse).Cols(global_.TotalHabitatTypes + 1);
     flxSummary(summary::JurisUnitUse).Cols(global_.TotalJurisUnits + 1);
     flxSummary(summary::Vulnerability).Cols(global_.TotalLandUses + vulnerability::ThreatOffset + 1);

@@ -207,7 +207,8 @@ void frmBrenica::removeFromList(const ParameterList& list, RowNumbers rows) try 
     ReportError(9999, list.RemoveSource, "");
 }
 
-/// Only the headings move up: the species' cells keep their columns and the last columns go.
+/// Only the headings move up: the species' cells keep their columns and the last columns go. The next calculation of
+/// use puts the levels of use right.
 void frmBrenica::shrinkWideTable(const ParameterList& list, RowNumbers rows) {
     ui::Grid& grid = flxSummary(list.WideMember);
     const int total = global_.*list.Total;
@@ -221,6 +222,7 @@ void frmBrenica::shrinkWideTable(const ParameterList& list, RowNumbers rows) {
         }
     }
     grid.Cols(total + list.WideOffset + 1);
+    if (list.HasLevelOfUse && rows.back() <= total) levelsShifted(list) = true;
     if (!list.WideNumbered) return;
     for (int i = 1; i <= total; ++i) grid.TextMatrix(0, i + list.WideOffset, ui::toText(i));
     if (total == 0) grid.Rows(global_.TotalSpecies + 1);

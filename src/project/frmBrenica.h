@@ -15,6 +15,7 @@
 #include "project/frmBrenicaControls.h"
 #include "project/modGlobal.h"
 #include "scoring/export_tables.h"
+#include "ui/event.h"
 #include "ui/files.h"
 
 /// The main form: all controls of frmBrenicaControls, the form's own fields and every procedure. Its grids are the
@@ -175,6 +176,9 @@ public:
 
     // selection/complementarity.cpp
     void cmdComplement_Click();
+    /// Fires in the place of a selection when entries were added to the lists since the last scores, which Aggregate
+    /// Scores would bring up to date. The form says nothing; whoever watches may.
+    ui::Event<> SelectionRefused;
     void InitComplementarity();
 
     // selection/results_display.cpp
@@ -299,6 +303,7 @@ private:
     void growThreatBlocks(int added, int oldTotal);
     void writeSpeciesName(int member, int row, const std::string& name, const std::string& shortName);
     void removeFromSelector(RowNumbers rows);
+    void removeFromRanks(RowNumbers rows);
     void removeSpeciesBlocks(int member, int units, RowNumbers rows, std::span<const int> clearedColumns);
     void removeSpeciesRows(RowNumbers rows);
     void removeSpeciesFromThreats(RowNumbers rows, int oldTotal);
@@ -333,6 +338,15 @@ private:
     bool allFilled(int member, int firstCol, int lastCol, const char* message);
     void showInvalidValue(const std::string& message);
 
+    // scoring/unit_use.cpp
+    bool& levelsShifted(const ParameterList& list) {
+        return levelsShifted_[static_cast<std::size_t>(list.Kind)];
+    }
+    void realignLevels(const ParameterList& list);
+
+    // scoring/vulnerability.cpp
+    void restoreThreatFactors();
+
     // scoring/scores.cpp
     void emptyScoreTables();
     void fillSortedScores();
@@ -356,6 +370,9 @@ private:
     void appendRecords(int importCase, bool firstLineIsHeading);
     void appendRecord(int importCase, const std::vector<std::string>& fields);
 
+    // selection/complementarity.cpp
+    bool scoresServe() const;
+
     // selection/results_export.cpp
     void printResult(std::string_view line);
     void printRanking();
@@ -375,6 +392,12 @@ private:
     std::vector<CellEditing> cellEditings_;
     std::vector<HeadingTips> headingTips_;
     std::vector<ExportTable> exportTables_;
+
+    // What the next calculation has to bring up to date.
+    /// By ListKind: a habitat or zone was removed and the levels of those behind it still stand in their old columns.
+    std::array<bool, 2> levelsShifted_{};
+    /// The last species took urgency and probability along from the rows that those of later species are copied from.
+    bool threatFactorsLost_ = false;
 
     // What the mouse handlers remember from event to event.
     struct SortMemory {

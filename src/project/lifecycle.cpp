@@ -145,6 +145,8 @@ void frmBrenica::clearCounts() {
     global_.TotalBins = 0;
     global_.TotalFunctions = static_cast<int>(FunctionNames.size());
     global_.ScoresCalculated = false;
+    levelsShifted_ = {};
+    threatFactorsLost_ = false;
     RefreshingCriteria = false;
 }
 

@@ -100,17 +100,10 @@ inline constexpr AllowedFailure AllowedFailures[] = {
     // summary table takes a blank status, import a blank or any other level.
     {Deed::Select, 13, "Brenica.cmdComplement_Click"},
     {Deed::Select, 6, "Brenica.cmdComplement_Click"},
-    // When no species is left in the race the scan for the pick runs into the blank row that closes the block. On the
-    // way from a summary table to the results nothing is calculated anew, so that blank scores of a species added since
-    // fail likewise.
+    // When no species is left in the race the scan for the pick runs into the blank row that closes the block.
     {Deed::Select, 13, "BrenicaUtilities.cmdComplement_Click"},
     // A single survivor keeps the count of the last margin of error, which reads past the block into its blank row.
     {Deed::Select, 13, "BrenicaUtilities.SelectErrorMarginSpecies"},
-    // Levels of use, ratings and scores of rows added after the last scores are blank, and old scores still allow a
-    // selection when the results are reached from a summary table.
-    {Deed::Select, 13, "BrenicaUtilities.Check4ErrorMargin"},
-    {Deed::Select, 13, "BrenicaUtilities.GetUnitsUsed"},
-    {Deed::Select, 13, "BrenicaUtilities.RecalcVulnerabilityScore"},
     // A file that cannot be opened ends an import and an export with the report; so does the file number that a failed
     // open has left open.
     {Deed::Import, 53, "Brenica.ImportData"},

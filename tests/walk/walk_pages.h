@@ -62,10 +62,13 @@ public:
     void selectSpecies() {
         act(Deed::Select, "", [&] {
             const bool enabled = form_.cmdComplement.Enabled();
+            bool refused = false;
+            form_.SelectionRefused = [&refused] { refused = true; };
             form_.cmdComplement.UserClick();
+            form_.SelectionRefused = nullptr;
             const bool reported = !walker_.platform.Transcript.empty() &&
                                   walker_.platform.Transcript.back().Title == "Selection Report";
-            if (enabled && walker_.global.ScoresCalculated && !reported)
+            if (enabled && walker_.global.ScoresCalculated && !reported && !refused)
                 walker_.defect("a selection without its report");
             walker_.Selected = walker_.Selected || reported;
         });

@@ -15,6 +15,7 @@
 #include "project/frmBrenicaControls.h"
 #include "project/modGlobal.h"
 #include "scoring/export_tables.h"
+#include "ui/event.h"
 #include "ui/files.h"
 
 /// The main form: all controls of frmBrenicaControls, the form's own fields and every procedure. Its grids are the
@@ -170,6 +171,9 @@ public:
 
     // selection/complementarity.cpp
     void cmdComplement_Click();
+    /// Fires in the place of a selection when entries were added to the lists since the last scores, which Aggregate
+    /// Scores would bring up to date. The form says nothing; whoever watches may.
+    ui::Event<> SelectionRefused;
     void InitComplementarity();
 
     // selection/results_display.cpp

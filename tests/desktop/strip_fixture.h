@@ -88,11 +88,13 @@ struct StripWindow : MainWindow {
     desktop::Strip& strip() { return own.strip(); }
     /// The lines on view, from the top.
     QStringList lines() {
-        QStringList texts;
+        QCoreApplication::sendPostedEvents();  // to see them where they are laid out
+        QMap<int, QString> texts;
         for (const QLabel* label : strip().findChildren<QLabel*>()) {
-            if (!label->text().isEmpty() && label->isVisible()) texts << label->text();
+            if (!label->text().isEmpty() && label->isVisible())
+                texts[label->mapTo(&strip(), QPoint()).y()] = label->text();
         }
-        return texts;
+        return texts.values();
     }
     /// The button of a caption, or of a name for screen readers, in the line whose text begins so; null for none.
     QAbstractButton* button(const QString& line, const QString& caption) {

@@ -84,7 +84,10 @@ void Strip::show(std::vector<StripLine> lines) {
         row->deleteLater();  // its button may be the one that was pressed
     }
     emit heightChanged();
-    for (StripRow* row : added) row->announce();
+    for (StripRow* row : added) {
+        row->announce();
+        emit announced(row->accessibleName());
+    }
 }
 
 int Strip::heightForWidth(int width) const {

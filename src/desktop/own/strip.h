@@ -54,6 +54,8 @@ public:
 signals:
     /// The strip has come, gone, or wants another height.
     void heightChanged();
+    /// A line that is new was told to screen readers.
+    void announced(const QString& text);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -20,6 +20,7 @@ inline constexpr const char* NewProject = "A new project";
 inline constexpr const char* Today = "today %1";
 inline constexpr const char* Yesterday = "yesterday %1";
 inline constexpr const char* OnDay = "%1, %2";
+inline constexpr const char* DayFormat = "d MMMM yyyy";
 inline constexpr const char* Offer = "%1, %2, %3 species: not saved.";
 inline constexpr const char* OfferOfSaved =
     "%1, %2, %3 species: saved, but the file could not carry every cell.";

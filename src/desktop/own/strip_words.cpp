@@ -76,7 +76,7 @@ QString moment(const QDateTime& time, const QDateTime& now) {
     const qint64 days = local.date().daysTo(now.toLocalTime().date());
     if (days == 0) return said(own_texts::Today).arg(clock);
     if (days == 1) return said(own_texts::Yesterday).arg(clock);
-    return said(own_texts::OnDay).arg(english.toString(local.date(), "d MMMM yyyy"), clock);
+    return said(own_texts::OnDay).arg(english.toString(local.date(), own_texts::DayFormat), clock);
 }
 
 QString offer(const CopyOffer& offer, const QDateTime& now) {

@@ -28,6 +28,7 @@ struct StripLine {
     StripTone Tone = StripTone::Note;
     std::vector<StripAction> Actions;
     std::function<void()> Close;  ///< nothing for a line that cannot be closed by itself
+    bool Indented = false;        ///< belongs to the line above it
 };
 
 class StripRow;

@@ -151,6 +151,7 @@ void StripLines::addGroup(std::vector<StripLine>& lines, const QList<CopyOffer>&
     for (const CopyOffer& offer : offers) {
         StripLine line = lineOf(offer);
         line.Close = nullptr;  // the heading closes them all
+        line.Indented = true;
         lines.push_back(line);
     }
 }

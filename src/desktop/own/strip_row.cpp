@@ -53,7 +53,7 @@ StripRow::StripRow(StripLine line, QWidget* parent)
     text_->setText(line_.Text);
     auto* row = new QHBoxLayout(this);
     const int gap = fontMetrics().height() / 3;
-    row->setContentsMargins(2 * gap, gap, gap, gap);
+    row->setContentsMargins((line_.Indented ? 7 : 2) * gap, gap, gap, gap);
     row->setSpacing(2 * gap);
     row->addWidget(picture_);
     row->addWidget(text_, 1);
@@ -90,6 +90,7 @@ bool StripRow::shows(const StripLine& line) const {
         return one.Caption == other.Caption;
     };
     return line.Text == line_.Text && line.Details == line_.Details && line.Tone == line_.Tone &&
+           line.Indented == line_.Indented &&
            std::equal(line.Actions.begin(), line.Actions.end(), line_.Actions.begin(), line_.Actions.end(),
                       sameCaption) &&
            static_cast<bool>(line.Close) == static_cast<bool>(line_.Close);

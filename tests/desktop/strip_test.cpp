@@ -155,6 +155,17 @@ private slots:
         QVERIFY(box.hasFocus());
     }
 
+    void theFocusIsSeenOnEveryButton() {
+        StripWindow w;
+        w.widgetOf(w.form->txtTotalSpecies).setFocus();
+        w.copies.give({copyOf("/a/landscape.brn")});
+        for (QAbstractButton* button : w.strip().findChildren<QAbstractButton*>()) {
+            const QImage before = button->grab().toImage();
+            button->setFocus();
+            QVERIFY2(button->grab().toImage() != before, qPrintable(button->accessibleName()));
+        }
+    }
+
     void enterAndSpacePress_data() {
         QTest::addColumn<int>("key");
         QTest::newRow("Enter") << static_cast<int>(Qt::Key_Return);

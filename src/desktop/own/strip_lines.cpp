@@ -25,9 +25,9 @@ StripLines::StripLines(Strip& strip, SafetyCopies& copies, FormWatch& watch)
     follow();
 }
 
-StripLines::~StripLines() {
-    copies_.disconnect(this);
-    for (const QString& id : droppedOffers_.keys()) copies_.drop(id);
+void StripLines::finishDrops() {
+    const QStringList dropped = droppedOffers_.keys();
+    for (const QString& id : dropped) finishDrop(id);
 }
 
 void StripLines::follow() {

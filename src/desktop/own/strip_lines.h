@@ -19,11 +19,12 @@ class StripLines : public QObject {
 
 public:
     StripLines(Strip& strip, SafetyCopies& copies, FormWatch& watch);
-    /// Carries out what was dropped and not taken back.
-    ~StripLines() override;
+    ~StripLines() override { finishDrops(); }
 
     /// Takes over what the watch has come to. To be called when it has looked.
     void follow();
+    /// Carries out what was dropped and not taken back, as at the end of the program.
+    void finishDrops();
     /// The key of the strip: leads into it, and out again. With nothing to say it lists the copies there are.
     void enter();
 

@@ -34,6 +34,22 @@ Look lookOf(StripTone tone) {
     return {QStyle::SP_MessageBoxInformation, QColor(0x80, 0x80, 0x80)};
 }
 
+/// Shows the focus, which styles leave out on such buttons.
+class StripButton : public QToolButton {
+public:
+    using QToolButton::QToolButton;
+
+protected:
+    void paintEvent(QPaintEvent* event) override {
+        QToolButton::paintEvent(event);
+        if (!hasFocus()) return;
+        constexpr int Width = 2;
+        QPainter painter(this);
+        painter.setPen(QPen(palette().color(QPalette::Highlight), Width));
+        painter.drawRect(rect().adjusted(Width / 2, Width / 2, -Width, -Width));
+    }
+};
+
 QColor mixed(const QColor& base, const QColor& tint) {
     const auto mix = [](float one, float other) { return static_cast<float>(one + (other - one) * Tinting); };
     return QColor::fromRgbF(mix(base.redF(), tint.redF()), mix(base.greenF(), tint.greenF()),
@@ -58,12 +74,12 @@ StripRow::StripRow(StripLine line, QWidget* parent)
     row->addWidget(picture_);
     row->addWidget(text_, 1);
     for (std::size_t i = 0; i < line_.Actions.size(); ++i) {
-        auto* button = new QToolButton(this);
+        auto* button = new StripButton(this);
         button->setText(line_.Actions[i].Caption);
         addButton(button, [i](const StripLine& shown) { shown.Actions[i].Run(); });
     }
     if (line_.Close) {
-        auto* button = new QToolButton(this);
+        auto* button = new StripButton(this);
         button->setAutoRaise(true);
         button->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
         button->setAccessibleName(own_texts::Close);

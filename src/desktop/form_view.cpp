@@ -288,7 +288,7 @@ void FormView::changeEvent(QEvent* event) {
 
 void FormView::closeEvent(QCloseEvent* event) {
     event->ignore();  // the form's end closes the window
-    link_.run([this] { form_.UserClose(); });
+    link_.command([this] { form_.UserClose(); });
 }
 
 void FormView::keyPressEvent(QKeyEvent* event) {

@@ -26,6 +26,10 @@ struct ProjectCopy {
     std::vector<UncarriedCell> Uncarried;
     /// The list of functions is empty, which a file cannot say.
     bool WithoutFunctions = false;
+    int Species = 0;
+
+    /// The texts that are lost when this is saved, without those that only opening may change.
+    std::vector<UncarriedCell> lostBySaving() const;
 };
 
 /// A cell or box in words, as a planner knows it: "Habitat types", "3 Reed bed", "Area", "0,5". Row and Column are
@@ -42,5 +46,6 @@ enum class ProjectStep {
     Left,    ///< New or Open is about to give the form another project, whatever becomes of that
     Opened,  ///< a file was read; the text is its path
     Saved,   ///< a file was written; the text is its path
+    Broken,  ///< a save has failed half-way: the file at the path, the project's own as a rule, is cut short
     GivenUp  ///< the user wants to exit without saving what has changed
 };

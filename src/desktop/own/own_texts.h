@@ -54,7 +54,7 @@ inline constexpr const char* ReadingBlocked =
 inline constexpr const char* WorkIsKept = "Your work is kept in a safety copy.";
 
 // What else the form does not say.
-inline constexpr const char* NotKept = "No safety copy is kept: %1 Save often.";
+inline constexpr const char* NotKept = "No safety copy is kept: %1. Save often.";
 inline constexpr const char* NotCarried = "The saved file cannot hold %1 as entered: %2.";
 inline constexpr const char* OneCell = "1 cell";
 inline constexpr const char* SeveralCells = "%1 cells";

@@ -49,7 +49,10 @@ public:
     virtual bool open(const QString& id) = 0;
     /// Removes the copy for good; false where another program was faster, or the disk refuses.
     virtual bool drop(const QString& id) = 0;
-    /// Why the work in view is not kept at present, to be shown as it is; empty while all is well.
+    /// Whether there is a copy of the work in view, or one is being written; false also where none is wanted, as the
+    /// file has all.
+    virtual bool keeps() const = 0;
+    /// Why the work in view is not kept at present, as a sentence; empty while all is well.
     virtual QString whyNotKept() const = 0;
     /// What the last save of the project in view could not carry; empty when it carried all, and from the next project
     /// on. The copy is kept as long as there is such a text.

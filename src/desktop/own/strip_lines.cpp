@@ -50,7 +50,7 @@ void StripLines::enter() {
 
 /// What a failure means for the rest of the run.
 QString StripLines::afterwards(const FailedCommand& failure) const {
-    const QString kept = copies_.whyNotKept().isEmpty() ? QString(own_texts::WorkIsKept) : QString();
+    const QString kept = copies_.keeps() ? QString(own_texts::WorkIsKept) : QString();
     switch (failure.What) {
         case FailedCommand::Kind::Save:
             if (failure.Path.empty()) return {};
@@ -85,15 +85,16 @@ void StripLines::addFailures(std::vector<StripLine>& lines) {
 void StripLines::addKeeping(std::vector<StripLine>& lines) {
     const QString reason = copies_.whyNotKept();
     if (!reason.isEmpty() && reason != closedReason_) {
-        lines.push_back({QString(own_texts::NotKept).arg(reason), {}, StripTone::Warning, {}, [this, reason] {
+        lines.push_back({strip_words::notKept(reason), {}, StripTone::Warning, {}, [this, reason] {
                              closedReason_ = reason;
                              follow();
                          }});
     }
     const QList<LostText> cells = copies_.notCarried();
     if (cells.isEmpty() || notCarriedClosed_) return;
-    const QString text = strip_words::notCarried(cells) + ' ' + own_texts::NotCarriedKept;
-    lines.push_back({text, strip_words::allCells(cells), StripTone::Warning, {}, [this] {
+    const QString kept = copies_.keeps() ? QString(own_texts::NotCarriedKept) : QString();
+    const QString text = strip_words::notCarried(cells) + ' ' + kept;
+    lines.push_back({text.trimmed(), strip_words::allCells(cells), StripTone::Warning, {}, [this] {
                          notCarriedClosed_ = true;
                          follow();
                      }});

@@ -35,12 +35,14 @@ QString projectOf(const CopyOffer& offer) {
 }
 
 /// In the middle of a sentence, without the stop at its end.
-QString reasonOf(const FailedCommand& failed) {
-    QString reason = shownText(failed.Reason).simplified();
+QString clause(const QString& sentence) {
+    QString reason = sentence.simplified();
     while (reason.endsWith('.')) reason.chop(1);
     if (reason.size() > 1 && reason.at(1).isLower()) reason[0] = reason.at(0).toLower();
     return reason;
 }
+
+QString reasonOf(const FailedCommand& failed) { return clause(shownText(failed.Reason)); }
 
 QString cell(const LostText& lost) {
     const QString text = shortened(lost.Text.simplified(), LongestText);
@@ -109,6 +111,8 @@ QString failure(const FailedCommand& failed, bool blocked) {
     }
     return {};
 }
+
+QString notKept(const QString& reason) { return said(own_texts::NotKept).arg(clause(reason)); }
 
 QString notCarried(const QList<LostText>& cellsLost) {
     const QString count = cellsLost.size() == 1 ? said(own_texts::OneCell)

@@ -8,7 +8,7 @@
 #include <QSignalSpy>
 #include <cmath>
 
-#include "desktop/strip_fixture.h"
+#include "desktop/own/strip_fixture.h"
 #include "ui/combo_box.h"
 
 using desktop_test::copyOf;

@@ -30,6 +30,7 @@ public:
         if (DropSucceeds) remove(id);
         return DropSucceeds;
     }
+    bool keeps() const override { return Reason.isEmpty(); }
     QString whyNotKept() const override { return Reason; }
     QList<desktop::LostText> notCarried() const override { return Lost; }
 

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/own/strip_lines.h"
 
+#include "desktop/own/strip_fixture.h"
 #include "desktop/own/strip_words.h"
-#include "desktop/strip_fixture.h"
 #include "ui/combo_box.h"
 
 using desktop_test::copyOf;
@@ -308,7 +308,7 @@ private slots:
         w.copies.failToKeep("Disk full.");
         w.save("missing/landscape.brn");
         QCOMPARE(w.lines(), QStringList({"landscape.brn was not saved: path not found.",
-                                         "No safety copy is kept: Disk full. Save often."}));
+                                         "No safety copy is kept: disk full. Save often."}));
     }
 
     void theSaveBeforeExit() {
@@ -404,7 +404,7 @@ private slots:
     void whyNoCopyIsKept() {
         StripWindow w;
         w.copies.failToKeep("Disk full.");
-        QCOMPARE(w.lines(), QStringList("No safety copy is kept: Disk full. Save often."));
+        QCOMPARE(w.lines(), QStringList("No safety copy is kept: disk full. Save often."));
         w.copies.failToKeep("");
         QVERIFY(!w.strip().isVisible());
         w.copies.failToKeep("Disk full.");
@@ -413,7 +413,7 @@ private slots:
         w.run([] {});
         QVERIFY(!w.strip().isVisible());
         w.copies.failToKeep("Permission denied.");
-        QCOMPARE(w.lines(), QStringList("No safety copy is kept: Permission denied. Save often."));
+        QCOMPARE(w.lines(), QStringList("No safety copy is kept: permission denied. Save often."));
     }
 
     void whichCellsTheFileCannotHold() {

@@ -64,8 +64,8 @@ void Desktop::run(const std::function<void()>& action) {
     }
     followForms();
     keepCopies();
+    if (program_.Ended()) return end(0);
     followStrip(false);
-    if (program_.Ended()) end(0);
 }
 
 /// What an open cell editor holds is taken over first, as the action itself would do, so that it is kept as well.
@@ -85,10 +85,21 @@ void Desktop::keepCopies() {
     copies_.afterAction();
 }
 
+/// The last look is before the box of a failure, which names no file and does not say that the work is kept.
+void Desktop::followStrip(bool programEnds) {
+    if (mainWindow_ == nullptr) return;
+    if (strip_ == nullptr) {
+        strip_ =
+            std::make_unique<WindowStrip>(*mainWindow_, *program_.MainForm(), program_.GetFiles(), copies_);
+    }
+    strip_->look(programEnds);
+}
+
 void Desktop::fail(const std::exception_ptr& failure) {
     if (std::exchange(ended_, true)) return;
     copies_.finish();  // what was taken is on the disk, however the box ends, and nothing more is taken
     followForms();
+    followStrip(true);
     while (QApplication::overrideCursor() != nullptr) QApplication::restoreOverrideCursor();
     showMessageBox(ownerOfBoxes(), descriptionOf(failure), ui::ApplicationTitle,
                    ui::MessageIcon::Exclamation);

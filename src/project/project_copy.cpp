@@ -74,10 +74,11 @@ private:
         std::replace(cellText, text.end(), '\r', '\n');
     }
 
-    /// A data quality level of the species on view is chosen in its box when the file is opened: a text that is none
-    /// ends the opening.
+    /// The data quality level of the first criterion is chosen in its box when the file is opened: a text that is no
+    /// level ends the opening.
     bool isShownAsLevel(std::string_view cell) const {
-        if (cell.empty() || !line_.Key.starts_with(projectfile::DataQuality)) return true;
+        const bool isChosen = line_.Column == 1 && line_.Key.starts_with(projectfile::DataQuality);
+        if (cell.empty() || !isChosen) return true;
         const auto level = ui::tryReal(cell, line_.Grid->Form().Separator());
         return level && *level >= -0.5 && *level <= LastDataQuality + 0.5;
     }

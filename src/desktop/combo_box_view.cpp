@@ -24,7 +24,7 @@ ComboBoxView::ComboBoxView(ui::ComboBox& box, FormLink& link, QWidget* parent)
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     setStyleSheet("QComboBox { combobox-popup: 0; }");
     connect(this, &QComboBox::activated, this, [this, &link](int index) {
-        link.run([this, index] { box_.UserChoose(index); });
+        link.command([this, index] { box_.UserChoose(index); });
         follow();  // also where the choice did not take place
     });
 }

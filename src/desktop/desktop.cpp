@@ -43,7 +43,11 @@ std::string descriptionOf(const std::exception_ptr& failure) {
 
 }  // namespace
 
-Desktop::Desktop() : scale_(QApplication::font()), platform_(scale_, *this), program_(platform_) {}
+Desktop::Desktop()
+    : scale_(QApplication::font()),
+      platform_(scale_, *this),
+      program_(platform_),
+      copies_(*this, CopyFolder::usualPath()) {}
 
 void Desktop::start() {
     run([this] { program_.Main(); });
@@ -59,12 +63,43 @@ void Desktop::run(const std::function<void()>& action) {
         return fail(std::current_exception());
     }
     followForms();
-    if (program_.Ended()) end(0);
+    keepCopies();
+    if (program_.Ended()) return end(0);
+    followStrip(false);
+}
+
+/// What an open cell editor holds is taken over first, as the action itself would do, so that it is kept as well.
+void Desktop::command(const std::function<void()>& action) {
+    if (ended_ || busy_) return;
+    if (frmBrenica* form = program_.MainForm(); form != nullptr && form->EditingGrid() != nullptr) {
+        run([form] { form->CommitOpenEditor(); });
+        if (form->EditingGrid() != nullptr) return;
+    }
+    if (!ended_) copies_.beforeCommand();
+    run(action);
+}
+
+void Desktop::keepCopies() {
+    if (program_.MainForm() == nullptr) return;
+    if (!std::exchange(copiesFollow_, true)) copies_.follow(*program_.MainForm());
+    copies_.afterAction();
+}
+
+/// The last look is before the box of a failure, which names no file and does not say that the work is kept.
+void Desktop::followStrip(bool programEnds) {
+    if (mainWindow_ == nullptr) return;
+    if (strip_ == nullptr) {
+        strip_ =
+            std::make_unique<WindowStrip>(*mainWindow_, *program_.MainForm(), program_.GetFiles(), copies_);
+    }
+    strip_->look(programEnds);
 }
 
 void Desktop::fail(const std::exception_ptr& failure) {
     if (std::exchange(ended_, true)) return;
+    copies_.finish();  // what was taken is on the disk, however the box ends, and nothing more is taken
     followForms();
+    followStrip(true);
     while (QApplication::overrideCursor() != nullptr) QApplication::restoreOverrideCursor();
     showMessageBox(ownerOfBoxes(), descriptionOf(failure), ui::ApplicationTitle,
                    ui::MessageIcon::Exclamation);
@@ -80,6 +115,8 @@ void Desktop::handlePendingEvents() {
 
 void Desktop::end(int exitCode) {
     ended_ = true;
+    if (strip_ != nullptr) strip_->lines().finishDrops();
+    copies_.finish();
     for (FormView* window : {splash_.get(), mainWindow_.get()}) {
         if (window != nullptr) window->retire();
     }

@@ -6,6 +6,8 @@
 #include <memory>
 
 #include "desktop/form_view.h"
+#include "desktop/own/project_copies.h"
+#include "desktop/own/window_strip.h"
 #include "desktop/qt_platform.h"
 #include "project/modStartup.h"
 
@@ -20,6 +22,7 @@ public:
     void start();
 
     void run(const std::function<void()>& action) override;
+    void command(const std::function<void()>& action) override;
     bool isBusy() const override { return busy_; }
     const Scale& scale() const override { return scale_; }
 
@@ -33,18 +36,24 @@ public:
     QPixmap pictureOf(const ui::Chart& chart) override;
 
     Program& program() { return program_; }
+    ProjectCopies& copies() { return copies_; }
     /// The main form's window; null until the splash has handed over.
     FormView* mainWindow() const { return mainWindow_.get(); }
 
 private:
     void follow(std::unique_ptr<FormView>& window, ui::FormWindow* form);
+    void keepCopies();
+    void followStrip(bool programEnds);
     void end(int exitCode);
 
     Scale scale_;
     QtPlatform platform_;
     Program program_;
+    ProjectCopies copies_;
+    bool copiesFollow_ = false;
     std::unique_ptr<FormView> splash_;
     std::unique_ptr<FormView> mainWindow_;
+    std::unique_ptr<WindowStrip> strip_;  // from the main window's beginning on
     bool busy_ = false;
     bool ended_ = false;
 };

@@ -8,6 +8,7 @@
 #include <QScreen>
 #include <QShortcut>
 #include <QStyle>
+#include <utility>
 
 #include "desktop/accessible_role.h"
 #include "desktop/menu_view.h"
@@ -174,15 +175,35 @@ QSize FormView::borderOfForm() const {
     return {ui::FormWindow::BorderWidth, ui::FormWindow::BorderHeight};
 }
 
+int FormView::menuHeight() const { return menu_ != nullptr ? menu_->sizeHint().height() : 0; }
+
+int FormView::edgeHeight(int width) const {
+    return edge_ == nullptr || edge_->isHidden() ? 0 : edge_->heightForWidth(width);
+}
+
 QRect FormView::wantedGeometry() const {
     const Scale& scale = link_.scale();
-    const int menuHeight = menu_ != nullptr ? menu_->sizeHint().height() : 0;
     const QSize border = borderOfForm();
     const QRect frame = frameGeometry();
+    const int width = scale.pixels(form_.Width() - border.width());
     return {scale.pixels(form_.Left()) + geometry().left() - frame.left(),
-            scale.pixels(form_.Top()) + geometry().top() - frame.top(),
-            scale.pixels(form_.Width() - border.width()),
-            scale.pixels(form_.Height() - border.height()) + menuHeight};
+            scale.pixels(form_.Top()) + geometry().top() - frame.top(), width,
+            scale.pixels(form_.Height() - border.height()) + menuHeight() + edgeHeight(width)};
+}
+
+void FormView::placeAtEdge(QWidget& widget) {
+    edge_ = &widget;
+    edge_->setParent(this);
+    followEdge();
+}
+
+void FormView::followEdge() {
+    if (edgeHeight(width()) == edgeHeight_) return;
+    arrangeContents();
+    if (!open_) return;
+    if (form_.WindowState() != ui::WindowState::Normal) return tellSize();
+    askedFrom_.reset();
+    takeFormsGeometry();
 }
 
 /// Asks once: a window manager that puts the window back where it was is left alone.
@@ -199,9 +220,11 @@ void FormView::takeFormsGeometry() {
 }
 
 void FormView::arrangeContents() {
-    const int menuHeight = menu_ != nullptr ? menu_->sizeHint().height() : 0;
-    if (menu_ != nullptr) menu_->setGeometry(0, 0, width(), menuHeight);
-    scroll_->setGeometry(0, menuHeight, width(), height() - menuHeight);
+    const int top = menuHeight();
+    edgeHeight_ = edgeHeight(width());
+    if (menu_ != nullptr) menu_->setGeometry(0, 0, width(), top);
+    if (edgeHeight_ > 0) edge_->setGeometry(0, height() - edgeHeight_, width(), edgeHeight_);
+    scroll_->setGeometry(0, top, width(), height() - top - edgeHeight_);
     contents_->resize(sizeOfContents(scroll_->size()));
 }
 
@@ -226,13 +249,15 @@ void FormView::tellSize() {
     const auto state = isMinimized()                     ? ui::WindowState::Minimized
                        : isMaximized() || isFullScreen() ? ui::WindowState::Maximized
                                                          : ui::WindowState::Normal;
-    const int width = scale.twipsWithin(contents_->width()) + border.width();
-    const int height = scale.twipsWithin(contents_->height()) + border.height();
     const QPoint place = frameGeometry().topLeft();
+    const QRect size(scale.twipsWithin(place.x()), scale.twipsWithin(place.y()),
+                     scale.twipsWithin(contents_->width()) + border.width(),
+                     scale.twipsWithin(contents_->height()) + border.height());
     const QRect shown = geometry();
-    link_.run([&] {
-        form_.UserResize(state, scale.twipsWithin(place.x()), scale.twipsWithin(place.y()), width, height);
-    });
+    // A strip at the edge of a normal window makes no other size of the form.
+    if (const auto now = std::pair(state, size); std::exchange(told_, now) != now) {
+        link_.run([&] { form_.UserResize(state, size.x(), size.y(), size.width(), size.height()); });
+    }
     if (state != ui::WindowState::Normal) return;
     if (wantedGeometry() == shown) askedFrom_.reset();
     takeFormsGeometry();
@@ -263,7 +288,7 @@ void FormView::changeEvent(QEvent* event) {
 
 void FormView::closeEvent(QCloseEvent* event) {
     event->ignore();  // the form's end closes the window
-    link_.run([this] { form_.UserClose(); });
+    link_.command([this] { form_.UserClose(); });
 }
 
 void FormView::keyPressEvent(QKeyEvent* event) {

@@ -29,6 +29,11 @@ public:
     void retire();
     /// Nothing for a control of another form.
     View* viewOf(const ui::Control& control) const;
+    /// Gives a widget that is no control a place at the lower edge, as high as it wants to be while it is not hidden. The
+    /// form has what is left: a normal window grows by that height, in a maximised one the form's area shrinks.
+    void placeAtEdge(QWidget& widget);
+    /// To be called when the widget at the edge has come, gone, or wants another height.
+    void followEdge();
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
@@ -48,6 +53,8 @@ private:
     void addPageKeys();
     void turnPage(bool innermost, int by);
     QSize borderOfForm() const;
+    int menuHeight() const;
+    int edgeHeight(int width) const;
     QSize sizeOfContents(QSize room) const;
     QRect wantedGeometry() const;
     void takeFormsGeometry();
@@ -56,11 +63,15 @@ private:
     ui::FormWindow& form_;
     FormLink& link_;
     MenuView* menu_ = nullptr;
+    QWidget* edge_ = nullptr;
+    int edgeHeight_ = 0;  // as last arranged
     QScrollArea* scroll_;
     QWidget* contents_;
     std::unordered_map<const ui::Control*, View*> views_;
     QList<QTimer*> timers_;
     QTimer settled_;
+    /// State, place and size as the form was last told.
+    std::optional<std::pair<ui::WindowState, QRect>> told_;
     /// Where the window stood when it was last asked to go where the form wants it, to ask a window manager only once.
     std::optional<QRect> askedFrom_;
     bool open_ = false;

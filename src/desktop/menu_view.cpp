@@ -21,7 +21,8 @@ QAction* MenuView::makeMenu(const ui::MenuItem& item) {
 QAction* MenuView::makeEntry(ui::MenuItem& item) {
     QAction* entry = actions_.at(&item.Container())->menu()->addAction(QString());
     entry->setShortcut(QKeySequence(shownText(item.Shortcut())));
-    connect(entry, &QAction::triggered, this, [this, &item] { link_.run([&item] { item.UserClick(); }); });
+    connect(entry, &QAction::triggered, this,
+            [this, &item] { link_.command([&item] { item.UserClick(); }); });
     return entry;
 }
 

@@ -62,7 +62,8 @@ void PictureView::paintEvent(QPaintEvent*) {
 CommandButtonView::CommandButtonView(ui::CommandButton& button, FormLink& link, QWidget* parent)
     : QPushButton(parent), button_(button) {
     setAutoDefault(false);
-    connect(this, &QPushButton::clicked, this, [this, &link] { link.run([this] { button_.UserClick(); }); });
+    connect(this, &QPushButton::clicked, this,
+            [this, &link] { link.command([this] { button_.UserClick(); }); });
 }
 
 void CommandButtonView::follow() { setText(captionWithAccessKey(button_)); }
@@ -79,7 +80,7 @@ void CommandButtonView::keyPressEvent(QKeyEvent* event) {
 
 CheckBoxView::CheckBoxView(ui::CheckBox& box, FormLink& link, QWidget* parent)
     : QCheckBox(parent), box_(box) {
-    connect(this, &QCheckBox::clicked, this, [this, &link] { link.run([this] { box_.UserClick(); }); });
+    connect(this, &QCheckBox::clicked, this, [this, &link] { link.command([this] { box_.UserClick(); }); });
 }
 
 bool CheckBoxView::event(QEvent* event) {
@@ -108,7 +109,7 @@ void OptionButtonView::follow() {
 }
 
 void OptionButtonView::choose() {
-    link_.run([this] { button_.UserClick(); });
+    link_.command([this] { button_.UserClick(); });
 }
 
 void OptionButtonView::keyPressEvent(QKeyEvent* event) {

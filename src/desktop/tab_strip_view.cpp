@@ -67,7 +67,7 @@ void TabStripView::follow() {
 }
 
 void TabStripView::select(int index) {
-    link_.run([this, index] { strip_.UserSelectTab(index); });
+    link_.command([this, index] { strip_.UserSelectTab(index); });
     follow();  // also where the tab could not be left
 }
 

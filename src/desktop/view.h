@@ -18,6 +18,9 @@ public:
     /// that it changed has followed. If it fails, the failure is shown and the program ends: nothing is thrown on. While
     /// another action runs, as under a box that it shows, nothing happens.
     virtual void run(const std::function<void()>& action) = 0;
+    /// The same for an action that may set off a lot, or fail: a move between pages, a button, a choice, an entry of the
+    /// menu, the end.
+    virtual void command(const std::function<void()>& action) { run(action); }
     /// Whether an action runs, so that another one would be dropped.
     virtual bool isBusy() const { return false; }
     virtual const Scale& scale() const = 0;

@@ -14,6 +14,8 @@
 #include "entry/parameter_lists.h"
 #include "project/frmBrenicaControls.h"
 #include "project/modGlobal.h"
+#include "project/project_copy.h"
+#include "project/project_file_writer.h"
 #include "scoring/export_tables.h"
 #include "ui/event.h"
 #include "ui/files.h"
@@ -57,6 +59,20 @@ public:
     // project/project_file_writer.cpp, project/project_file_reader.cpp
     void SaveProject(const std::string& path);
     void OpenProject(const std::string& path);
+    /// The lines of a project file, in their order.
+    void writeLines(const TakeFileLine& take) const;
+
+    // project/project_copy.cpp: what stands beside the described commands, for whoever keeps copies of the project
+    ui::Event<ProjectStep, const std::string&> ProjectStepTaken;
+    /// Raises what a save would raise where lists and tables are out of step.
+    ProjectCopy TakeCopy() const;
+    /// Project > Open with this file chosen, the save question included. Does nothing once a file has failed to open
+    /// half-way, since no other can be read then.
+    void UserOpenFile(const std::string& path);
+    /// To be called when the text of `copy` has been opened: puts back what it could not carry, and makes the project
+    /// again that of `path`, empty for none, with changes to be saved. A cell that there is not is passed over.
+    void RestoreCopy(const ProjectCopy& copy, const std::string& path);
+    std::vector<CellInWords> LostInWords(const ProjectCopy& copy) const;
 
     // project/page_navigation.cpp
     void tabBrenica_Click();
@@ -241,6 +257,17 @@ private:
     void clearScores();
     void clearResults();
     void resetTextBoxes();
+
+    // project/project_file_writer.cpp
+    FileLine homeRangeLine() const;
+
+    // project/project_copy.cpp
+    ui::Grid* gridNamed(std::string_view name) const;
+    ui::TextBox* levelNamed(std::string_view name);
+    void restoreCell(const UncarriedCell& cell);
+    void makeRoomForBin(int row);
+    CellInWords inWords(const UncarriedCell& cell) const;
+    std::string rowInWords(const ui::Grid& grid, int row) const;
 
     // project/version1_project.cpp
     void convertVersion1Project();

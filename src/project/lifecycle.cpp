@@ -38,6 +38,7 @@ void frmBrenica::newProjectCommand() {
     if (wantsToSave("Would you like to save the current project before starting a new project?")) {
         SaveProject(cdgFileDialog.FileName);
     }
+    ProjectStepTaken(ProjectStep::Left, "");
     InitializeProject();
     global_.ProjectFileName.clear();
     Caption("Brenica");
@@ -51,9 +52,11 @@ void frmBrenica::openProjectCommand() {
     cdgFileDialog.ShowOpen();
     const std::string path = cdgFileDialog.FileName;
     const ui::WaitPointer wait(platform());
+    ProjectStepTaken(ProjectStep::Left, "");
     InitializeProject();
     OpenProject(path);
     showProjectPath(path);
+    ProjectStepTaken(ProjectStep::Opened, path);
     ProjectChanged = false;
     ResizeForm();
 }
@@ -69,7 +72,9 @@ void frmBrenica::saveProjectCommand() {
 /// The name chosen in the dialogue is not taken here: saving to no name fails and ends the command, so that Yes never
 /// exits and only No does.
 void frmBrenica::exitCommand() {
+    const bool changed = ProjectChanged;
     if (wantsToSave("Would you like to save the current project before exiting?")) SaveProject("");
+    if (changed) ProjectStepTaken(ProjectStep::GivenUp, "");
     Unload();
 }
 

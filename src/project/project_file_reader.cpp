@@ -278,7 +278,7 @@ void frmBrenica::OpenProject(const std::string& path) {
         if (global_.ProjectVersion.empty()) convertVersion1Project();
         ProjectLoading = false;
     } catch (...) {
-        files_.NoteFault({path, lines, CurrentError()});
+        files_.NoteFault({path, lines, CurrentError(), ui::FileMode::Input, OpenFileNumber});
         ReportError(9999, "Brenica.OpenProject", "");
     }
 }

@@ -36,6 +36,7 @@ void Control::Move(int left, int top, int width, int height) {
 void Control::joinChanged() {
     changed_ = true;
     form_->changed_.push_back(this);
+    ++form_->revision_;
 }
 
 std::string Control::AccessibleName() const {

@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <optional>
 #include <string>
+#include <utility>
 
 #include "ui/errors.h"
 #include "ui/platform.h"
@@ -22,13 +24,17 @@ public:
     int Flags = 0;
     /// Whether Cancel raises Cancelled; otherwise it leaves FileName as it was.
     bool CancelError = false;
+    /// The file that the next question for one to open is answered with, without a dialogue.
+    std::optional<std::string> Chosen;
 
     void ShowOpen() { show(FileDialogKind::Open); }
     void ShowSave() { show(FileDialogKind::Save); }
 
 private:
     void show(FileDialogKind kind) {
-        const auto chosen = platform_.chooseFile({kind, FileName, Filter, DefaultExt, InitDir, Flags});
+        const auto chosen = kind == FileDialogKind::Open && Chosen
+                                ? std::exchange(Chosen, std::nullopt)
+                                : platform_.chooseFile({kind, FileName, Filter, DefaultExt, InitDir, Flags});
         if (chosen) {
             FileName = *chosen;
         } else if (CancelError) {

@@ -68,11 +68,11 @@ ErrorNumber errorFor(int systemError, ErrorNumber otherwise) {
 
 /// Runs one step on a file and keeps the failure that it ends in.
 template <class Step>
-decltype(auto) Files::noting(const std::string& path, int line, Step step) {
+decltype(auto) Files::noting(const OpenFile& file, int line, Step step) {
     try {
         return step();
     } catch (const RunTimeError& error) {
-        lastFault_ = FileFault{path, line, error};
+        lastFault_ = FileFault{file.Path, line, error, file.Mode, file.Number};
         throw;
     }
 }
@@ -106,24 +106,25 @@ void Files::load(OpenFile& file) {
 }
 
 void Files::Open(const std::string& path, FileMode mode, int number) {
-    noting(path, 0, [&] {
+    OpenFile file;
+    file.Path = path;
+    file.Mode = mode;
+    file.Number = number;
+    noting(file, 0, [&] {
         if (IsOpen(number)) raise(ErrorNumber::FileAlreadyOpen);
         prepare(Operation::Open);
         refuseFolder(path);
-        OpenFile file;
-        file.Path = path;
-        file.Mode = mode;
         errno = 0;
         file.Stream.reset(std::fopen(path.c_str(), mode == FileMode::Input ? "rb" : "wb"));
         if (!file.Stream) raise(errorOfOpening(path, mode, errno));
         linesEnded_ = 0;
-        open_.emplace(number, std::move(file));
     });
+    open_.emplace(number, std::move(file));
 }
 
 bool Files::EndOfFile(int number) {
     OpenFile& file = find(number);
-    return noting(file.Path, file.Line, [&] {
+    return noting(file, file.Line, [&] {
         load(file);
         return file.Position >= file.Content.size();
     });
@@ -131,7 +132,7 @@ bool Files::EndOfFile(int number) {
 
 std::string Files::LineInput(int number, LineEnds ends) {
     OpenFile& file = find(number);
-    return noting(file.Path, file.Line + 1, [&] {
+    return noting(file, file.Line + 1, [&] {
         if (file.Mode != FileMode::Input) raise(ErrorNumber::BadFileNumber);
         prepare(Operation::Read);
         if (EndOfFile(number)) raise(ErrorNumber::InputPastEndOfFile);
@@ -149,7 +150,7 @@ std::string Files::LineInput(int number, LineEnds ends) {
 
 void Files::Print(int number, std::string_view line) {
     OpenFile& file = find(number);
-    noting(file.Path, ++file.Line, [&] {
+    noting(file, ++file.Line, [&] {
         if (file.Mode != FileMode::Output) raise(ErrorNumber::BadFileNumber);
         prepare(Operation::Write);
         errno = 0;
@@ -164,13 +165,15 @@ void Files::Close(int number) {
     const auto found = open_.find(number);
     if (found == open_.end()) return;
     OpenFile& file = found->second;
-    noting(file.Path, file.Line, [&] {
+    noting(file, file.Line, [&] {
         prepare(Operation::Close);
         errno = 0;
         std::FILE* stream = file.Stream.release();
         if (stream != nullptr && std::fclose(stream) != 0) raise(errorFor(errno, ErrorNumber::DeviceIoError));
     });
+    const FileMode mode = file.Mode;
     open_.erase(found);
+    if (Closed) Closed(mode, number);
 }
 
 }  // namespace ui

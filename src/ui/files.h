@@ -24,6 +24,8 @@ struct FileFault {
     std::string Path;
     int Line = 0;
     RunTimeError Error;
+    FileMode Mode = FileMode::Input;
+    int Number = 0;
 };
 
 /// Files opened under a number, as long as they are used. Reading gives UTF-8 without a byte order mark, whatever the
@@ -36,6 +38,8 @@ public:
     enum class Operation { Open, Read, Write, Close };
     /// Called before each step; it may raise the error that the step is to end in.
     std::function<void(Operation)> BeforeOperation;
+    /// Called when a file was closed without a fault; told how it was open and under which number.
+    std::function<void(FileMode, int number)> Closed;
 
     Files() = default;
     Files(const Files&) = delete;
@@ -65,6 +69,7 @@ private:
     struct OpenFile {
         std::string Path;
         FileMode Mode = FileMode::Input;
+        int Number = 0;
         std::unique_ptr<std::FILE, CloseStream> Stream;  // of an input file until it is first read
         std::string Content;                             // input only, as read from the disk
         std::size_t Position = 0;
@@ -75,7 +80,7 @@ private:
     static void load(OpenFile& file);
     void prepare(Operation operation) const;
     template <class Step>
-    decltype(auto) noting(const std::string& path, int line, Step step);
+    decltype(auto) noting(const OpenFile& file, int line, Step step);
 
     std::map<int, OpenFile> open_;
     std::optional<FileFault> lastFault_;

@@ -39,6 +39,8 @@ public:
     /// The controls whose looks have changed since this was called last, each once. A window that follows the form
     /// reads them when a user action has returned and before it shows a box.
     std::vector<Control*> TakeChanged();
+    /// Differs from before when a control has changed since all changes were taken: whether there may be anything new.
+    unsigned Revision() const { return revision_; }
     std::span<Timer* const> Timers() const { return timers_; }
     void Join(Timer& timer) { timers_.push_back(&timer); }
     /// The label that names a control: the one that stands right before it in its container; null for none.
@@ -77,6 +79,7 @@ private:
     std::vector<Control*> controls_;
     std::vector<Control*> changed_;
     std::vector<Timer*> timers_;
+    unsigned revision_ = 0;
     ui::WindowState windowState_ = ui::WindowState::Normal;
     Grid* editingGrid_ = nullptr;
     bool unloaded_ = false;

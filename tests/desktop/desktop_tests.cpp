@@ -1,5 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Brenica developers
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <QTemporaryDir>
+
 #include "desktop/desktop_test.h"
 
 namespace desktop_test {
@@ -15,6 +17,9 @@ std::vector<MakeTests>& registry() {
 /// of them fails.
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    // Copies of the tests' projects are nobody's to find.
+    const QTemporaryDir state;
+    qputenv("XDG_STATE_HOME", QFile::encodeName(state.path()));
     const QApplication application(argc, argv);
     QStringList arguments(argv, argv + argc);
     QString wanted;

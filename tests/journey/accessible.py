@@ -65,6 +65,10 @@ class Bus:
         except GLib.Error as error:
             raise Gone(f"{interface}.{method} on {path}: {error.message}") from error
 
+    def announcements(self, role):
+        """From now on, the names of the objects of this role that come on view, as a screen reader is told of them."""
+        return Announcements(self, role)
+
     def application(self, pid):
         """The root of the program with this process id, or None while it has not come."""
         try:
@@ -77,6 +81,31 @@ class Bus:
         except Gone:
             pass
         return None
+
+
+class Announcements:
+    def __init__(self, bus, role):
+        self.bus, self.role, self.names = bus, role, []
+        bus.call("org.a11y.atspi.Registry", "/org/a11y/atspi/registry", "org.a11y.atspi.Registry", "RegisterEvent",
+                 GLib.Variant("(sass)", ("object:state-changed:showing", [], "")))
+        bus.connection.signal_subscribe(None, "org.a11y.atspi.Event.Object", "StateChanged", None, "showing",
+                                        Gio.DBusSignalFlags.NONE, self._note)
+
+    def _note(self, _connection, owner, path, _interface, _signal, arguments):
+        if not arguments[1]:
+            return
+        try:
+            told = Accessible(self.bus, owner, path)
+            if told.role == self.role:
+                self.names.append(told.name)
+        except Gone:
+            pass
+
+    def heard(self):
+        """All names so far."""
+        while GLib.MainContext.default().iteration(False):
+            pass
+        return self.names
 
 
 @dataclass(frozen=True)

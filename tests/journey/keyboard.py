@@ -70,6 +70,25 @@ class KeyboardRoad:
         self.session.keys("ctrl+Home", "Down", "Right", "6", "Return")
         grid.waitForCell(2, 2, "6")
 
+    def gradeFirstFunction(self, grade):
+        """The function of the first species in its summary table, beginning on the first page."""
+        self.goToSummaries()
+        for _ in range(6):
+            self.session.keys("ctrl+Tab")
+        self.waitForPage("Functionality")
+        self.session.keys("alt+a")
+        editing = self.window.check("Allow summary table editing")
+        editing.waitFor(lambda: editing.checked, "to be on")
+        self.session.keys("shift+Tab")
+        grid = self.window.grid("Functionality")
+        self.waitForFocus(grid)
+        self.session.keys("ctrl+Home", grade, "Return")
+        grid.waitForCell(1, 1, grade)
+
+    def goToSummaries(self):
+        for page in PAGES[1:4]:
+            self.nextPage(page)
+
     def viewScores(self):
         self.nextPage(PAGES[4])
         self.nextPage(PAGES[5])

@@ -121,18 +121,23 @@ class Road:
 
     # Page 3.
 
-    def gradeSpecies(self):
+    def gradeSpecies(self, places=range(len(SPECIES))):
         self.window.page(PAGES[2])
-        for place, species in enumerate(SPECIES):
-            if place:
-                self.window.combo("Candidate species:").choose(species.name)
-            for tab, (caption, grade) in enumerate(zip(CRITERIA, (
-                    self.gradeUse, self.gradeArea, self.gradeThreats, self.gradeFunctions, self.gradeValues))):
-                self.window.page(caption)
-                grade(species, place)
-                self.chooseQuality(species, place, tab)
-                if place == 0:
-                    self.picture("criteria_" + caption.lower())
+        for place in places:
+            self.gradeOne(place)
+
+    def gradeOne(self, place, tabs=range(len(CRITERIA))):
+        """The criteria on these tabs, counted from 0, for one species."""
+        species = SPECIES[place]
+        grades = self.gradeUse, self.gradeArea, self.gradeThreats, self.gradeFunctions, self.gradeValues
+        if place:
+            self.window.combo("Candidate species:").choose(species.name)
+        for tab in tabs:
+            self.window.page(CRITERIA[tab])
+            grades[tab](species, place)
+            self.chooseQuality(species, place, tab)
+            if place == 0:
+                self.picture("criteria_" + CRITERIA[tab].lower())
 
     def chooseQuality(self, species, place, tab):
         level = int(species.quality[tab])
@@ -185,6 +190,13 @@ class Road:
 
     def gradeValues(self, species, _):
         self.window.grid("Socio-economic value").enterDown(1, species.values)
+
+    def seeUse(self, place):
+        """What was graded of a species' use is there."""
+        self.window.combo("Candidate species:").choose(SPECIES[place].name)
+        self.window.page(CRITERIA[0])
+        for name, grades in (("habitats", SPECIES[place].habitats), ("management zones", SPECIES[place].zones)):
+            same(self.window.grid(f"Level of use of {name}").column(1), list(grades), f"use of {name}")
 
     # Page 4.
 
@@ -283,6 +295,19 @@ class Road:
         self.picture("dialogue_export")
         self.window.chooseFile(path)
         waitFor(path.exists, f"the file {path}")
+
+    # What ends the program.
+
+    def removeLastBreakpoint(self):
+        """Fails in an error box, after which the program ends."""
+        self.window.page(PAGES[1])
+        self.window.option("Home range definition").tick()
+        self.window.text("Number of the breakpoint to remove").write(str(len(BREAKPOINTS)))
+        self.window.button("Remove breakpoint no:").click()
+        box = self.window.box("Brenica")
+        check("Unexpected error in Brenica System." in box.shown, box.shown)
+        self.picture("box_error")
+        self.session.keys("Return")
 
     # The project.
 

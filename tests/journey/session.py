@@ -70,7 +70,8 @@ class Session:
     def _environment(self, more):
         kept = {name: os.environ[name] for name in ("PATH", "LD_LIBRARY_PATH") if name in os.environ}
         places = {"HOME": self.home, "XDG_CONFIG_HOME": self.home / ".config", "XDG_CACHE_HOME": self.home / ".cache",
-                  "XDG_DATA_HOME": self.home / ".local/share", "XDG_RUNTIME_DIR": self.folder / "run"}
+                  "XDG_DATA_HOME": self.home / ".local/share", "XDG_STATE_HOME": self.home / ".local/state",
+                  "XDG_RUNTIME_DIR": self.folder / "run"}
         for place in places.values():
             place.mkdir(parents=True, exist_ok=True, mode=0o700)
         return {**kept, **{name: str(place) for name, place in places.items()}, "LC_ALL": "C.UTF-8",
@@ -150,6 +151,11 @@ class Session:
     def programOutput(self):
         logs = [path for path in self.folder.glob("*.log") if path.stem == Path(self.program.args[0]).name]
         return "".join(path.read_text(errors="replace") for path in logs)
+
+    def kill(self):
+        """Ends the program as a power cut does."""
+        self.program.kill()
+        self.program.wait(PATIENCE)
 
     def waitForEnd(self):
         """The exit code of the program, which must end by itself."""

@@ -7,6 +7,7 @@ import contextlib
 import os
 import subprocess
 import sys
+import time
 import unittest
 from pathlib import Path
 
@@ -16,8 +17,8 @@ sys.path[:0] = [str(HERE), str(HERE.parent / "reference")]
 import landscape
 from brenica_reference import run as runModel
 from keyboard import KeyboardRoad
-from road import Road
-from session import Session, missingTools
+from road import PAGES, SLIP, Road
+from session import Session, missingTools, waitFor
 from tour import start
 
 TOP = HERE.parents[1]
@@ -25,6 +26,8 @@ PROGRAM = Path(os.environ.get("BRENICA_PROGRAM", TOP / "build/release/src/deskto
 BATCH = Path(os.environ.get("BRENICA_BATCH", TOP / "build/release/src/batch/brenica-batch"))
 OUTPUT = Path(os.environ.get("BRENICA_JOURNEY_OUTPUT", TOP / "build/journey"))
 FULL_EXAMPLE = TOP / "examples/full_landscape.brn"
+COPY_IS_KEPT = 3  # seconds after which the last action is in the safety copy
+EXIT_AFTER_ERROR = 4
 LEVELS = {"error-margin": landscape.ERROR_MARGIN, "threat-representation": landscape.THREAT_REPRESENTATION,
           "conservation-status": landscape.CONSERVATION_STATUS}
 
@@ -116,6 +119,100 @@ class Journey(unittest.TestCase):
             self.assertEqual(session.programOutput(), "")
             self.assertEqual(results.read_bytes(), batchResults(FULL_EXAMPLE, session.home / "batch.txt",
                                                                 exampleOptions()))
+
+    def test_secondLifeAfterTheProgramWasKilledWhileSpeciesWereGraded(self):
+        """Typed from an empty project, so that the copy alone holds it; opened from the strip with the mouse."""
+        model = runModel(landscape.projectFile(), LEVELS, list(landscape.ANSWERS))
+        with Session(pictures=OUTPUT / "second_life") as session, diagnosed(session, "second_life"):
+            road = Road(start(session, PROGRAM, byKey=False))
+            project, results = session.home / "moor.brn", session.home / "results.txt"
+            road.addSpecies()
+            road.fillLists()
+            road.gradeSpecies(range(3))
+            road.gradeOne(3, range(2))
+            time.sleep(COPY_IS_KEPT)
+            session.kill()
+
+            announced = session.bus.announcements("notification")
+            window = start(session, PROGRAM, byKey=False)
+            road = Road(window)
+            line = window.stripLine("A new project, today ")
+            self.assertEqual(line.accessible.name.rpartition(", ")[2], "6 species: not saved.")
+            waitFor(lambda: line.accessible.name in announced.heard(), "the announcement of the copy")
+            self.assertNotIn("focused", line.button("Open it").accessible.states)
+            session.picture("strip")
+            line.press("Open it")
+            waitFor(lambda: not window.strip(), "the end of the offer")
+            self.assertEqual(window.title, "Brenica")
+            window.page(PAGES[2])
+            road.seeUse(3)
+            road.gradeOne(3, range(2, 5))
+            road.gradeSpecies(range(4, 6))
+            window.page(PAGES[3])
+            road.mendSlip()
+            road.select(pictures=False)
+            road.export(results)
+            road.save(project)
+            self.assertEqual(project.read_bytes(), landscape.projectFile())
+            self.assertEqual(results.read_bytes().decode(), model.results.decode())
+            road.exit()
+            self.assertEqual(session.waitForEnd(), 0)
+
+            self.assertEqual(start(session, PROGRAM, byKey=False).strip(), [])
+
+    def test_secondLifeByTheKeyboardAlone(self):
+        """A grade of the full example is set right, and the program killed before it was saved."""
+        right = FULL_EXAMPLE.read_bytes()
+        wrong = right.replace(b"\r\nFunction1 = 3,", b"\r\nFunction1 = 0,")
+        self.assertNotEqual(wrong, right)
+        with Session(pictures=OUTPUT / "second_life_keys") as session, diagnosed(session, "second_life_keys"):
+            project, results = session.home / "landscape.brn", session.home / "results.txt"
+            project.write_bytes(wrong)
+            expected = batchResults(FULL_EXAMPLE, session.home / "batch.txt", exampleOptions())
+            self.assertNotEqual(batchResults(project, session.home / "wrong.txt", exampleOptions()), expected)
+            road = KeyboardRoad(start(session, PROGRAM, byKey=True))
+            road.open(project)
+            road.gradeFirstFunction("3")
+            time.sleep(COPY_IS_KEPT)
+            session.kill()
+            self.assertEqual(project.read_bytes(), wrong)
+
+            window = start(session, PROGRAM, byKey=True)
+            road = KeyboardRoad(window)
+            window.stripLine("landscape.brn, today ").pressByKeys("Open it")
+            waitFor(lambda: window.title == f"Brenica - {project}", "the project's path in the title")
+            road.goToSummaries()
+            road.viewScores()
+            road.select()
+            road.export(results)
+            self.assertEqual(results.read_bytes(), expected)
+
+    def test_secondLifeAfterAnErrorBox(self):
+        model = runModel(landscape.projectFile(), LEVELS, list(landscape.ANSWERS))
+        place, function, grade = SLIP
+        slip = landscape.projectFile().decode().split("\r\n")
+        row = next(i for i, line in enumerate(slip) if line.startswith(f"Function{function + 1} "))
+        grades = slip[row].partition(" = ")[2].split(",")
+        grades[place] = grade
+        slip[row] = f"Function{function + 1} = {','.join(grades)}"
+        with Session(pictures=OUTPUT / "after_an_error") as session, diagnosed(session, "after_an_error"):
+            project, results = session.home / "moor.brn", session.home / "results.txt"
+            project.write_bytes("\r\n".join(slip).encode())
+            window = start(session, PROGRAM, byKey=False)
+            road = Road(window)
+            road.open(project)
+            window.page(PAGES[3])
+            road.mendSlip()
+            road.removeLastBreakpoint()
+            self.assertEqual(session.waitForEnd(), EXIT_AFTER_ERROR)
+
+            window = start(session, PROGRAM, byKey=False)
+            road = Road(window)
+            window.stripLine("moor.brn, today ").press("Open it")
+            waitFor(lambda: window.title == f"Brenica - {project}", "the project's path in the title")
+            road.select(pictures=False)
+            road.export(results)
+            self.assertEqual(results.read_bytes().decode(), model.results.decode())
 
 
 if __name__ == "__main__":

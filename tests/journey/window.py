@@ -220,6 +220,27 @@ class Box(Control):
         self.end("Return")
 
 
+class StripLine(Control):
+    """A line of the strip at the window's edge."""
+
+    def button(self, caption):
+        return self.window.find("push button", caption, within=self.accessible)
+
+    def press(self, caption):
+        """By the mouse, which must leave the focus where it is."""
+        self.button(caption).click()
+
+    def pressByKeys(self, caption):
+        """F6 leads into the strip, Tab from button to button."""
+        self.session.keys("F6")
+        button = self.button(caption)
+        for _ in range(20):
+            if "focused" in button.accessible.states:
+                return self.session.keys("Return")
+            self.session.keys("Tab")
+        raise Failure(f"{self.what}: the keys do not reach {caption!r}")
+
+
 KINDS = {"combo box": ComboBox, "table": Grid}
 
 
@@ -298,6 +319,16 @@ class Window:
             return looks[-1] and looks[-3:] == [looks[-1]] * 3
         waitFor(look, "a window that is active and at rest")
         self.session.scale = round(self.session.size[0] / looks[-1].width)
+
+    def strip(self):
+        """The texts of the lines of the strip."""
+        return [line.name for line in self.all("notification")]
+
+    def stripLine(self, beginning):
+        def look():
+            return [line for line in self.all("notification") if line.name.startswith(beginning)]
+        what = f"line {beginning!r} of the strip"
+        return StripLine(self, waitFor(look, lambda: f"the {what}, not {self.strip()}")[0], what)
 
     # Doing.
 

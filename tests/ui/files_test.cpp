@@ -266,6 +266,29 @@ TEST_F(FilesTest, ACloseFailsAtTheChosenCall) {
     expectLastFault(path, 1, 61);
 }
 
+TEST_F(FilesTest, AFaultTellsHowTheFileWasToBeUsed) {
+    failureOf([&] { files.Open(folder.file("missing.txt"), FileMode::Input, 1); });
+    EXPECT_EQ(files.LastFault()->Mode, FileMode::Input);
+    EXPECT_EQ(files.LastFault()->Number, 1);
+    failAt(Operation::Write, 1, ErrorNumber::DiskFull);
+    files.Open(path, FileMode::Output, 2);
+    failureOf([&] { files.Print(2, "one"); });
+    EXPECT_EQ(files.LastFault()->Mode, FileMode::Output);
+    EXPECT_EQ(files.LastFault()->Number, 2);
+}
+
+TEST_F(FilesTest, ACloseThatSucceedsIsTold) {
+    std::vector<std::pair<FileMode, int>> closed;
+    files.Closed = [&](FileMode mode, int number) { closed.emplace_back(mode, number); };
+    files.Close(3);
+    files.Open(path, FileMode::Output, 2);
+    files.Close(2);
+    failAt(Operation::Close, 1, ErrorNumber::DiskFull);
+    files.Open(path, FileMode::Input, 1);
+    failureOf([&] { files.Close(1); });
+    EXPECT_EQ(closed, (std::vector<std::pair<FileMode, int>>{{FileMode::Output, 2}}));
+}
+
 TEST_F(FilesTest, TheLastFaultStaysUntilItIsCleared) {
     failureOf([&] { files.Open(folder.file("missing.txt"), FileMode::Input, 1); });
     writeFile(path, "text");

@@ -86,6 +86,16 @@ class Checks(unittest.TestCase):
         self.write("src/desktop/view.cpp", 'auto text = "Please choose a file";\n')
         self.assertRefuses("window_is_projection", "src/desktop/view.cpp:3", "which belongs to the form")
 
+    def test_what_the_window_says_beside_the_form_stands_in_one_table(self):
+        self.write("src/desktop/own/own_texts.h", 'auto text = "Please choose a copy";\n')
+        self.assertPasses("window_is_projection")
+        self.write("src/desktop/own/own_texts.h", 'auto text = "Species list";\nauto name = "cmdComplement";\n')
+        self.assertRefuses("window_is_projection", "own_texts.h:3: \"Species list\" is a text of the engine",
+                           "own_texts.h:4: names the control cmdComplement")
+        self.write("src/desktop/own/own_texts.h", "\n")
+        self.write("src/desktop/own/strip.cpp", 'auto text = "Please choose a copy";\n')
+        self.assertRefuses("window_is_projection", "src/desktop/own/strip.cpp:3")
+
 
 if __name__ == "__main__":
     unittest.main()

@@ -1,0 +1,67 @@
+// SPDX-FileCopyrightText: 2026 The Brenica developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+/// All that the window itself says to its user; everything else that can be read in it is the form's. A "%1" is replaced
+/// in its turn.
+namespace desktop::own_texts {
+
+// The strip and its buttons.
+inline constexpr const char* Strip = "Messages and safety copies";
+inline constexpr const char* Close = "Close this message";
+inline constexpr const char* OpenIt = "Open it";
+inline constexpr const char* DropIt = "Drop it";
+inline constexpr const char* TakeBack = "Take it back";
+inline constexpr const char* ShowCopies = "Show them";
+inline constexpr const char* HideCopies = "Hide them";
+
+// A copy: the project, when it was written, and what it holds.
+inline constexpr const char* NewProject = "A new project";
+inline constexpr const char* Today = "today %1";
+inline constexpr const char* Yesterday = "yesterday %1";
+inline constexpr const char* OnDay = "%1, %2";
+inline constexpr const char* DayFormat = "d MMMM yyyy";
+inline constexpr const char* Offer = "%1, %2, %3 species: not saved.";
+inline constexpr const char* OfferOfSaved =
+    "%1, %2, %3 species: saved, but the file could not carry every cell.";
+inline constexpr const char* OfferOfDamaged =
+    "%1, %2: this safety copy is damaged. It is kept, but cannot be opened.";
+inline constexpr const char* NotDropped = "%1 It could not be dropped.";
+inline constexpr const char* Dropped = "%1, %2: dropped.";
+inline constexpr const char* OfferDetails = "%1\nThe safety copy is %2";
+inline constexpr const char* SeveralOffers = "%1 safety copies hold work that was not saved.";
+inline constexpr const char* OneOther = "1 other safety copy, of work that was left without saving.";
+inline constexpr const char* SeveralOthers = "%1 other safety copies, of work that was left without saving.";
+inline constexpr const char* NoCopies = "There are no safety copies to open.";
+
+// A command that failed: the file, the reason, and what is true from now on.
+inline constexpr const char* NotSaved = "%1 was not saved: %2.";
+inline constexpr const char* NotSavedWhole = "%1 was not saved whole: %2.";
+inline constexpr const char* SavedNowhere =
+    "Nothing was saved: Yes in that question names no file. Save the project first, then answer No.";
+inline constexpr const char* NotOpened = "%1 could not be opened: %2.";
+inline constexpr const char* NotReadFurther = "%1 could not be read beyond line %2: %3.";
+inline constexpr const char* WindowEmptied = "The window was emptied before.";
+inline constexpr const char* ReadSoFar = "The window shows what stands before that line.";
+inline constexpr const char* SaveWouldReplace = "A save still proposes %1.";
+inline constexpr const char* NotExported = "%1 was not written: %2.";
+inline constexpr const char* NotExportedWhole = "%1 was not written whole: %2.";
+inline constexpr const char* NotImported = "%1 could not be imported: %2.";
+inline constexpr const char* SavingBlocked = "Nothing can be saved before Brenica is started again.";
+inline constexpr const char* ReadingBlocked =
+    "Until Brenica is started again, do not use Open or Import: Open empties the window and fails, Import ends the "
+    "program. Results cannot be exported.";
+inline constexpr const char* WorkIsKept = "Your work is kept in a safety copy.";
+
+// What else the form does not say.
+inline constexpr const char* NotKept = "No safety copy is kept: %1. Save often.";
+inline constexpr const char* NotCarried = "The saved file cannot hold %1 as entered: %2.";
+inline constexpr const char* OneCell = "1 cell";
+inline constexpr const char* SeveralCells = "%1 cells";
+inline constexpr const char* Cell = "%1, %2, %3 (“%4”)";
+inline constexpr const char* Box = "%1 (“%2”)";
+inline constexpr const char* MoreCells = "%1 and %2 more";
+inline constexpr const char* NotCarriedKept = "They stand in the window and in the safety copy.";
+inline constexpr const char* ScoresFirst = "Go to Aggregate Scores first.";
+
+}  // namespace desktop::own_texts

@@ -1,0 +1,125 @@
+// SPDX-FileCopyrightText: 2026 The Brenica developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/own/strip_words.h"
+
+#include <QFileInfo>
+#include <QLocale>
+#include <QStringList>
+
+#include "desktop/own/own_texts.h"
+#include "desktop/texts.h"
+
+namespace desktop::strip_words {
+
+namespace {
+
+constexpr int LongestName = 60;     // characters of a file's name
+constexpr int LongestText = 30;     // of a cell's
+constexpr int CellsByName = 2;      // in the strip itself
+constexpr int CellsInDetails = 25;  // in its tip
+
+QString said(const char* text) { return QString::fromUtf8(text); }
+
+QString shortened(const QString& text, int longest) {
+    if (text.size() <= longest) return text;
+    const int half = longest / 2;
+    return text.left(half) + QChar(0x2026) + text.right(half - 1);
+}
+
+QString nameOf(const QString& path) { return shortened(QFileInfo(path).fileName(), LongestName); }
+
+QString nameOf(const std::string& path) { return nameOf(shownText(path)); }
+
+QString projectOf(const CopyOffer& offer) {
+    return offer.ProjectPath.isEmpty() ? said(own_texts::NewProject) : nameOf(offer.ProjectPath);
+}
+
+/// In the middle of a sentence, without the stop at its end.
+QString clause(const QString& sentence) {
+    QString reason = sentence.simplified();
+    while (reason.endsWith('.')) reason.chop(1);
+    if (reason.size() > 1 && reason.at(1).isLower()) reason[0] = reason.at(0).toLower();
+    return reason;
+}
+
+QString reasonOf(const FailedCommand& failed) { return clause(shownText(failed.Reason)); }
+
+QString cell(const LostText& lost) {
+    const QString text = shortened(lost.Text.simplified(), LongestText);
+    if (lost.Row.isEmpty()) return said(own_texts::Box).arg(lost.Table, text);
+    return said(own_texts::Cell).arg(lost.Table, lost.Row, lost.Column, text);
+}
+
+QString cells(const QList<LostText>& lost, qsizetype byName, const QString& between) {
+    QStringList parts;
+    for (const LostText& one : lost.first(std::min(byName, lost.size()))) parts << cell(one);
+    const QString named = parts.join(between);
+    const qsizetype more = lost.size() - parts.size();
+    return more == 0 ? named : said(own_texts::MoreCells).arg(named).arg(more);
+}
+
+QString openingFailure(const FailedCommand& failed) {
+    const QString name = nameOf(failed.Path);
+    const QString text =
+        failed.Line > 0
+            ? said(own_texts::NotReadFurther).arg(name).arg(failed.Line).arg(reasonOf(failed)) + ' ' +
+                  said(own_texts::ReadSoFar)
+            : said(own_texts::NotOpened).arg(name, reasonOf(failed)) + ' ' + said(own_texts::WindowEmptied);
+    if (failed.SavesTo.empty()) return text;
+    return text + ' ' + said(own_texts::SaveWouldReplace).arg(nameOf(failed.SavesTo));
+}
+
+}  // namespace
+
+QString moment(const QDateTime& time, const QDateTime& now) {
+    const QLocale english(QLocale::English);
+    const QDateTime local = time.toLocalTime();
+    const QString clock = english.toString(local.time(), "H:mm");
+    const qint64 days = local.date().daysTo(now.toLocalTime().date());
+    if (days == 0) return said(own_texts::Today).arg(clock);
+    if (days == 1) return said(own_texts::Yesterday).arg(clock);
+    return said(own_texts::OnDay).arg(english.toString(local.date(), own_texts::DayFormat), clock);
+}
+
+QString offer(const CopyOffer& offer, const QDateTime& now) {
+    const QString when = moment(offer.Time, now);
+    if (offer.Damaged) return said(own_texts::OfferOfDamaged).arg(projectOf(offer), when);
+    const char* text = offer.Saved ? own_texts::OfferOfSaved : own_texts::Offer;
+    return said(text).arg(projectOf(offer), when, QString::number(offer.Species));
+}
+
+QString dropped(const CopyOffer& offer, const QDateTime& now) {
+    return said(own_texts::Dropped).arg(projectOf(offer), moment(offer.Time, now));
+}
+
+QString details(const CopyOffer& offer) {
+    return said(own_texts::OfferDetails)
+        .arg(offer.ProjectPath.isEmpty() ? said(own_texts::NewProject) : offer.ProjectPath, offer.File);
+}
+
+QString failure(const FailedCommand& failed, bool blocked) {
+    const auto say = [&](const char* text) { return said(text).arg(nameOf(failed.Path), reasonOf(failed)); };
+    switch (failed.What) {
+        case FailedCommand::Kind::Save:
+            if (failed.Path.empty()) return said(own_texts::SavedNowhere);
+            return say(blocked && failed.Line > 0 ? own_texts::NotSavedWhole : own_texts::NotSaved);
+        case FailedCommand::Kind::Open: return openingFailure(failed);
+        case FailedCommand::Kind::ExportResults:
+            return say(blocked && failed.Line > 0 ? own_texts::NotExportedWhole : own_texts::NotExported);
+        case FailedCommand::Kind::ExportTable: return say(own_texts::NotExported);
+        case FailedCommand::Kind::Import: return say(own_texts::NotImported);
+    }
+    return {};
+}
+
+QString notKept(const QString& reason) { return said(own_texts::NotKept).arg(clause(reason)); }
+
+QString notCarried(const QList<LostText>& cellsLost) {
+    const QString count = cellsLost.size() == 1 ? said(own_texts::OneCell)
+                                                : said(own_texts::SeveralCells).arg(cellsLost.size());
+    return said(own_texts::NotCarried).arg(count, cells(cellsLost, CellsByName, "; "));
+}
+
+QString allCells(const QList<LostText>& cellsLost) { return cells(cellsLost, CellsInDetails, "\n"); }
+
+}  // namespace desktop::strip_words

@@ -1,0 +1,189 @@
+// SPDX-FileCopyrightText: 2026 The Brenica developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "project/form_watch.h"
+
+#include "support/form_test.h"
+
+using testing::IsEmpty;
+using testing::SizeIs;
+using Kind = FailedCommand::Kind;
+using Operation = ui::Files::Operation;
+
+/// What is kept of commands that fail in silence.
+class FormWatching : public FormTest {
+protected:
+    FormWatch watch{form, files};
+    const std::string path_ = folder.file("landscape.brn");
+
+    void fail(Operation operation, ui::ErrorNumber error) {
+        files.BeforeOperation = [=](Operation step) {
+            if (step == operation) ui::raise(error);
+        };
+    }
+    void mend() { files.BeforeOperation = {}; }
+    void saveTo(const std::string& path) {
+        platform.Files.push_back(path);
+        form.mnuSaveProject.UserClick();
+        watch.look();
+    }
+    void openFrom(const std::string& path) {
+        if (form.ProjectChanged) platform.Answers.push_front("no");
+        platform.Files.push_back(path);
+        form.mnuOpenProject.UserClick();
+        watch.look();
+    }
+    void exportResults(const std::string& path) {
+        form.cmdExportResults.Enabled(true);
+        platform.Files.push_back(path);
+        form.cmdExportResults.UserClick();
+        watch.look();
+    }
+    const FailedCommand& only() const {
+        EXPECT_THAT(watch.failures(), SizeIs(1));
+        return watch.failures().at(0);
+    }
+};
+
+TEST_F(FormWatching, NothingIsKeptWhileAllGoesWell) {
+    saveTo(path_);
+    openFrom(path_);
+    exportResults(folder.file("results.txt"));
+    EXPECT_THAT(watch.failures(), IsEmpty());
+    EXPECT_FALSE(watch.savingIsBlocked());
+    EXPECT_FALSE(watch.readingIsBlocked());
+    EXPECT_FALSE(watch.scoresAreTooOld());
+}
+
+TEST_F(FormWatching, ASaveThatCannotBeginBlocksNothing) {
+    saveTo(folder.file("missing/landscape.brn"));
+    EXPECT_EQ(only().What, Kind::Save);
+    EXPECT_EQ(only().Path, folder.file("missing/landscape.brn"));
+    EXPECT_EQ(only().Reason, "Path not found");
+    EXPECT_FALSE(watch.savingIsBlocked());
+    saveTo(path_);
+    EXPECT_THAT(watch.failures(), IsEmpty());
+}
+
+TEST_F(FormWatching, ASaveThatFailsHalfWayBlocksSaving) {
+    fail(Operation::Write, ui::ErrorNumber::DiskFull);
+    saveTo(path_);
+    EXPECT_EQ(only().Reason, "Disk full");
+    EXPECT_EQ(only().Line, 1);
+    EXPECT_TRUE(watch.savingIsBlocked());
+    EXPECT_FALSE(watch.readingIsBlocked());
+    mend();
+    saveTo(folder.file("other.brn"));
+    EXPECT_EQ(only().Path, folder.file("other.brn"));
+    EXPECT_EQ(only().Reason, "File already open");
+}
+
+TEST_F(FormWatching, ASaveThatFailsAtTheCloseBlocksSaving) {
+    fail(Operation::Close, ui::ErrorNumber::DiskFull);
+    saveTo(path_);
+    EXPECT_EQ(only().What, Kind::Save);
+    EXPECT_TRUE(watch.savingIsBlocked());
+}
+
+TEST_F(FormWatching, TheSaveBeforeExitNamesNoFile) {
+    form.ProjectChanged = true;
+    platform.Answers = {"yes"};
+    platform.Files = {path_};
+    form.mnuExit.UserClick();
+    watch.look();
+    EXPECT_EQ(only().What, Kind::Save);
+    EXPECT_EQ(only().Path, "");
+}
+
+TEST_F(FormWatching, AFileThatCannotBeOpenedLeavesTheNextSaveWhereItWas) {
+    saveTo(path_);
+    openFrom(folder.file("missing.brn"));
+    EXPECT_EQ(only().What, Kind::Open);
+    EXPECT_EQ(only().Line, 0);
+    EXPECT_EQ(only().Reason, "File not found");
+    EXPECT_EQ(only().SavesTo, path_);
+    EXPECT_FALSE(watch.readingIsBlocked());
+    openFrom(path_);
+    EXPECT_THAT(watch.failures(), IsEmpty());
+}
+
+TEST_F(FormWatching, AFileThatCannotBeReadToItsEndBlocksReading) {
+    writeFile(path_, "Project Version = VERSION2\r\nFunction = 1\r\n");
+    openFrom(path_);
+    EXPECT_EQ(only().What, Kind::Open);
+    EXPECT_EQ(only().Line, 2);
+    EXPECT_EQ(only().Reason, "Type mismatch");
+    EXPECT_EQ(only().SavesTo, "");
+    EXPECT_TRUE(watch.readingIsBlocked());
+    EXPECT_FALSE(watch.savingIsBlocked());
+    exportResults(folder.file("results.txt"));
+    ASSERT_THAT(watch.failures(), SizeIs(2));
+    EXPECT_EQ(watch.failures()[0].What, Kind::ExportResults);
+    EXPECT_EQ(watch.failures()[0].Reason, "File already open");
+}
+
+TEST_F(FormWatching, AnExportOfResultsThatFailsHalfWayBlocksReading) {
+    fail(Operation::Write, ui::ErrorNumber::DiskFull);
+    exportResults(folder.file("results.txt"));
+    EXPECT_EQ(only().What, Kind::ExportResults);
+    EXPECT_TRUE(watch.readingIsBlocked());
+}
+
+TEST_F(FormWatching, AnExportOfResultsThatCannotBeginBlocksNothing) {
+    exportResults(folder.file("missing/results.txt"));
+    EXPECT_EQ(only().What, Kind::ExportResults);
+    EXPECT_FALSE(watch.readingIsBlocked());
+    exportResults(folder.file("results.txt"));
+    EXPECT_THAT(watch.failures(), IsEmpty());
+}
+
+TEST_F(FormWatching, AnImportAndATableThatEndTheProgramAreNamed) {
+    platform.Files = {folder.file("missing.txt"), folder.file("missing/table.txt")};
+    failureOf([&] { form.mnuImportData.UserClick(); });
+    watch.look(true);
+    EXPECT_EQ(only().What, Kind::Import);
+    EXPECT_EQ(only().Path, folder.file("missing.txt"));
+    failureOf([&] { form.mnuExportData.UserClick(); });
+    watch.look(true);
+    EXPECT_EQ(watch.failures().front().What, Kind::ExportTable);
+    EXPECT_EQ(watch.failures().front().Path, folder.file("missing/table.txt"));
+}
+
+TEST_F(FormWatching, ACancelledCommandIsNoFailure) {
+    form.mnuSaveProject.UserClick();
+    watch.look();
+    EXPECT_THAT(watch.failures(), IsEmpty());
+}
+
+TEST_F(FormWatching, AFailureCanBeForgotten) {
+    saveTo(folder.file("missing/landscape.brn"));
+    watch.forget(Kind::Open);
+    EXPECT_THAT(watch.failures(), SizeIs(1));
+    watch.forget(Kind::Save);
+    EXPECT_THAT(watch.failures(), IsEmpty());
+    watch.look();
+    EXPECT_THAT(watch.failures(), IsEmpty());
+}
+
+TEST_F(FormWatching, OldScoresAreNamedUntilTheScoresPageIsShown) {
+    open(ProjectText(2, 2, 2, 2));
+    walkTo(7);
+    form.SelectionRefused();
+    watch.look();
+    EXPECT_TRUE(watch.scoresAreTooOld());
+    goTo(4);
+    watch.look();
+    EXPECT_TRUE(watch.scoresAreTooOld());
+    goTo(6);
+    watch.look();
+    EXPECT_FALSE(watch.scoresAreTooOld());
+}
+
+TEST_F(FormWatching, OldScoresGoWithTheirProject) {
+    open(ProjectText(2, 2, 2, 2));
+    walkTo(7);
+    form.SelectionRefused();
+    form.ProjectChanged = false;
+    form.mnuNewProject.UserClick();
+    watch.look();
+    EXPECT_FALSE(watch.scoresAreTooOld());
+}

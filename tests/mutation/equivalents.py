@@ -20,7 +20,3 @@ def read(path=LIST):
             raise ValueError(f"{path}: not a mutant with its argument: {lines}")
         found[(file, function, before[2:], after[2:])] = " ".join(reason)
     return found
-
-
-def key(mutant, source):
-    return (mutant.file, mutant.function, *mutant.lines(source))

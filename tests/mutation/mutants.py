@@ -37,25 +37,26 @@ NUMBERS = WHOLE_NUMBERS | {TypeKind.DOUBLE, TypeKind.FLOAT}
 class Mutant:
     file: str
     function: str
+    line: int
+    before: str  # its lines without what only the layout adds
+    after: str
     start: int  # bytes of the file, from start to end, give way to the replacement
     end: int
     replacement: bytes
     deletes: bool = False  # takes a whole statement away
     constant: bool = False  # where the compiler wants a constant, so that no switch can stand there
 
+    @property
+    def key(self):
+        """Names it wherever its lines move to."""
+        return (self.file, self.function, self.before, self.after)
+
     def applied(self, source):
         return source[:self.start] + self.replacement + source[self.end:]
 
-    def line(self, source):
-        return source.count(b"\n", 0, self.start) + 1
 
-    def lines(self, source):
-        """The lines it stands on, before and after, without what only the layout adds."""
-        first = source.rfind(b"\n", 0, self.start) + 1
-        last = source.find(b"\n", self.end)
-        before = source[first:last]
-        after = source[first:self.start] + self.replacement + source[self.end:last]
-        return tuple(" ".join(text.decode().split()) for text in (before, after))
+def plain(text):
+    return " ".join(text.decode().split())
 
 
 def sources(root=ROOT):
@@ -105,7 +106,13 @@ class Search:
 
     def add_range(self, start, end, replacement, **more):
         function = "::".join(name for name, _ in self.functions) or "-"
-        self.found.append(Mutant(self.file, function, start, end, replacement, constant=self.constant, **more))
+        first = self.source.rfind(b"\n", 0, start) + 1
+        last = self.source.find(b"\n", end)
+        before = plain(self.source[first:last])
+        after = plain(self.source[first:start] + replacement + self.source[end:last])
+        line = self.source.count(b"\n", 0, start) + 1
+        self.found.append(Mutant(self.file, function, line, before, after, start, end, replacement,
+                                 constant=self.constant, **more))
 
     def visit(self, cursor):
         named = cursor.kind in FUNCTIONS or cursor.kind in (CursorKind.CLASS_DECL, CursorKind.STRUCT_DECL)

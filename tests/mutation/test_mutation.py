@@ -39,7 +39,7 @@ class Sources(unittest.TestCase):
                 for mutant in self.found(text)}
 
     def mutated(self, text):
-        return {after for _, after in (mutant.lines(self.source) for mutant in self.found(text))}
+        return {mutant.after for mutant in self.found(text)}
 
     def woven(self, text):
         numbered = list(enumerate(self.found(text), 1))
@@ -86,9 +86,8 @@ class Changes(Sources):
         self.assertEqual({mutant.constant for mutant in self.found("int f() { return 1; }")}, {False})
 
     def test_each_change_is_told_by_its_lines(self):
-        (first, *_) = self.found("int f(int a) {\n    return a   + 1;\n}\n")
-        self.assertEqual((first.file, first.function), ("source.cpp", "f"))
-        self.assertEqual(first.lines(self.source)[0], "return a + 1;")
+        changes = {mutant.key for mutant in self.found("int f(int a) {\n    return a   + 1;\n}\n")}
+        self.assertIn(("source.cpp", "f", "return a + 1;", "return a - 1;"), changes)
 
 
 class Weaving(Sources):
@@ -131,8 +130,8 @@ class Weaving(Sources):
 
     def test_a_mutant_that_does_not_compile_is_seen(self):
         self.write("int f() { return 1; }")
-        sound = mutants.Mutant("source.cpp", "f", 17, 18, b"2")
-        broken = mutants.Mutant("source.cpp", "f", 17, 18, b"x")
+        sound = mutants.Mutant("source.cpp", "f", 1, "", "", 17, 18, b"2")
+        broken = mutants.Mutant("source.cpp", "f", 1, "", "", 17, 18, b"x")
         self.assertTrue(compiles(self.path, self.source, sound, self.tree))
         self.assertFalse(compiles(self.path, self.source, broken, self.tree))
 
@@ -149,7 +148,7 @@ class Equivalents(unittest.TestCase):
 
 class Programs(unittest.TestCase):
     def test_the_folder_of_the_mutant_comes_first(self):
-        mutant = mutants.Mutant("src/selection/coverage.cpp", "f", 0, 1, b"")
+        mutant = mutants.Mutant("src/selection/coverage.cpp", "f", 1, "", "", 0, 1, b"")
         names = [program.name for program in killing.in_order(killing.programs(mutants.ROOT), mutant)]
         self.assertEqual(names[0], "selection")
 

@@ -125,10 +125,12 @@ private:
         }
     }
 
-    /// Lists stay short, so that a walk stays quick; once in a while many rows come at once.
+    /// Lists stay short, so that a walk stays quick; once in a while many rows come at once, to one list of a walk.
     void addRows(const ListPage& page, bool bins) {
         const int most = page.Grid.Rows() > 12 ? 1 : 4;
-        const int count = random_.chance(1) && page.Grid.Rows() < 12 ? 60 : random_.below(most + 1);
+        const bool many = random_.chance(1) && !walker_.manyRows_;
+        const int count = many ? 60 : random_.below(most + 1);
+        walker_.manyRows_ = walker_.manyRows_ || many;
         if (!bins || random_.chance(80)) put(page.NewRows, std::to_string(count));
         if (walker_.running()) push(bins ? Deed::AddBins : Deed::AddRows, page.Update);
         if (random_.chance(75)) nameRows(page.Grid);

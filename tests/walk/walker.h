@@ -23,12 +23,11 @@ enum class WalkEnd { Running, Tired, Failure, Left, Defect };
 /// after each the form is looked over. A failure that leaves the form ends the walk, as it ends the program.
 class Walker {
 public:
-    explicit Walker(std::uint64_t walkSeed) : random_(walkSeed), seed_(walkSeed) {
-        platform.Folder = folder_.path();
-        trackShapes();
-    }
+    explicit Walker(std::uint64_t walkSeed) : Walker(Random(walkSeed), std::to_string(walkSeed)) {}
+    /// A walk that bytes decide on.
+    explicit Walker(std::string_view bytes) : Walker(Random(bytes), "of bytes") {}
 
-    /// Does up to `deeds` deeds.
+    /// Does up to `deeds` deeds, or until the bytes are used up.
     void run(int deeds);
 
     // What the report counts.
@@ -64,6 +63,11 @@ public:
 private:
     friend class PageDeeds;
 
+    Walker(Random random, std::string name) : random_(std::move(random)), name_(std::move(name)) {
+        platform.Folder = folder_.path();
+        trackShapes();
+    }
+
     void randomAnswers();
     void judge(Deed deed, const ui::RunTimeError& error);
     void lookOver(Deed deed);
@@ -91,11 +95,12 @@ private:
 
     TemporaryFolder folder_;
     Random random_;
-    std::uint64_t seed_;
+    std::string name_;
     Leeway leeway_;
     int habitatsBefore_ = 0;
     int zonesBefore_ = 0;
     int fileNumber_ = 0;
+    bool manyRows_ = false;
     std::vector<ProjectFile> saved_;
     std::deque<std::string> trail_;
 };
@@ -149,7 +154,7 @@ inline void Walker::judge(Deed deed, const ui::RunTimeError& error) {
 
 inline void Walker::defect(const std::string& what) {
     End = WalkEnd::Defect;
-    Trouble = "walk " + std::to_string(seed_) + ", deed " + std::to_string(Total) + ": " + what + "\n";
+    Trouble = "walk " + name_ + ", deed " + std::to_string(Total) + ": " + what + "\n";
     for (const std::string& deed : trail_) Trouble += "    " + deed + "\n";
 }
 

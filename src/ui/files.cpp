@@ -117,8 +117,8 @@ void Files::Open(const std::string& path, FileMode mode, int number) {
         errno = 0;
         file.Stream.reset(std::fopen(path.c_str(), mode == FileMode::Input ? "rb" : "wb"));
         if (!file.Stream) raise(errorOfOpening(path, mode, errno));
-        linesEnded_ = 0;
     });
+    linesEnded_ = 0;
     open_.emplace(number, std::move(file));
 }
 

@@ -3,6 +3,7 @@
 #include "desktop/desktop.h"
 
 #include <QAction>
+#include <QLabel>
 #include <QLineEdit>
 #include <QScrollBar>
 #include <QTimer>
@@ -34,6 +35,15 @@ private:
 
     QTimer look_;
 };
+
+/// The texts that a part of the window shows.
+QStringList textsOf(const QWidget& widget) {
+    QStringList texts;
+    for (const QLabel* label : widget.findChildren<QLabel*>()) {
+        if (!label->text().isEmpty()) texts << label->text();
+    }
+    return texts;
+}
 
 /// Runs the event loop until the program ends it, and returns its exit code; -1 where it does not.
 int exitCodeAfter(const std::function<void()>& action) {
@@ -285,6 +295,29 @@ private slots:
         const auto quit = [&] { QTest::keyClick(&program.window(), Qt::Key_Q, Qt::ControlModifier); };
         QCOMPARE(exitCodeAfter(quit), 0);
         QVERIFY(program.form().Unloaded());
+    }
+
+    void whatFailsInSilenceIsToldAtTheWindowsEdge() {
+        InMainWindow program;
+        const auto* strip = program.window().findChild<QWidget*>("ownStrip");
+        QVERIFY(!strip->isVisible());
+        program.desktop.run([&] {
+            QVERIFY_EXCEPTION_THROWN(program.form().SaveProject("/nowhere/landscape.brn"), ui::RunTimeError);
+        });
+        QVERIFY(strip->isVisible());
+        QCOMPARE(textsOf(*strip).first().left(27), QString("landscape.brn was not saved"));
+    }
+
+    void aFileThatEndsTheProgramIsNamedBesideItsBox() {
+        InMainWindow program;
+        const auto* strip = program.window().findChild<QWidget*>("ownStrip");
+        QStringList told;
+        QTimer::singleShot(0, qApp, [&] {
+            if (strip->isVisible()) told = textsOf(*strip);
+            QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return);
+        });
+        program.desktop.run([&] { program.form().ImportData(1, "/nowhere/species.txt", false); });
+        QCOMPARE(told.value(0).left(33), QString("species.txt could not be imported"));
     }
 
     void twoProgramsLiveSideBySide() {

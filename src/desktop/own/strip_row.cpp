@@ -81,7 +81,7 @@ StripRow::StripRow(StripLine line, QWidget* parent)
     if (line_.Close) {
         auto* button = new StripButton(this);
         button->setAutoRaise(true);
-        button->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
+        button->setText(QChar(0x00D7));  // in the colour of texts, which icons do not follow
         button->setAccessibleName(own_texts::Close);
         button->setToolTip(own_texts::Close);
         addButton(button, [](const StripLine& shown) { shown.Close(); });

@@ -5,6 +5,7 @@
 #include "entry/modGeneralUtilities.h"
 #include "project/constant_tables.h"
 #include "project/frmBrenica.h"
+#include "project/project_file.h"
 #include "ui/text.h"
 #include "ui/wait_pointer.h"
 
@@ -12,7 +13,7 @@
 void frmBrenica::MenuSelectionProject(std::string_view command) try {
     cdgFileDialog.FileName = global_.ProjectFileName;
     cdgFileDialog.Filter = "Project Files (*.brn)|*.brn";
-    cdgFileDialog.DefaultExt = ".brn";
+    cdgFileDialog.DefaultExt = projectfile::Extension;
     if (ui::equalsIgnoringCase(command, "New")) {
         newProjectCommand();
     } else if (ui::equalsIgnoringCase(command, "Open")) {

@@ -196,6 +196,10 @@ class Events(unittest.TestCase):
         outcome = run(project(FunctionX="1,1,1"))
         self.assertEqual((outcome.exit_code, outcome.tables), (2, {}))
 
+    def testAFileWithoutALineThatEndsInCarriageReturnIsNotReadable(self):
+        outcome = run(project().replace(b"\r\n", b"\n"))
+        self.assertEqual((outcome.exit_code, outcome.tables), (2, {}))
+
 
 class States(unittest.TestCase):
     def testARemovedHabitatTakesItsOwnLevelsAlong(self):
@@ -313,6 +317,7 @@ class SelectionRuns(unittest.TestCase):
         self.assertEqual(checkLevels({"error-margin": "100"}), "")
         self.assertNotEqual(checkLevels({"error-margin": "101"}), "")
         self.assertEqual(run(project(), {"threat-representation": "x"}).exit_code, 1)
+        self.assertEqual(run(project(), {"threat-representation": "0,5"}).exit_code, 1)
 
 
 class Comparison(unittest.TestCase):

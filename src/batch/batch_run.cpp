@@ -2,20 +2,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "batch/batch_run.h"
 
-#include <filesystem>
-#include <memory>
 #include <ostream>
-#include <vector>
 
 #include "batch/messages_file.h"
-#include "batch/output_file.h"
+#include "batch/outputs.h"
 #include "batch/scripted_platform.h"
+#include "batch/usage_fault.h"
 #include "project/frmBrenica.h"
 #include "ui/text.h"
 
 namespace {
 
-constexpr const char* ProgramName = "brenica-batch";
 constexpr int FirstPageOfWalk = 2;
 constexpr int LastPageOfWalk = 7;
 
@@ -38,32 +35,6 @@ void printBox(std::ostream& err, const ShownBox& box) {
     if (box.BoxKind != ShownBox::Kind::Message) err << "  > " << box.Answer << '\n';
 }
 
-/// A fault in the use of the program: what it says is printed and the run ends with ExitWrongUsage.
-struct UsageFault {
-    std::string Text;
-};
-
-/// The files that were asked for. They are begun before the run, so that one that cannot be written stops it.
-struct Outputs {
-    std::unique_ptr<OutputFile> Results;
-    std::unique_ptr<OutputFile> Messages;
-};
-
-std::unique_ptr<OutputFile> begin(const std::optional<std::string>& path) {
-    if (!path) return nullptr;
-    try {
-        return std::make_unique<OutputFile>(*path);
-    } catch (const ui::RunTimeError& error) {
-        throw UsageFault{*path + ": cannot be written: " + error.Description};
-    }
-}
-
-void makeFolder(const std::string& folder) {
-    std::error_code error;
-    std::filesystem::create_directories(folder, error);
-    if (!std::filesystem::is_directory(folder)) throw UsageFault{folder + ": cannot be made a folder"};
-}
-
 class BatchRun {
 public:
     BatchRun(const BatchOptions& options, std::ostream& out, std::ostream& err)
@@ -76,13 +47,12 @@ public:
         checkLevel(form_.txtErrorMargin, options_.ErrorMargin, "--error-margin");
         checkLevel(form_.txtThreatRep, options_.ThreatRepresentation, "--threat-representation");
         checkLevel(form_.txtCCSRep, options_.ConservationStatus, "--conservation-status");
-        const Outputs outputs{begin(options_.Results), begin(options_.Messages)};
-        if (options_.Tables) makeFolder(*options_.Tables);
+        Outputs outputs(options_, form_.ExportTables(), err_);
         const ExitCode code = select();
         writeOutputs(outputs, code);
         if (code == ExitDone || code == ExitUnexpectedError) printSuite();
         if (code == ExitDone) printUncovered();
-        return code;
+        return code == ExitDone && outputs.failed() ? ExitWrongUsage : code;
     }
 
 private:
@@ -90,13 +60,13 @@ private:
                     const char* option) const;
     ExitCode select();
     bool openProject();
+    bool sayUnreadable(const std::string& reason, int line = 0);
     void putLevel(ui::TextBox& box, const std::optional<std::string>& level);
     ExitCode walkAndSelect();
     void sayWhatIsMissing();
-    void writeOutputs(const Outputs& outputs, ExitCode code);
-    void writeMessages(OutputFile& file);
-    void writeResults(OutputFile& file);
-    void writeTables();
+    void writeOutputs(Outputs& outputs, ExitCode code);
+    std::string resultsText();
+    std::string tableText(const ExportTable& table);
     void printSuite();
     void printUncovered();
 
@@ -114,8 +84,11 @@ void BatchRun::checkLevel(const ui::TextBox& box, const std::optional<std::strin
     if (!level) return;
     for (const NumberBox& row : form_.NumberBoxes()) {
         if (row.Box != &box) continue;
+        // A comma is a mark between thousands; whoever types it here means a decimal one.
+        const bool hasComma = level->find(',') != std::string::npos;
         const auto value = ui::tryReal(*level, form_.Separator());
-        if (value && *value >= ui::toReal(row.Minimum) && *value <= ui::toReal(row.Maximum)) return;
+        if (!hasComma && value && *value >= ui::toReal(row.Minimum) && *value <= ui::toReal(row.Maximum))
+            return;
         throw UsageFault{std::string(option) + ": '" + *level + "' is no number from " + row.Minimum +
                          " to " + row.Maximum};
     }
@@ -129,8 +102,8 @@ ExitCode BatchRun::select() {
         putLevel(form_.txtThreatRep, options_.ThreatRepresentation);
         putLevel(form_.txtCCSRep, options_.ConservationStatus);
         return walkAndSelect();
-    } catch (const ui::RunTimeError& error) {
-        err_ << withBreaks(error.Description, "\n") << '\n';
+    } catch (const std::exception& error) {
+        err_ << withBreaks(error.what(), "\n") << '\n';
         return ExitUnexpectedError;
     }
 }
@@ -140,10 +113,17 @@ bool BatchRun::openProject() {
     platform_.Files.push_back(options_.Project);
     form_.mnuOpenProject.UserClick();
     const auto& fault = files_.LastFault();
-    if (!fault && global_.ProjectFileName == options_.Project) return true;
+    const bool wasRead = !fault || fault->Line > 0;
+    if (wasRead && files_.LinesEnded() == 0)
+        return sayUnreadable("no line ends in CR, as those of a project do");
+    if (fault) return sayUnreadable(withBreaks(fault->Error.Description, " "), fault->Line);
+    return global_.ProjectFileName == options_.Project || sayUnreadable("cannot be opened");
+}
+
+bool BatchRun::sayUnreadable(const std::string& reason, int line) {
     err_ << ProgramName << ": " << options_.Project;
-    if (fault && fault->Line > 0) err_ << ':' << fault->Line;
-    err_ << ": " << (fault ? withBreaks(fault->Error.Description, " ") : "cannot be opened") << '\n';
+    if (line > 0) err_ << ':' << line;
+    err_ << ": " << reason << '\n';
     return false;
 }
 
@@ -181,42 +161,27 @@ void BatchRun::sayWhatIsMissing() {
 }
 
 /// The messages come first: they are written whatever becomes of the other files.
-void BatchRun::writeOutputs(const Outputs& outputs, ExitCode code) {
-    if (outputs.Messages) writeMessages(*outputs.Messages);
-    if (outputs.Results && code == ExitDone) writeResults(*outputs.Results);
-    if (options_.Tables && code != ExitUnreadableProject) writeTables();
-}
-
-void BatchRun::writeMessages(OutputFile& file) {
-    try {
-        file.write(messageLines(platform_.Transcript));
-        file.commit();
-    } catch (const ui::RunTimeError& error) {
-        throw UsageFault{file.path() + ": cannot be written: " + error.Description};
-    }
-}
-
-void BatchRun::writeResults(OutputFile& file) {
-    files_.ClearLastFault();
-    platform_.Files.push_back(file.temporaryPath());
-    form_.cmdExportResults.UserClick();
-    const auto& fault = files_.LastFault();
-    if (fault) throw UsageFault{file.path() + ": cannot be written: " + fault->Error.Description};
-    file.commit();
-}
-
-void BatchRun::writeTables() {
+void BatchRun::writeOutputs(Outputs& outputs, ExitCode code) {
+    outputs.writeMessages([&] { return messageLines(platform_.Transcript); });
+    if (code == ExitDone) outputs.writeResults([&] { return resultsText(); });
+    if (code == ExitUnreadableProject) return;
     for (const ExportTable& table : form_.ExportTables()) {
-        if (!form_.isExportable(table)) continue;
-        const std::string path = *options_.Tables + "/" + table.FileName + ".txt";
-        try {
-            OutputFile file(path);
-            form_.SaveTable(table, file.temporaryPath());
-            file.commit();
-        } catch (const ui::RunTimeError& error) {
-            throw UsageFault{path + ": cannot be written: " + withBreaks(error.Description, " ")};
-        }
+        if (form_.isExportable(table)) outputs.writeTable(table, [&] { return tableText(table); });
     }
+}
+
+/// The form swallows a fault of the export, too.
+std::string BatchRun::resultsText() {
+    files_.ClearLastFault();
+    return gathered([&](const std::string& path) {
+        platform_.Files.push_back(path);
+        form_.cmdExportResults.UserClick();
+        if (files_.LastFault()) throw files_.LastFault()->Error;
+    });
+}
+
+std::string BatchRun::tableText(const ExportTable& table) {
+    return gathered([&](const std::string& path) { form_.SaveTable(table, path); });
 }
 
 void BatchRun::printSuite() {

@@ -6,6 +6,9 @@
 
 #include "batch/options.h"
 
+/// What stands before each line of the program's own on standard error.
+inline constexpr const char* ProgramName = "brenica-batch";
+
 /// Exit codes of brenica-batch.
 enum ExitCode {
     ExitDone = 0,

@@ -1,19 +1,45 @@
 // SPDX-FileCopyrightText: 2026 The Brenica developers
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <unistd.h>
+
+#include <csignal>
 #include <exception>
 #include <iostream>
+#include <sstream>
+#include <system_error>
 
 #include "batch/batch_run.h"
+#include "batch/system_io.h"
+
+namespace {
+
+int runCommandLine(int argc, char** argv, std::ostream& out) {
+    const ParsedOptions parsed = parseOptions(argc, argv, out, std::cerr);
+    return parsed.Options ? runBatch(*parsed.Options, out, std::cerr) : parsed.ExitCode;
+}
+
+/// Gives the exit code of the whole.
+int print(const std::string& text, int code) {
+    try {
+        writeAll(STDOUT_FILENO, text);
+        return code;
+    } catch (const std::system_error& error) {
+        std::cerr << ProgramName << ": standard output cannot be written: " << error.code().message() << '\n';
+        return code == ExitDone ? ExitWrongUsage : code;
+    }
+}
+
+}  // namespace
 
 int main(int argc, char** argv) {
     try {
-        const ParsedOptions parsed = parseOptions(argc, argv);
-        if (!parsed.Options) return parsed.ExitCode;
-        const ExitCode code = runBatch(*parsed.Options, std::cout, std::cerr);
-        std::cout.flush();
-        return std::cout ? code : ExitWrongUsage;
+        reserveStandardStreams();
+        std::signal(SIGXFSZ, SIG_IGN);  // a file that may not grow is a failure of writing
+        std::ostringstream out;
+        const int code = runCommandLine(argc, argv, out);
+        return print(out.str(), code);
     } catch (const std::exception& error) {
-        std::cerr << "brenica-batch: " << error.what() << '\n';
+        std::cerr << ProgramName << ": " << error.what() << '\n';
         return ExitUnexpectedError;
     }
 }

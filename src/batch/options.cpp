@@ -3,12 +3,34 @@
 #include "batch/options.h"
 
 #include <CLI/CLI.hpp>
-#include <iostream>
+#include <algorithm>
+#include <ostream>
 #include <vector>
 
 #include "batch/batch_run.h"
 
-ParsedOptions parseOptions(int argc, const char* const* argv) {
+namespace {
+
+/// The arguments without the program, last first, as the parser takes them. An option whose "=" has nothing behind it
+/// has an empty value; the parser would take the next argument instead.
+std::vector<std::string> argumentsOf(int argc, const char* const* argv) {
+    std::vector<std::string> arguments;
+    bool options = true;
+    for (const std::string& argument : std::vector<std::string>(argv + 1, argv + argc)) {
+        options = options && argument != "--";
+        if (options && argument.starts_with("--") && argument.find('=') == argument.size() - 1) {
+            arguments.insert(arguments.end(), {argument.substr(0, argument.size() - 1), ""});
+        } else {
+            arguments.push_back(argument);
+        }
+    }
+    std::reverse(arguments.begin(), arguments.end());
+    return arguments;
+}
+
+}  // namespace
+
+ParsedOptions parseOptions(int argc, const char* const* argv, std::ostream& out, std::ostream& err) {
     BatchOptions options;
     std::vector<std::string> answers;
     CLI::App app("Selects the suite of brenic species of a project, without a window.", "brenica-batch");
@@ -34,9 +56,9 @@ ParsedOptions parseOptions(int argc, const char* const* argv) {
     app.footer(
         "Exit code: 0 done, 1 wrong usage, 2 the project cannot be read, 3 nothing to score, 4 unexpected error.");
     try {
-        app.parse(argc, argv);
+        app.parse(argumentsOf(argc, argv));
     } catch (const CLI::ParseError& error) {
-        const bool wrong = app.exit(error) != 0;
+        const bool wrong = app.exit(error, out, err) != 0;
         return {std::nullopt, wrong ? ExitWrongUsage : ExitDone};
     }
     options.Answers.assign(answers.begin(), answers.end());

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <deque>
+#include <iosfwd>
 #include <optional>
 #include <string>
 
@@ -18,11 +19,11 @@ struct BatchOptions {
     std::optional<std::string> Messages;
 };
 
-/// The options, or the exit code of a command line that asks for help or the version, or is wrong; what there is to
-/// say of it has been printed.
+/// The options, or the exit code of a command line that asks for help or the version, or is wrong.
 struct ParsedOptions {
     std::optional<BatchOptions> Options;
     int ExitCode = 0;
 };
 
-ParsedOptions parseOptions(int argc, const char* const* argv);
+/// Help and version go to `out`; what is wrong goes to `err`.
+ParsedOptions parseOptions(int argc, const char* const* argv, std::ostream& out, std::ostream& err);

@@ -2,44 +2,91 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "batch/output_file.h"
 
+#include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
-#include <cstdio>
-#include <filesystem>
-#include <utility>
+#include <string>
+#include <system_error>
 
-#include "ui/files.h"
+#include "batch/file_identity.h"
+
+namespace fs = std::filesystem;
 
 namespace {
 
-[[noreturn]] void raiseSystemError() { ui::raise(ui::errorFor(errno, ui::ErrorNumber::PathFileAccessError)); }
+/// A new file in a folder, under a name that is short enough wherever its target's is; gone unless it is renamed.
+/// REQUIRES: signals are held while it lives.
+class TemporaryFile {
+public:
+    explicit TemporaryFile(const fs::path& folder) {
+        const std::string start = ".brenica-" + std::to_string(::getpid()) + "-";
+        for (int i = 0;; ++i) {
+            path_ = folder / (start + std::to_string(i));
+            const int number = ::open(path_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+            if (number < 0 && errno == EEXIST) continue;
+            file_ = Descriptor(number);
+            return;
+        }
+    }
+    ~TemporaryFile() {
+        if (!renamed_) ::unlink(path_.c_str());
+    }
+    TemporaryFile(const TemporaryFile&) = delete;
+    TemporaryFile& operator=(const TemporaryFile&) = delete;
+
+    /// Another's file may stay this user's: that is no fault.
+    void takeOwnerAndMode(const struct stat& about) const {
+        [[maybe_unused]] const int ignored = ::fchown(file_.number(), about.st_uid, about.st_gid);
+        if (::fchmod(file_.number(), about.st_mode & ALLPERMS) != 0) throwSystemError();
+    }
+    void write(std::string_view content) const { writeAll(file_.number(), content); }
+    void renameTo(const fs::path& target) {
+        file_.close();
+        fs::rename(path_, target);
+        renamed_ = true;
+    }
+
+private:
+    fs::path path_;
+    Descriptor file_;
+    bool renamed_ = false;
+};
+
+Descriptor duplicate(int number) {
+    const int flags = ::fcntl(number, F_GETFL);
+    if (flags >= 0 && (flags & O_ACCMODE) == O_RDONLY)
+        throw std::system_error(EBADF, std::generic_category());
+    return Descriptor(::fcntl(number, F_DUPFD_CLOEXEC, 0));
+}
 
 }  // namespace
 
-OutputFile::OutputFile(std::string path)
-    : path_(std::move(path)), temporaryPath_(path_ + "." + std::to_string(getpid()) + ".tmp") {
-    std::error_code ignored;
-    if (path_.empty() || std::filesystem::is_directory(path_, ignored)) {
-        ui::raise(ui::ErrorNumber::PathFileAccessError);
+OutputFile::OutputFile(const fs::path& path) {
+    if (const auto number = ownDescriptor(path)) {
+        direct_ = duplicate(*number);
+        return;
     }
-    write("");
+    const fs::file_status status = fs::status(path);
+    if (fs::is_directory(status)) throw std::system_error(EISDIR, std::generic_category());
+    if (fs::exists(status) && !fs::is_regular_file(status)) {
+        direct_ = Descriptor(::open(path.c_str(), O_WRONLY | O_NOCTTY | O_CLOEXEC));
+        return;
+    }
+    target_ = followLinks(path);
+    if (fs::exists(status) && ::faccessat(AT_FDCWD, target_.c_str(), W_OK, AT_EACCESS) != 0)
+        throwSystemError();
+    const SignalsHeld held;
+    const TemporaryFile attempt(target_.parent_path());
 }
 
-OutputFile::~OutputFile() {
-    if (!committed_) std::remove(temporaryPath_.c_str());
-}
-
-void OutputFile::write(const std::string& content) {
-    errno = 0;
-    std::FILE* stream = std::fopen(temporaryPath_.c_str(), "wb");
-    if (stream == nullptr) raiseSystemError();
-    const bool written = std::fwrite(content.data(), 1, content.size(), stream) == content.size();
-    if (std::fclose(stream) != 0 || !written) raiseSystemError();
-}
-
-void OutputFile::commit() {
-    errno = 0;
-    if (std::rename(temporaryPath_.c_str(), path_.c_str()) != 0) raiseSystemError();
-    committed_ = true;
+void OutputFile::write(std::string_view content) {
+    if (direct_) return writeAll(direct_.number(), content);
+    const SignalsHeld held;
+    TemporaryFile file(target_.parent_path());
+    struct stat about {};
+    if (::stat(target_.c_str(), &about) == 0) file.takeOwnerAndMode(about);
+    file.write(content);
+    file.renameTo(target_);
 }

@@ -2,25 +2,25 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <string>
+#include <filesystem>
+#include <string_view>
 
-/// A file that comes into being whole or not at all: it is written under a temporary name beside its own and renamed
-/// by commit. Without a commit nothing stays.
+#include "batch/system_io.h"
+
+/// A file that a run writes once. A regular file comes into being whole or not at all: it is written under a temporary
+/// name in its folder and renamed. It keeps the mode that it had, and its owner where the system allows that. Links are
+/// followed. What is no regular file (a pipe, a device), and what the program has open itself (/dev/stdout), is written
+/// to directly.
 class OutputFile {
 public:
-    /// Raises ui::RunTimeError when the place cannot be written to.
-    explicit OutputFile(std::string path);
-    ~OutputFile();
-    OutputFile(const OutputFile&) = delete;
-    OutputFile& operator=(const OutputFile&) = delete;
+    /// Looks whether the file can be written, which leaves nothing behind; opens a pipe or a device, which waits for a
+    /// pipe's reader. Throws std::system_error.
+    explicit OutputFile(const std::filesystem::path& path);
 
-    const std::string& path() const { return path_; }
-    const std::string& temporaryPath() const { return temporaryPath_; }
-    void write(const std::string& content);
-    void commit();
+    /// Throws std::system_error; a regular file is then as it was.
+    void write(std::string_view content);
 
 private:
-    std::string path_;
-    std::string temporaryPath_;
-    bool committed_ = false;
+    std::filesystem::path target_;  // of a regular file
+    Descriptor direct_;             // of all else
 };

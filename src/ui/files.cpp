@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/files.h"
 
+#include <sys/stat.h>
+
 #include <array>
 #include <cerrno>
 #include <filesystem>
@@ -14,12 +16,32 @@ namespace {
 
 constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
 
-void requireUsablePath(const std::string& path) {
-    if (path.empty()) raise(ErrorNumber::PathFileAccessError);
+/// What the system opens, or says only later that it does not.
+void refuseFolder(const std::string& path) {
     std::error_code ignored;
-    if (std::filesystem::is_directory(path, ignored)) raise(ErrorNumber::PathFileAccessError);
+    if (path.empty() || std::filesystem::is_directory(path, ignored)) raise(ErrorNumber::PathFileAccessError);
+}
+
+/// A file that is missing in its folder is told from a folder that is missing. A file to be written is never missing.
+ErrorNumber errorOfOpening(const std::string& path, FileMode mode, int systemError) {
+    if (systemError != ENOENT) return errorFor(systemError, ErrorNumber::PathFileAccessError);
+    std::error_code ignored;
     const std::filesystem::path folder = std::filesystem::path(path).parent_path();
-    if (!folder.empty() && !std::filesystem::exists(folder, ignored)) raise(ErrorNumber::PathNotFound);
+    const bool inFolder = folder.empty() || std::filesystem::exists(folder, ignored);
+    return mode == FileMode::Input && inFolder ? ErrorNumber::FileNotFound : ErrorNumber::PathNotFound;
+}
+
+/// How much is read of a file: all of a regular one, but no more than memory holds of what may never end.
+std::size_t boundOf(std::FILE* stream) {
+    constexpr std::size_t Bound = std::size_t{1} << 30;
+    struct stat about {};
+    const bool regular = fstat(fileno(stream), &about) == 0 && S_ISREG(about.st_mode);
+    return regular ? std::string::npos : Bound;
+}
+
+[[noreturn]] void raiseTooLarge() {
+    throw RunTimeError(static_cast<std::int32_t>(ErrorNumber::OutOfMemory), "",
+                       "Larger than 1 GiB, and no regular file");
 }
 
 }  // namespace
@@ -30,11 +52,15 @@ ErrorNumber errorFor(int systemError, ErrorNumber otherwise) {
         case ENOTDIR: return ErrorNumber::PathNotFound;
         case EACCES:
         case EPERM:
-        case EROFS: return ErrorNumber::PermissionDenied;
+        case EROFS:
+        case ETXTBSY: return ErrorNumber::PermissionDenied;
         case ENOSPC:
-        case EDQUOT: return ErrorNumber::DiskFull;
+        case EDQUOT:
+        case EFBIG: return ErrorNumber::DiskFull;
         case EISDIR:
+        case ELOOP:
         case ENAMETOOLONG: return ErrorNumber::PathFileAccessError;
+        case ENOMEM: return ErrorNumber::OutOfMemory;
         case EIO: return ErrorNumber::DeviceIoError;
         default: return otherwise;
     }
@@ -65,9 +91,11 @@ Files::OpenFile& Files::find(int number) {
 void Files::load(OpenFile& file) {
     if (file.Mode != FileMode::Input || !file.Stream) return;
     std::FILE* stream = file.Stream.get();
+    const std::size_t bound = boundOf(stream);
     std::array<char, 65536> block{};
     errno = 0;
     while (const std::size_t count = std::fread(block.data(), 1, block.size(), stream)) {
+        if (count > bound - file.Content.size()) raiseTooLarge();
         file.Content.append(block.data(), count);
     }
     if (std::ferror(stream) != 0) raise(errorFor(errno, ErrorNumber::DeviceIoError));
@@ -81,13 +109,14 @@ void Files::Open(const std::string& path, FileMode mode, int number) {
     noting(path, 0, [&] {
         if (IsOpen(number)) raise(ErrorNumber::FileAlreadyOpen);
         prepare(Operation::Open);
-        requireUsablePath(path);
+        refuseFolder(path);
         OpenFile file;
         file.Path = path;
         file.Mode = mode;
         errno = 0;
         file.Stream.reset(std::fopen(path.c_str(), mode == FileMode::Input ? "rb" : "wb"));
-        if (!file.Stream) raise(errorFor(errno, ErrorNumber::PathFileAccessError));
+        if (!file.Stream) raise(errorOfOpening(path, mode, errno));
+        linesEnded_ = 0;
         open_.emplace(number, std::move(file));
     });
 }
@@ -111,6 +140,7 @@ std::string Files::LineInput(int number, LineEnds ends) {
             std::min(rest.find_first_of(ends == LineEnds::AnyEnd ? "\r\n" : "\r"), rest.size());
         file.Position += end;
         const bool pair = rest.substr(end, 2) == "\r\n";
+        if (rest.substr(end, 1) == "\r") ++linesEnded_;
         file.Position += pair ? 2 : end < rest.size() ? 1 : 0;
         ++file.Line;
         return decodeBytes(rest.substr(0, end));

@@ -27,7 +27,8 @@ struct FileFault {
 };
 
 /// Files opened under a number, as long as they are used. Reading gives UTF-8 without a byte order mark, whatever the
-/// file holds; writing ends each line with CR LF. Every failure raises the run-time error of its cause and is kept as
+/// file holds; of what is no regular file (a pipe, a device) at most 1 GiB is read, and more is a failure. Writing ends
+/// each line with CR LF. Every failure raises the run-time error of its cause and is kept as
 /// the last fault, for whoever must report it after the command has swallowed it.
 class Files {
 public:
@@ -52,6 +53,8 @@ public:
 
     const std::optional<FileFault>& LastFault() const { return lastFault_; }
     void ClearLastFault() { lastFault_.reset(); }
+    /// How many lines that were read since the last Open ended in CR; none of a file of another kind.
+    int LinesEnded() const { return linesEnded_; }
     /// Keeps a failure that whoever reads the file found in what it holds.
     void NoteFault(FileFault fault) { lastFault_ = std::move(fault); }
 
@@ -76,9 +79,10 @@ private:
 
     std::map<int, OpenFile> open_;
     std::optional<FileFault> lastFault_;
+    int linesEnded_ = 0;
 };
 
-/// The run-time error for the system's error number, for a step that has none of its own.
+/// The run-time error for the system's error number, or the one given where the system's means none.
 ErrorNumber errorFor(int systemError, ErrorNumber otherwise);
 
 }  // namespace ui

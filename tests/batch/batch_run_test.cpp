@@ -45,6 +45,9 @@ TEST_F(BatchRunExit, LevelsThatAreNoNumberOrOutOfBoundsAreWrongUsage) {
         {&BatchOptions::ThreatRepresentation, "half",
          "--threat-representation: 'half' is no number from 0 to 1"},
         {&BatchOptions::ConservationStatus, "2", "--conservation-status: '2' is no number from 0 to 1"},
+        {&BatchOptions::ThreatRepresentation, "0,5",
+         "--threat-representation: '0,5' is no number from 0 to 1"},
+        {&BatchOptions::ErrorMargin, "1,0", "--error-margin: '1,0' is no number from 0 to 100"},
         {&BatchOptions::ConservationStatus, "nan", "--conservation-status: 'nan' is no number from 0 to 1"}};
     for (const Case& c : cases) {
         options = {};
@@ -72,21 +75,21 @@ TEST_F(BatchRunExit, LevelsAtTheirBoundsAreTaken) {
 TEST_F(BatchRunExit, AnOutputThatCannotBeWrittenIsWrongUsageBeforeTheRun) {
     options.Results = folder.file("missing/results.txt");
     EXPECT_EQ(run(oneCoversAll()), ExitWrongUsage);
-    EXPECT_THAT(err.str(),
-                StartsWith("brenica-batch: " + folder.file("missing/results.txt") + ": cannot be written: "));
+    EXPECT_THAT(err.str(), StartsWith("brenica-batch: " + folder.file("missing/results.txt") +
+                                      ": cannot be written: No such file or directory\n"));
     EXPECT_EQ(out.str(), "");
 
     options = {};
     err.str("");
     options.Messages = folder.path();
     EXPECT_EQ(run(oneCoversAll()), ExitWrongUsage);
-    EXPECT_EQ(err.str(), "brenica-batch: " + folder.path() + ": cannot be written: Path/File access error\n");
+    EXPECT_EQ(err.str(), "brenica-batch: " + folder.path() + ": cannot be written: Is a directory\n");
 
     options = {};
     err.str("");
     options.Tables = projectPath();
     EXPECT_EQ(run(oneCoversAll()), ExitWrongUsage);
-    EXPECT_EQ(err.str(), "brenica-batch: " + projectPath() + ": cannot be made a folder\n");
+    EXPECT_EQ(err.str(), "brenica-batch: " + projectPath() + ": cannot be made a folder: Not a directory\n");
     EXPECT_THAT(namesIn(folder.path()), ElementsAre("project.brn"));
 }
 
@@ -153,8 +156,19 @@ TEST_F(BatchRunExit, AnEmptyListIsNamed) {
               "brenica-batch: nothing to score: the project has no management zones\n");
 }
 
-TEST_F(BatchRunExit, AnEmptyFileHasNothingToScore) {
-    EXPECT_EQ(run(std::string()), ExitNothingToScore);
+TEST_F(BatchRunExit, AFileWithoutALineThatEndsInCarriageReturnIsNoProject) {
+    std::string text = oneCoversAll().text();
+    std::erase(text, '\r');
+    for (const std::string& unreadable : {text, std::string(), std::string("Project Version = VERSION2")}) {
+        err.str("");
+        EXPECT_EQ(run(unreadable), ExitUnreadableProject);
+        EXPECT_THAT(err.str(), EndsWith("brenica-batch: " + projectPath() +
+                                        ": no line ends in CR, as those of a project do\n"));
+    }
+}
+
+TEST_F(BatchRunExit, OneLineThatEndsInCarriageReturnIsAProjectWithNothingToScore) {
+    EXPECT_EQ(run(std::string("\r\n")), ExitNothingToScore);
     EXPECT_THAT(err.str(), StartsWith("Version 1 poject file: "));
 }
 
@@ -352,7 +366,7 @@ TEST_F(BatchRunFiles, ATableThatCannotBeWrittenIsWrongUsageAndLeavesNoHalfFile) 
     std::filesystem::create_directories(*options.Tables + "/HabitatData.txt");
     EXPECT_EQ(run(oneCoversAll()), ExitWrongUsage);
     EXPECT_THAT(err.str(), EndsWith("brenica-batch: " + *options.Tables +
-                                    "/HabitatData.txt: cannot be written: Path/File access error\n"));
+                                    "/HabitatData.txt: cannot be written: Is a directory\n"));
     for (const std::string& name : namesIn(*options.Tables)) EXPECT_THAT(name, EndsWith(".txt"));
 }
 

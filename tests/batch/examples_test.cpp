@@ -198,7 +198,7 @@ protected:
         arguments.push_back("project.brn");
         std::vector<const char*> raw;
         for (const std::string& argument : arguments) raw.push_back(argument.c_str());
-        const ParsedOptions parsed = parseOptions(static_cast<int>(raw.size()), raw.data());
+        const ParsedOptions parsed = parseOptions(static_cast<int>(raw.size()), raw.data(), out, err);
         ASSERT_TRUE(parsed.Options);
         options = *parsed.Options;
         runExample("full_landscape.brn");

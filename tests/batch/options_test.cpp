@@ -11,11 +11,12 @@ class Options : public testing::Test {
 protected:
     ParsedOptions parse(std::vector<const char*> arguments) {
         arguments.insert(arguments.begin(), "brenica-batch");
-        testing::internal::CaptureStdout();
-        testing::internal::CaptureStderr();
-        ParsedOptions parsed = parseOptions(static_cast<int>(arguments.size()), arguments.data());
-        out = testing::internal::GetCapturedStdout();
-        err = testing::internal::GetCapturedStderr();
+        std::ostringstream outStream;
+        std::ostringstream errStream;
+        ParsedOptions parsed =
+            parseOptions(static_cast<int>(arguments.size()), arguments.data(), outStream, errStream);
+        out = outStream.str();
+        err = errStream.str();
         return parsed;
     }
     std::string out;
@@ -53,6 +54,28 @@ TEST_F(Options, AnAnswerMayBeEmpty) {
     ASSERT_TRUE(parsed.Options) << err;
     EXPECT_THAT(parsed.Options->Answers, ElementsAre("", "2", ""));
     EXPECT_EQ(parsed.Options->Project, "a.brn");
+}
+
+TEST_F(Options, NothingBehindAnEqualsSignIsAnEmptyValue) {
+    const ParsedOptions parsed = parse({"--answer=", "--answer", "2", "--answer=", "--results=", "a.brn"});
+    ASSERT_TRUE(parsed.Options) << err;
+    EXPECT_THAT(parsed.Options->Answers, ElementsAre("", "2", ""));
+    EXPECT_EQ(parsed.Options->Results, "");
+    EXPECT_EQ(parsed.Options->Project, "a.brn");
+}
+
+TEST_F(Options, AfterTwoDashesAnArgumentIsAFile) {
+    const ParsedOptions parsed = parse({"--", "--answer="});
+    ASSERT_TRUE(parsed.Options) << err;
+    EXPECT_EQ(parsed.Options->Project, "--answer=");
+}
+
+TEST_F(Options, ADashIsAFile) {
+    const ParsedOptions parsed = parse({"--results", "-", "--tables=-", "-"});
+    ASSERT_TRUE(parsed.Options) << err;
+    EXPECT_EQ(parsed.Options->Results, "-");
+    EXPECT_EQ(parsed.Options->Tables, "-");
+    EXPECT_EQ(parsed.Options->Project, "-");
 }
 
 TEST_F(Options, AnAnswerTakesOneValueAndKeepsItAsItIs) {

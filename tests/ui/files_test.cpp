@@ -2,6 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/files.h"
 
+#include <unistd.h>
+
+#include <cerrno>
+
 #include "support/form_test.h"
 
 using testing::ElementsAre;
@@ -121,15 +125,72 @@ TEST_F(FilesTest, WhatCannotBeOpenedRaisesTheErrorOfItsCause) {
         {folder.file("missing.txt"), FileMode::Input, 53},
         {folder.file("no/such/file.txt"), FileMode::Input, 76},
         {folder.file("no/such/file.txt"), FileMode::Output, 76},
+        {path + "/file.txt", FileMode::Input, 76},
+        {path + "/file.txt", FileMode::Output, 76},
+        {folder.file("dangling"), FileMode::Input, 53},
+        {folder.file("dangling"), FileMode::Output, 76},
+        {folder.file("loop"), FileMode::Input, 75},
+        {folder.file("loop/file.txt"), FileMode::Output, 75},
+        {folder.file(std::string(300, 'n')), FileMode::Input, 75},
         {folder.path(), FileMode::Input, 75},
         {folder.path(), FileMode::Output, 75},
         {"", FileMode::Input, 75},
     };
+    writeFile(path, "a file is no folder");
+    std::filesystem::create_symlink(folder.file("no/such/file.txt"), folder.file("dangling"));
+    std::filesystem::create_symlink("loop", folder.file("loop"));
     for (const Row& row : rows) {
         EXPECT_EQ(failureOf([&] { files.Open(row.Path, row.Mode, 1); }).Number, row.Number) << row.Path;
         EXPECT_FALSE(files.IsOpen(1));
         expectLastFault(row.Path, 0, row.Number);
     }
+}
+
+TEST_F(FilesTest, EachErrorOfTheSystemHasItsNumber) {
+    const std::pair<int, int> rows[] = {{ENOENT, 53}, {ENOTDIR, 76}, {EACCES, 70}, {EPERM, 70},
+                                        {EROFS, 70},  {ETXTBSY, 70}, {ENOSPC, 61}, {EDQUOT, 61},
+                                        {EFBIG, 61},  {EISDIR, 75},  {ELOOP, 75},  {ENAMETOOLONG, 75},
+                                        {EIO, 57},    {ENOMEM, 7},   {EINVAL, 52}};
+    for (const auto& [systemError, number] : rows) {
+        EXPECT_EQ(static_cast<int>(ui::errorFor(systemError, ErrorNumber::BadFileNumber)), number)
+            << systemError;
+    }
+}
+
+/// Root may look everywhere, so that a child looks as somebody else.
+TEST_F(FilesTest, WhatMayNotBeLookedAtIsDeniedAndNotMissing) {
+    const std::string locked = folder.file("locked");
+    std::filesystem::create_directories(locked + "/inner");
+    writeFile(locked + "/inner/file.txt", "text");
+    std::filesystem::permissions(locked, std::filesystem::perms::none);
+    const auto openAsNobody = [&](FileMode mode) {
+        constexpr uid_t Nobody = 65534;
+        if (geteuid() == 0 && setuid(Nobody) != 0) std::_Exit(0);
+        try {
+            files.Open(locked + "/inner/file.txt", mode, 1);
+        } catch (const ui::RunTimeError& error) {
+            std::_Exit(error.Number);
+        }
+        std::_Exit(0);
+    };
+    EXPECT_EXIT(openAsNobody(FileMode::Input), testing::ExitedWithCode(70), "");
+    EXPECT_EXIT(openAsNobody(FileMode::Output), testing::ExitedWithCode(70), "");
+    std::filesystem::permissions(locked, std::filesystem::perms::owner_all);
+}
+
+TEST_F(FilesTest, LinesThatEndAreCountedFromTheLastOpenOn) {
+    linesOf("one\r\ntwo\rthree", LineEnds::CarriageReturn);
+    EXPECT_EQ(files.LinesEnded(), 2);
+    linesOf("one\ntwo\n", LineEnds::CarriageReturn);
+    EXPECT_EQ(files.LinesEnded(), 0);
+}
+
+TEST_F(FilesTest, ADeviceThatNeverEndsIsReadUpToABound) {
+    files.Open("/dev/zero", FileMode::Input, 1);
+    const auto failure = failureOf([&] { files.EndOfFile(1); });
+    EXPECT_EQ(failure.Number, 7);
+    EXPECT_EQ(failure.Description, "Larger than 1 GiB, and no regular file");
+    expectLastFault("/dev/zero", 0, 7);
 }
 
 TEST_F(FilesTest, ANumberInUseCannotBeOpenedAgain) {

@@ -362,7 +362,10 @@ TEST_F(Version1File, GivesEveryUnitThePromisedLevelWhateverItsAreas) {
 }
 
 TEST_F(Version1File, KeepsTheLevelsThatTheFileHas) {
-    open(version1(1, 3, 2).set("Habitat Area", "5").set("Habitat UseLevel", "1,,3").set("MZone UseLevel", "0"));
+    open(version1(1, 3, 2)
+             .set("Habitat Area", "5")
+             .set("Habitat UseLevel", "1,,3")
+             .set("MZone UseLevel", "0"));
     EXPECT_THAT(columnOf(form.flxHabitatTypes, list::LevelOfUse), ElementsAre("Level of Use", "1", "2", "3"));
     EXPECT_THAT(columnOf(form.flxJurisUnits, list::LevelOfUse), ElementsAre("Level of Use", "0", "2"));
 }

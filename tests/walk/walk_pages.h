@@ -36,7 +36,12 @@ public:
     }
 
     void choose(ui::ComboBox& box, int index) {
-        act(Deed::ChooseItem, box.Name() + " " + std::to_string(index), [&] { box.UserChoose(index); });
+        const bool looks = &box == &form_.cbxSpeciesName && form_.HomeRangeType > 0;
+        act(Deed::ChooseItem, box.Name() + " " + std::to_string(index), [&] {
+            const std::vector<std::string> before = homeRanges();
+            box.UserChoose(index);
+            if (looks && homeRanges() != before) walker_.defect("a look at a species changed a home range");
+        });
     }
     void click(ui::CheckBox& box) {
         act(Deed::ClickCheckBox, box.Name(), [&] { box.UserClick(); });
@@ -75,6 +80,13 @@ public:
     }
 
 private:
+    std::vector<std::string> homeRanges() const {
+        const ui::Grid& areas = form_.flxSummary(summary::Area);
+        std::vector<std::string> texts;
+        for (int row = 1; row < areas.Rows(); ++row) texts.push_back(areas.TextMatrix(row, area::HomeRange));
+        return texts;
+    }
+
     struct ListPage {
         ui::Grid& Grid;
         ui::TextBox& NewRows;

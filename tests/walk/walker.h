@@ -79,10 +79,13 @@ private:
     struct ProjectFile {
         std::string Path;
         bool InStep = true;  ///< opening it gives grids in step
+        bool Whole = false;  ///< and a save then gives the same text
     };
     void closeEditor();
     void projectCommand(Deed deed, ui::MenuItem& item, const ProjectFile* opened);
     void judgeUnfinished(const ProjectFile* opened);
+    void requireNewProject();
+    void requireSameText(const ProjectFile& opened);
     void noteGateRefusal();
     void newProject();
     void openProject();
@@ -230,6 +233,8 @@ inline void Walker::projectCommand(Deed deed, ui::MenuItem& item, const ProjectF
         noteGateRefusal();
         DamagedFile = opened != nullptr && finished && !opened->InStep;
         if (!finished) judgeUnfinished(opened);
+        if (finished && opened == nullptr) requireNewProject();
+        if (finished && opened != nullptr && opened->Whole && savePossible) requireSameText(*opened);
         trackShapes();
     });
     if (saves && running() && files.LastFault() == std::nullopt && savePossible && reached)
@@ -248,6 +253,25 @@ inline void Walker::judgeUnfinished(const ProjectFile* opened) {
         if (opened->InStep) defect("a sound file cannot be read");
         DamagedFile = true;
     }
+}
+
+inline void Walker::requireNewProject() {
+    const bool empty = global.TotalSpecies == 0 && global.TotalHabitatTypes == 0 &&
+                       global.TotalJurisUnits == 0 && global.TotalLandUses == 0 && global.TotalBins == 0 &&
+                       global.TotalFunctions == 6 && form.cbxSpeciesName.ListCount() == 0 &&
+                       form.cbxUserDefBinsHR.ListCount() == 0;
+    if (!empty || form.CurrentMainTab != 1 || form.CurrentSpeciesIndex != 0 || form.HomeRangeType != 0 ||
+        form.ScoreDisplayMode != 0 || form.ProjectChanged || global.ScoresCalculated)
+        defect("New does not give a new project");
+}
+
+/// Whatever was open before, a complete project is the one of its file.
+inline void Walker::requireSameText(const ProjectFile& opened) {
+    const bool version2 = readFile(opened.Path).starts_with("Project Version");
+    const std::string path = newPath(".brn");
+    form.SaveProject(path);
+    if (version2 && readFile(path) != readFile(opened.Path))
+        defect("what was opened is not what stands in " + opened.Path);
 }
 
 /// A gate that is told No while the project is cleared leaves the tab strip where it was.
@@ -326,5 +350,5 @@ inline Walker::ProjectFile Walker::randomProjectFile() {
     const bool broken = random_.chance(12);
     const std::string path = newPath(".brn");
     writeFile(path, broken ? damaged(random_, project.text.text()) : project.text.text());
-    return {path, !broken};
+    return {path, !broken, !broken};
 }

@@ -165,7 +165,8 @@ TEST_F(CopyRoundTrip, GivesBackProjectsWithAnyTexts) {
         original.open(path);
         AnyTexts(random, original.form).enter(random.pick({0, 5, 30, 100}));
         if (random.chance(20)) {
-            while (original.global.TotalFunctions > 0) original.form.RemoveFunction(1);
+            original.form.txtRemoveFunctionIndex.Text("1");
+            while (original.global.TotalFunctions > 0) original.form.cmdRemoveFunction.UserClick();
         }
         expectRestored(original);
         if (HasFatalFailure()) FAIL() << "project " << i;
@@ -178,7 +179,7 @@ TEST_F(CopyRoundTrip, GivesBackProjectsEnteredByHand) {
     for (int i = 0; i < 60; ++i) {
         Walker walker(seeds.next());
         walker.run(120);
-        if (walker.End != WalkEnd::Tired || walker.OutOfStep) continue;
+        if (walker.End != WalkEnd::Tired || walker.DamagedFile) continue;
         const ProjectCopy copy = walker.form.TakeCopy();
         const std::string path = folder.file("walked.brn");
         writeFile(path, copy.Text);

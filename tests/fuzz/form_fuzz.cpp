@@ -67,7 +67,7 @@ private:
     std::optional<std::string> output(const std::string& name) {
         switch (random_.below(4)) {
             case 0: return std::nullopt;
-            case 1: return random_.pick({folder_.file("missing/" + name), std::string("/dev/full")});
+            case 1: return random_.pick({folder_.file("missing/" + name), options_.Project + "/" + name});
             default: return folder_.file(name);
         }
     }

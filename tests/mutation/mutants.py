@@ -126,7 +126,7 @@ class Search:
         for index, child in enumerate(children):
             if cursor.kind in BODIES:
                 self.delete(cursor, children, index)
-            if self.is_extra_text_of_trap(cursor, index):
+            if self.is_alike_in_every_trap(cursor, index):
                 continue
             inCase = cursor.kind == CursorKind.CASE_STMT and index == 0
             self.constant, kept = self.constant or inCase, self.constant
@@ -146,9 +146,9 @@ class Search:
         return re.search(rb"\bconstexpr\b", head) is not None
 
     @staticmethod
-    def is_extra_text_of_trap(cursor, index):
-        """A trap has no use for the text of other codes, the same empty one in every trap."""
-        return cursor.kind == CursorKind.CALL_EXPR and cursor.spelling == TRAP and index == 3
+    def is_alike_in_every_trap(cursor, index):
+        """All traps hand on the code 9999 and an extra text that no report of that code reads."""
+        return cursor.kind == CursorKind.CALL_EXPR and cursor.spelling == TRAP and index in (1, 3)
 
     # Statements
 

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Brenica developers
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "entry/form_layout.h"
 #include "entry/modFlexGridUtilities.h"
 #include "support/form_test.h"
 
@@ -71,4 +72,11 @@ TEST_F(GridPreparation, RowsThatAreAddedAreAlignedLeft) {
     EXPECT_EQ(grid.Rows(), 3);
     for (int col = 0; col < 2; ++col) EXPECT_EQ(grid.ColAlignment(col), ui::CellAlign::LeftCentre);
     EXPECT_THAT(columnOf(grid, 0), ElementsAre("No.", "1", "2"));
+}
+
+TEST_F(GridPreparation, AGridWithoutColumnsGrowsAndIsFitted) {
+    grid.Cols(0);
+    EXPECT_NO_THROW(UpdateFlexGrid(grid, 2, false));
+    EXPECT_NO_THROW(layout::fitColumns(grid));
+    EXPECT_EQ(grid.Rows(), 6);
 }

@@ -67,3 +67,12 @@ TEST_F(PickedRows, TheCoveredTablesShowTheirTextsWhileTheBoxesOfASelectionAreUp)
     EXPECT_THAT(widths, ElementsAre(widthOf("Habitat Name"), covered, widthOf("MZ Name"), covered,
                                     widthOf("Potential threat"), covered));
 }
+
+TEST_F(PickedRows, TheResultsKeepTheirLastPictureWhileASelectionRuns) {
+    openForSelection(bestCoversNothing());
+    std::vector<bool> redrawn;
+    platform.OnBox = [&](const ShownBox&) { redrawn.push_back(results().Redraw()); };
+    select();
+    EXPECT_THAT(redrawn, ElementsAre(false, false, false));
+    EXPECT_TRUE(results().Redraw());
+}

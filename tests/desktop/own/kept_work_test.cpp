@@ -21,7 +21,11 @@ public:
         desktop_->start();
         desktop_->run([this] { desktop_->program().Splash()->UserClick(); });
     }
-    ~WindowedProgram() { qputenv("XDG_STATE_HOME", before_); }
+    ~WindowedProgram() {
+        desktop_.reset();
+        desktop_test::endEventLoop();
+        qputenv("XDG_STATE_HOME", before_);
+    }
     WindowedProgram(const WindowedProgram&) = delete;
     WindowedProgram& operator=(const WindowedProgram&) = delete;
 

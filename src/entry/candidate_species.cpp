@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Brenica developers
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <algorithm>
 #include <array>
 
 #include "entry/modErrorHandling.h"
@@ -8,6 +9,7 @@
 #include "project/frmBrenica.h"
 #include "ui/text.h"
 
+using modFlexGridUtilities::removeRows;
 using modFlexGridUtilities::UpdateFlexGrid;
 
 namespace {
@@ -36,6 +38,7 @@ void frmBrenica::UpdateOtherSpeciesFlexGrids(int added, int oldTotal) try {
     growSpeciesRows(summary::JurisUnitUse, oldTotal);
     growSpeciesBlocks(summary::HabitatsBySpecies, global_.TotalHabitatTypes, added, oldTotal, use::UnitName);
     growSpeciesBlocks(summary::JurisUnitsBySpecies, global_.TotalJurisUnits, added, oldTotal, use::UnitName);
+    if (oldTotal == 0) clearZoneNumbers();
     flxSummary(summary::Area).Rows(global_.TotalSpecies + 1);
     growSpeciesRows(summary::Vulnerability, oldTotal);
     growSpeciesBlocks(summary::ThreatsBySpecies, global_.TotalLandUses, added, oldTotal, threat::Probability);
@@ -75,6 +78,12 @@ void frmBrenica::growSpeciesBlocks(int member, int units, int added, int oldTota
     }
 }
 
+/// Zones that were added before there was a species stand numbered in the column of the species' names.
+void frmBrenica::clearZoneNumbers() {
+    for (int zone = 2; zone <= global_.TotalJurisUnits; ++zone)
+        flxSummary(summary::JurisUnitsBySpecies).TextMatrix(zone, 0, "");
+}
+
 /// The table by threat has a block of species a threat, which grows inside.
 void frmBrenica::growThreatBlocks(int added, int oldTotal) {
     ui::Grid& grid = flxSummary(summary::SpeciesByThreat);
@@ -91,74 +100,97 @@ void frmBrenica::cmdRemoveSpecies_Click() try { RemoveSpecies(txtRemoveSpeciesIn
     ReportError(9999, "Brenica.cmdRemoveSpecies_Click", "");
 }
 
+void frmBrenica::RemoveSpecies(int row) {
+    if (row < 1 || row > global_.TotalSpecies) return txtRemoveSpeciesIndex.Text("0");
+    RemoveSpecies(RowNumbers(&row, 1));
+}
+
 /// The data quality table is left alone: its rows keep their old positions.
-void frmBrenica::RemoveSpecies(int row) try {
+void frmBrenica::RemoveSpecies(RowNumbers rows) try {
     const int oldTotal = global_.TotalSpecies;
-    if (row < 1 || row > oldTotal) {
-        txtRemoveSpeciesIndex.Text("0");
-        return;
-    }
-    if (cbxSpeciesName.ListCount() > 0 && !flxCandidateSpecies.TextMatrix(1, list::Name).empty()) {
-        cbxSpeciesName.RemoveItem(row - 1);
-    }
-    modFlexGridUtilities::RemoveGridEntry(flxCandidateSpecies, row, global_.TotalSpecies);
+    removeFromSelector(rows);
+    modFlexGridUtilities::RemoveGridEntry(flxCandidateSpecies, rows, global_.TotalSpecies);
     for (auto* grids : {&flxScores, &flxScoresSort}) {
-        for (ui::Grid& grid : *grids) grid.RemoveItem(row);
+        for (ui::Grid& grid : *grids) removeRows(grid, rows);
     }
+    removeFromRanks(rows);
     for (int i = 1; i <= global_.TotalSpecies; ++i) {
         flxScoresSort(0).TextMatrix(i, score::SortKey, ui::toText(i));
         flxScoresSort(1).TextMatrix(i, score::OriginalSortKey, ui::toText(i));
     }
-    removeSpeciesBlock(summary::HabitatsBySpecies, global_.TotalHabitatTypes, row, UseColumns);
-    removeSpeciesBlock(summary::JurisUnitsBySpecies, global_.TotalJurisUnits, row, UseColumns);
-    removeSpeciesRows(row);
-    removeSpeciesBlock(summary::ThreatsBySpecies, global_.TotalLandUses, row, ThreatColumns);
-    removeSpeciesFromThreats(row, oldTotal);
+    removeSpeciesBlocks(summary::HabitatsBySpecies, global_.TotalHabitatTypes, rows, UseColumns);
+    removeSpeciesBlocks(summary::JurisUnitsBySpecies, global_.TotalJurisUnits, rows, UseColumns);
+    removeSpeciesRows(rows);
+    removeSpeciesBlocks(summary::ThreatsBySpecies, global_.TotalLandUses, rows, ThreatColumns);
+    removeSpeciesFromThreats(rows, oldTotal);
 } catch (...) {
     ReportError(9999, "Brenica.RemoveSpecies", "");
 }
 
+/// The selector is filled when the page is left: a species added since has no item yet.
+void frmBrenica::removeFromSelector(RowNumbers rows) {
+    if (flxCandidateSpecies.TextMatrix(1, list::Name).empty()) return;
+    for (const int row : rows) {
+        if (row <= cbxSpeciesName.ListCount()) cbxSpeciesName.RemoveItem(row - 1);
+    }
+}
+
+/// The others keep their order, under the rows that they have now.
+void frmBrenica::removeFromRanks(RowNumbers rows) {
+    const std::vector<int> removed(rows.rbegin(), rows.rend());
+    const auto firstFrom = [&](int row) { return std::lower_bound(removed.begin(), removed.end(), row); };
+    std::erase_if(global_.SpeciesRanks,
+                  [&](int row) { return std::binary_search(removed.begin(), removed.end(), row); });
+    for (int& row : global_.SpeciesRanks) row -= static_cast<int>(firstFrom(row) - removed.begin());
+}
+
 /// The last species' block stays with the names of its units.
-void frmBrenica::removeSpeciesBlock(int member, int units, int row, std::span<const int> clearedColumns) {
+void frmBrenica::removeSpeciesBlocks(int member, int units, RowNumbers rows,
+                                     std::span<const int> clearedColumns) {
     ui::Grid& grid = flxSummary(member);
-    if (units == 0) return grid.RemoveItem(row);
-    const int first = blockRow(row, units, 1);
-    for (int unit = 1; unit <= units; ++unit) {
-        if (global_.TotalSpecies > 0) {
-            grid.RemoveItem(first);
-        } else {
-            for (const int col : clearedColumns) grid.TextMatrix(unit, col, "");
+    if (units == 0) return removeRows(grid, rows);
+    for (const int row : rows) {
+        const int first = blockRow(row, units, 1);
+        for (int unit = 1; unit <= units; ++unit) {
+            if (global_.TotalSpecies > 0) {
+                grid.RemoveItem(first);
+            } else {
+                for (const int col : clearedColumns) grid.TextMatrix(unit, col, "");
+            }
         }
     }
 }
 
-void frmBrenica::removeSpeciesRows(int row) {
+void frmBrenica::removeSpeciesRows(RowNumbers rows) {
     for (const int member : RowPerSpecies) {
         if (global_.TotalSpecies > 0) {
-            flxSummary(member).RemoveItem(row);
+            removeRows(flxSummary(member), rows);
         } else {
             flxSummary(member).Rows(1);
         }
     }
     if (global_.TotalSpecies > 0) return;
+    threatFactorsLost_ = true;
     flxSummary(summary::HabitatUse).Cols(global_.TotalHabitatTypes + 1);
     flxSummary(summary::JurisUnitUse).Cols(global_.TotalJurisUnits + 1);
     flxSummary(summary::Vulnerability).Cols(global_.TotalLandUses + vulnerability::ThreatOffset + 1);
 }
 
-/// One row of each threat's block goes; the block's first row keeps the threat's name.
-void frmBrenica::removeSpeciesFromThreats(int row, int oldTotal) {
+/// Rows of each threat's block go; the block's first row keeps the threat's name.
+void frmBrenica::removeSpeciesFromThreats(RowNumbers rows, int oldTotal) {
     ui::Grid& grid = flxSummary(summary::SpeciesByThreat);
-    if (global_.TotalLandUses == 0) return grid.RemoveItem(row);
+    if (global_.TotalLandUses == 0) return removeRows(grid, rows);
     for (int threatNumber = 1; threatNumber <= global_.TotalLandUses; ++threatNumber) {
-        const int gone = threatNumber - 1;
-        const int removed = blockRow(threatNumber, oldTotal, row) - gone;
         if (global_.TotalSpecies == 0) {
             for (int col = 1; col <= 4; ++col) grid.TextMatrix(threatNumber, col, "");
             continue;
         }
-        if (row == 1) grid.TextMatrix(removed + 1, 0, grid.TextMatrix(removed, 0));
-        grid.RemoveItem(removed);
+        const int gone = (threatNumber - 1) * static_cast<int>(rows.size());
+        for (const int row : rows) {
+            const int removed = blockRow(threatNumber, oldTotal, row) - gone;
+            if (row == 1) grid.TextMatrix(removed + 1, 0, grid.TextMatrix(removed, 0));
+            grid.RemoveItem(removed);
+        }
     }
 }
 

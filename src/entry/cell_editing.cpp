@@ -34,7 +34,7 @@ std::vector<CellEditing> frmBrenica::makeCellEditings() {
          .DropDowns = {{list::Urgency, list::Urgency, Grades}},
          .NumberCol = list::Probability,
          .Validates = true,
-         .Most = 1.0,
+         .NumberBounds = {.Most = 1.0},
          .BeforeEditSource = "Brenica.flxLandUses_BeforeEdit",
          .KeyPressEditSource = "Brenica.flxLandUses_KeyPressEdit",
          .ValidateEditSource = "Brenica.flxLandUses_ValidateEdit"},
@@ -93,10 +93,10 @@ void frmBrenica::filterCellKey(const CellEditing& editing, int col, int& key) tr
 
 void frmBrenica::validateCell(const CellEditing& editing, int col, bool& cancel) try {
     if (col != editing.NumberCol) return;
-    const std::string& text = editing.Grid->EditText();
-    const bool noNumber = !text.empty() && !ui::IsNumeric(text, separator());
-    const bool tooMuch = editing.Most && ui::Val(text) > *editing.Most;
-    if (!noNumber && !tooMuch) return;
+    if (modValidationUtilities::IsNothingOrWithin(editing.NumberBounds, editing.Grid->EditText(),
+                                                  separator())) {
+        return;
+    }
     platform().beep();
     cancel = true;
 } catch (...) {

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <optional>
 #include <vector>
 
+#include "entry/modValidationUtilities.h"
 #include "ui/grid.h"
 
 /// Columns whose cells offer a list of items, separated by "|".
@@ -20,9 +20,9 @@ struct CellEditing {
 
     ui::Grid* Grid;
     std::vector<DropDown> DropDowns;
-    int NumberCol = NoCol;         ///< column that takes a positive number, key by key
-    bool Validates = false;        ///< that number is tested again when the edit ends
-    std::optional<double> Most{};  ///< and must not be above this one
+    int NumberCol = NoCol;   ///< column that takes a positive number, key by key
+    bool Validates = false;  ///< that number is tested again when the edit ends
+    modValidationUtilities::Bounds NumberBounds{};
     const char* BeforeEditSource = "";
     const char* KeyPressEditSource = "";
     const char* ValidateEditSource = "";

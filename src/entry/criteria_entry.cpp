@@ -163,7 +163,7 @@ void frmBrenica::storeConservationStatus() {
 
 /// The level is held per species and per criterion, the one on view.
 void frmBrenica::cbxDataQuality_Change() try {
-    if (global_.TotalSpecies < 1 || cbxDataQuality.ListIndex() < 0) return;
+    if (noSpeciesOnView() || cbxDataQuality.ListIndex() < 0) return;
     if (CurrentCriteriaTab < 1 || CurrentCriteriaTab > TotalCriteria) return;
     flxSummary(summary::DataQuality)
         .TextMatrix(CurrentSpeciesIndex, CurrentCriteriaTab, ui::toText(cbxDataQuality.ListIndex() + 1));

@@ -124,7 +124,7 @@ void frmBrenica::arrangeListPages() {
     using modGeneralUtilities::ArrangeFrameContents;
     constexpr int BelowFrameCaption = 100;
     constexpr int HomeRangeTop = 1200;  // below the option buttons
-    const ui::Frame& page = fraTabContents(1);
+    const ui::Control& page = fraLandCharInfo(0).Container();
     Flow choices(Edge, Gap, page.Width() - Edge, ChoiceHeight);
     for (ui::OptionButton& button : optLandChar) choices.add({{button, widthOf(button), ChoiceHeight}});
     const int frameTop = choices.bottom() + Gap;
@@ -133,7 +133,7 @@ void frmBrenica::arrangeListPages() {
     const auto leftEdge = [](const ui::Control& frame) { return frame.Width() - ColumnWidth - Edge; };
     ArrangeFrameContents({flxCandidateSpecies, lblAddSpecies, txtTotalSpecies, lblNewSpecies,
                           cmdUpdateSpecies, cmdRemoveSpecies, txtRemoveSpeciesIndex, cmdSpeciesMove},
-                         leftEdge(fraTabContents(0)), 0);
+                         leftEdge(flxCandidateSpecies.Container()), 0);
     const int left = leftEdge(fraLandCharInfo(0));
     const int offset = BelowFrameCaption;
     ArrangeFrameContents({flxHabitatTypes, lblAddHabitatTypes, txtTotalHabitatTypes, lblNewHabitatTypes,

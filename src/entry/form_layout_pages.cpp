@@ -96,7 +96,7 @@ void frmBrenica::fitShownGrids() {
 }
 
 void frmBrenica::arrangeCriteriaPage() {
-    const ui::Frame& page = fraTabContents(2);
+    const ui::Control& page = tabCriteria.Container();
     Flow species(Edge, Gap, page.Width() - Edge, BoxHeight);
     species.add(
         {{lblSpeciesName, widthOf(lblSpeciesName), LabelHeight}, {cbxSpeciesName, NameBoxWidth, BoxHeight}});
@@ -145,7 +145,7 @@ void frmBrenica::placeCriteriaGrids() {
 }
 
 void frmBrenica::arrangeSummaryPage() {
-    const ui::Frame& page = fraTabContents(3);
+    const ui::Control& page = tabCriteriaSummary.Container();
     const int checkTop = page.Height() - Edge - ChoiceHeight;
     chkAllowSummaryEdit.Move(Edge, checkTop, widthOf(chkAllowSummaryEdit), ChoiceHeight);
     tabCriteriaSummary.Move(Edge, Edge, page.Width() - 2 * Edge, checkTop - Gap - Edge);
@@ -161,13 +161,13 @@ void frmBrenica::placeSummaryGrids() {
 }
 
 void frmBrenica::arrangeGraphPage() {
-    moveTo(tabGraphSummary, restBelow(fraTabContents(4), Edge));
+    moveTo(tabGraphSummary, restBelow(tabGraphSummary.Container(), Edge));
     for (ui::Chart& chart : chtSummary)
         moveTo(chart, restBelow(tabGraphSummary, tabGraphSummary.HeaderHeight() + Edge));
 }
 
 void frmBrenica::arrangeScorePage() {
-    Flow choices(Edge, Gap, fraTabContents(5).Width() - Edge, ChoiceHeight);
+    Flow choices(Edge, Gap, chkShowGraphs.Container().Width() - Edge, ChoiceHeight);
     for (ui::OptionButton& button : optScoreDisplay) choices.add({{button, widthOf(button), ChoiceHeight}});
     for (ui::CheckBox* box : {&chkShowGraphs, &chkShowAggregateScore})
         choices.add({{*box, widthOf(*box), ChoiceHeight}});
@@ -176,7 +176,7 @@ void frmBrenica::arrangeScorePage() {
 
 /// Only one of the tables and charts is on view at a time.
 void frmBrenica::placeScoreViews() {
-    const ui::Frame& page = fraTabContents(5);
+    const ui::Control& page = chkShowGraphs.Container();
     const int top = bottomOf(chkShowAggregateScore) + Gap;
     for (auto* grids : {&flxScores, &flxScoresSort}) {
         for (ui::Grid& grid : *grids) moveTo(grid, restForGrid(page, top));
@@ -185,7 +185,7 @@ void frmBrenica::placeScoreViews() {
 }
 
 void frmBrenica::arrangeResultsPage() {
-    const ui::Frame& page = fraTabContents(6);
+    const ui::Control& page = flxBrenicSuite.Container();
     const int right = page.Width() - Edge;
     Flow commands(Edge, Gap, right, ButtonHeight);
     for (ui::CommandButton* button : {&cmdComplement, &cmdExportResults})
@@ -209,7 +209,7 @@ void frmBrenica::arrangeResultsPage() {
 
 /// The suite at the left, the views of the results in the wider part at the right.
 void frmBrenica::placeResultGrids() {
-    const ui::Frame& page = fraTabContents(6);
+    const ui::Control& page = flxBrenicSuite.Container();
     const int left = lblCompResults.Left();
     const int suiteTop = bottomOf(lblBrenicSpecies) + Edge;
     const int viewTop = bottomOf(optCompResults(optCompResults.Count() - 1)) + Edge;

@@ -73,15 +73,19 @@ void frmBrenica::cmdRemoveBin_Click() try { RemoveBin(txtRemoveBinIndex.Long());
     ReportError(9999, "Brenica.cmdRemoveBin_Click", "");
 }
 
+void frmBrenica::RemoveBin(int row) {
+    if (row < 0 || row > global_.TotalBins) return txtRemoveBinIndex.Text("0");
+    RemoveBin(RowNumbers(&row, 1));
+}
+
 /// The item removed from the box is the one behind the breakpoint's label. That is of no consequence, since a fresh
-/// list is made when the page is left.
-void frmBrenica::RemoveBin(int row) try {
-    if (row < 0 || row > global_.TotalBins) {
-        txtRemoveBinIndex.Text("0");
-        return;
+/// list is made when the page is left. A breakpoint added since the box was filled has no item yet.
+void frmBrenica::RemoveBin(RowNumbers rows) try {
+    modFlexGridUtilities::RemoveGridEntry(flxBins, rows, global_.TotalBins);
+    for (const int row : rows) {
+        const int labels = cbxUserDefBinsHR.ListCount();
+        if (labels > 0 && row <= labels) cbxUserDefBinsHR.RemoveItem(row);
     }
-    modFlexGridUtilities::RemoveGridEntry(flxBins, row, global_.TotalBins);
-    if (cbxUserDefBinsHR.ListCount() > 0) cbxUserDefBinsHR.RemoveItem(row);
 } catch (...) {
     ReportError(9999, "Brenica.RemoveBin", "");
 }

@@ -167,10 +167,10 @@ int GetColContents(const ui::Grid& grid, int column, std::vector<std::string>& c
     ReportError(9999, "FlexGridUtilities.GetColContents", "");
 }
 
-void RemoveGridEntry(ui::Grid& grid, int row, int& count) try {
-    if (row > count || row < 1) return;
-    --count;
-    grid.RemoveItem(row);
+void RemoveGridEntry(ui::Grid& grid, std::span<const int> rows, int& count) try {
+    if (rows.front() > count || rows.back() < 1) return;
+    count -= static_cast<int>(rows.size());
+    removeRows(grid, rows);
     numberRows(grid, count);
 } catch (...) {
     ReportError(9999, "FlexGridUtilities.RemoveGridEntry", "");
@@ -224,6 +224,10 @@ void UpdateFlexGridCol(ui::Grid& grid, int column, std::span<const char* const> 
     for (int i = 1; i <= count; ++i) grid.TextMatrix(i, column, texts[static_cast<std::size_t>(i) - 1]);
 } catch (...) {
     ReportError(9999, "FlexGridUtilities.UpdateFlexGridCol", "");
+}
+
+void removeRows(ui::Grid& grid, std::span<const int> rows) {
+    for (const int row : rows) grid.RemoveItem(row);
 }
 
 void numberRows(ui::Grid& grid, int count) {

@@ -55,8 +55,9 @@ void GetFuncSEVals(int species, int count, const ui::Grid& source, ui::Grid& tar
 /// The body cells of a column; returns their number, and leaves the array alone when there are none.
 int GetColContents(const ui::Grid& grid, int column, std::vector<std::string>& contents);
 
-/// Removes a row between 1 and `count`, lowers the count and numbers column 0 anew.
-void RemoveGridEntry(ui::Grid& grid, int row, int& count);
+/// Removes rows between 1 and `count`, given the last first, lowers the count and numbers column 0 anew. Does nothing
+/// where one of them is not there.
+void RemoveGridEntry(ui::Grid& grid, std::span<const int> rows, int& count);
 
 /// Empties the home range of every species.
 void RemoveHRData(ui::Grid& grid);
@@ -73,6 +74,9 @@ void UpdateFlexGrid(ui::Grid& grid, int rowsToAdd, bool numberFirstColumn);
 
 /// Writes one text a body row, when there are just as many.
 void UpdateFlexGridCol(ui::Grid& grid, int column, std::span<const char* const> texts);
+
+/// Removes rows, given the last first.
+void removeRows(ui::Grid& grid, std::span<const int> rows);
 
 /// Writes 1 to `count` into column 0.
 void numberRows(ui::Grid& grid, int count);

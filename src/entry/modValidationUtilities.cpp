@@ -39,6 +39,13 @@ void CheckTotal(ui::Platform& platform, ui::TextBox& box, const std::string& nam
     platform.showMessage(message, "Invalid value", ui::MessageIcon::Exclamation);
 }
 
+bool IsNothingOrWithin(const Bounds& bounds, const std::string& text, ui::DecimalSeparator separator) {
+    if (text.empty()) return true;
+    const auto isWithin = [&](double value) { return value >= bounds.Least && value <= bounds.Most; };
+    const std::optional<double> value = ui::tryReal(text, separator);
+    return value && isWithin(*value) && isWithin(ui::Val(text));
+}
+
 int ValidateSimpleNumber(ui::Platform& platform, int key, bool allowControlKeys) try {
     return validate(platform, key, allowControlKeys, "1234567890");
 } catch (...) {

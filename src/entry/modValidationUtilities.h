@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <limits>
 #include <string>
 #include <string_view>
 
@@ -26,6 +27,16 @@ int ValidateKey(ui::Platform& platform, int key, std::string_view allowed, bool 
 
 /// The separators that a number may hold here, found by experiment.
 std::string ExtraNumericKeys(const ui::Platform& platform);
+
+/// Both ends included.
+struct Bounds {
+    double Least = -std::numeric_limits<double>::infinity();
+    double Most = std::numeric_limits<double>::infinity();
+};
+
+/// Whether a cell may take the text: nothing, or a number within the bounds. With a comma its leading digits and its
+/// value can be two numbers; then both must lie within.
+bool IsNothingOrWithin(const Bounds& bounds, const std::string& text, ui::DecimalSeparator separator);
 
 /// Enter and Escape.
 bool IsControlKey(int key);

@@ -4,15 +4,11 @@
 
 #include "entry/modErrorHandling.h"
 #include "entry/modFlexGridUtilities.h"
+#include "project/constant_tables.h"
 #include "project/frmBrenica.h"
 
+using modFlexGridUtilities::removeRows;
 using modFlexGridUtilities::UpdateFlexGrid;
-
-namespace {
-
-constexpr const char* DefaultLevelOfUse = "2";
-
-}  // namespace
 
 std::vector<ParameterList> frmBrenica::makeParameterLists() {
     return {
@@ -123,10 +119,14 @@ void frmBrenica::UpdateOtherLandUseFlexGrids(int added) {
 void frmBrenica::UpdateOtherFunctionFlexGrids(int added) {
     updateOtherGrids(parameterList(ListKind::Functions), added);
 }
-void frmBrenica::RemoveHabitatType(int row) { removeFromList(parameterList(ListKind::HabitatTypes), row); }
-void frmBrenica::RemoveJurisUnit(int row) { removeFromList(parameterList(ListKind::JurisUnits), row); }
-void frmBrenica::RemoveLandUse(int row) { removeFromList(parameterList(ListKind::LandUses), row); }
-void frmBrenica::RemoveFunction(int row) { removeFromList(parameterList(ListKind::Functions), row); }
+void frmBrenica::RemoveHabitatType(RowNumbers rows) {
+    removeFromList(parameterList(ListKind::HabitatTypes), rows);
+}
+void frmBrenica::RemoveJurisUnit(RowNumbers rows) {
+    removeFromList(parameterList(ListKind::JurisUnits), rows);
+}
+void frmBrenica::RemoveLandUse(RowNumbers rows) { removeFromList(parameterList(ListKind::LandUses), rows); }
+void frmBrenica::RemoveFunction(RowNumbers rows) { removeFromList(parameterList(ListKind::Functions), rows); }
 
 /// The levels of use start at the last old row, not behind it, so that each addition resets that row's level too.
 void frmBrenica::updateList(const ParameterList& list) try {
@@ -191,48 +191,53 @@ void frmBrenica::growThreatTable(int added, int oldRows) {
 }
 
 void frmBrenica::removeListRow(const ParameterList& list) try {
-    removeFromList(list, list.RemoveIndex->Long());
+    const int row = list.RemoveIndex->Long();
+    if (row < 1 || row > global_.*list.Total) return list.RemoveIndex->Text("0");
+    removeFromList(list, RowNumbers(&row, 1));
 } catch (...) {
     ReportError(9999, list.RemoveClickSource, "");
 }
 
-void frmBrenica::removeFromList(const ParameterList& list, int row) try {
-    if (row < 1 || row > global_.*list.Total) {
-        list.RemoveIndex->Text("0");
-        return;
-    }
-    modFlexGridUtilities::RemoveGridEntry(*list.Grid, row, global_.*list.Total);
-    list.Entry->RemoveItem(row);
-    shrinkWideTable(list, row);
-    if (list.LongMember != ParameterList::NoMember) removeFromLongTables(list, row);
+void frmBrenica::removeFromList(const ParameterList& list, RowNumbers rows) try {
+    modFlexGridUtilities::RemoveGridEntry(*list.Grid, rows, global_.*list.Total);
+    removeRows(*list.Entry, rows);
+    shrinkWideTable(list, rows);
+    if (list.LongMember != ParameterList::NoMember) removeFromLongTables(list, rows);
 } catch (...) {
     ReportError(9999, list.RemoveSource, "");
 }
 
-/// Only the headings move up: the species' cells keep their columns and the last column goes.
-void frmBrenica::shrinkWideTable(const ParameterList& list, int row) {
+/// Only the headings move up: the species' cells keep their columns and the last columns go. The next calculation of
+/// use puts the levels of use right.
+void frmBrenica::shrinkWideTable(const ParameterList& list, RowNumbers rows) {
     ui::Grid& grid = flxSummary(list.WideMember);
     const int total = global_.*list.Total;
-    for (int i = row; i <= total; ++i) {
-        const int col = i + list.WideOffset;
-        grid.TextMatrix(0, col, grid.TextMatrix(0, col + 1));
+    auto removed = rows.rbegin();
+    int kept = rows.back();
+    for (int i = kept; i <= total + static_cast<int>(rows.size()); ++i) {
+        if (removed != rows.rend() && *removed == i) {
+            ++removed;
+        } else {
+            grid.TextMatrix(0, list.WideOffset + kept++, grid.TextMatrix(0, list.WideOffset + i));
+        }
     }
     grid.Cols(total + list.WideOffset + 1);
+    if (list.HasLevelOfUse && rows.back() <= total) levelsShifted(list) = true;
     if (!list.WideNumbered) return;
     for (int i = 1; i <= total; ++i) grid.TextMatrix(0, i + list.WideOffset, ui::toText(i));
     if (total == 0) grid.Rows(global_.TotalSpecies + 1);
 }
 
-void frmBrenica::removeFromLongTables(const ParameterList& list, int row) {
+void frmBrenica::removeFromLongTables(const ParameterList& list, RowNumbers rows) {
     const bool threats = list.Kind == ListKind::LandUses;
     if (global_.TotalSpecies == 0) {
-        flxSummary(list.LongMember).RemoveItem(row);
-        if (threats) flxSummary(summary::SpeciesByThreat).RemoveItem(row);
+        removeRows(flxSummary(list.LongMember), rows);
+        if (threats) removeRows(flxSummary(summary::SpeciesByThreat), rows);
     } else if (global_.*list.Total == 0) {
         clearLongTables(list);
     } else {
-        removeFromBlocks(list, row);
-        if (threats) removeThreatBlock(row);
+        removeFromBlocks(list, rows);
+        if (threats) removeThreatBlocks(rows);
     }
 }
 
@@ -246,23 +251,28 @@ void frmBrenica::clearLongTables(const ParameterList& list) {
     }
 }
 
-/// One row of each species' block goes; the block's first row keeps the species' name.
-void frmBrenica::removeFromBlocks(const ParameterList& list, int row) {
+/// Rows of each species' block go; the block's first row keeps the species' name.
+void frmBrenica::removeFromBlocks(const ParameterList& list, RowNumbers rows) {
     ui::Grid& grid = flxSummary(list.LongMember);
-    const int oldTotal = global_.*list.Total + 1;
+    const int gonePerSpecies = static_cast<int>(rows.size());
+    const int oldTotal = global_.*list.Total + gonePerSpecies;
     for (int species = 1; species <= global_.TotalSpecies; ++species) {
-        const int gone = species - 1;
-        const int removed = blockRow(species, oldTotal, row) - gone;
-        if (row == 1 && removed + 1 <= grid.Rows() - 1)
-            grid.TextMatrix(removed + 1, 0, grid.TextMatrix(removed, 0));
-        grid.RemoveItem(removed);
+        const int gone = (species - 1) * gonePerSpecies;
+        for (const int row : rows) {
+            const int removed = blockRow(species, oldTotal, row) - gone;
+            if (row == 1 && removed + 1 <= grid.Rows() - 1)
+                grid.TextMatrix(removed + 1, 0, grid.TextMatrix(removed, 0));
+            grid.RemoveItem(removed);
+        }
     }
 }
 
-void frmBrenica::removeThreatBlock(int row) {
+void frmBrenica::removeThreatBlocks(RowNumbers rows) {
     ui::Grid& grid = flxSummary(summary::SpeciesByThreat);
-    const int first = blockRow(row, global_.TotalSpecies, 1);
-    for (int species = 1; species <= global_.TotalSpecies; ++species) grid.RemoveItem(first);
+    for (const int row : rows) {
+        const int first = blockRow(row, global_.TotalSpecies, 1);
+        for (int species = 1; species <= global_.TotalSpecies; ++species) grid.RemoveItem(first);
+    }
 }
 
 /// Swaps the texts of the current row with its neighbour's, above for index 0 and below for 1. Only the texts of the

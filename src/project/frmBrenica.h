@@ -30,6 +30,9 @@ public:
     /// Builds the form of a new project, as Form_Load leaves it.
     frmBrenica(ui::Platform& platform, ui::Files& files, modGlobal& global);
 
+    /// Rows of a list that go together, the last first. The last row that a list has goes by itself.
+    using RowNumbers = std::span<const int>;
+
     // Form fields.
     int CurrentMainTab = 0;  ///< page shown, from 1; lags the tab strip inside its click
     int CurrentCriteriaTab = 0;
@@ -85,6 +88,7 @@ public:
     void UpdateOtherSpeciesFlexGrids(int added, int oldTotal);
     void cmdRemoveSpecies_Click();
     void RemoveSpecies(int row);
+    void RemoveSpecies(RowNumbers rows);
     void cmdSpeciesMove_Click(int index);
     void flxCandidateSpecies_CellChanged(int row, int col);
     void UpdateSpeciesList();
@@ -95,10 +99,10 @@ public:
     void UpdateOtherJurisUnitFlexGrids(int added);
     void UpdateOtherLandUseFlexGrids(int added);
     void UpdateOtherFunctionFlexGrids(int added);
-    void RemoveHabitatType(int row);
-    void RemoveJurisUnit(int row);
-    void RemoveLandUse(int row);
-    void RemoveFunction(int row);
+    void RemoveHabitatType(RowNumbers rows);
+    void RemoveJurisUnit(RowNumbers rows);
+    void RemoveLandUse(RowNumbers rows);
+    void RemoveFunction(RowNumbers rows);
 
     // entry/parameter_list_cells.cpp: cells of the four lists
     void flxHabitatTypes_CellChanged(int row, int col);
@@ -114,6 +118,7 @@ public:
     void cmdUpdateBins_Click();
     void cmdRemoveBin_Click();
     void RemoveBin(int row);
+    void RemoveBin(RowNumbers rows);
     void storeBinHomeRange(const ui::ComboBox& box, const char* source);
     void storeContinuousHomeRange();
     void flxBins_CellChanged();
@@ -268,6 +273,7 @@ private:
     void convertVersion1Project();
 
     // project/page_navigation.cpp
+    bool noSpeciesOnView() const { return global_.TotalSpecies < 1 || CurrentSpeciesIndex == 0; }
     void showHomeRangeControls(int type);
     void showDataQuality();
     void storeShownConservationStatus();
@@ -306,12 +312,12 @@ private:
     void growLongTable(const ParameterList& list, int added, int oldRows);
     void growThreatTable(int added, int oldRows);
     void removeListRow(const ParameterList& list);
-    void removeFromList(const ParameterList& list, int row);
-    void shrinkWideTable(const ParameterList& list, int row);
-    void removeFromLongTables(const ParameterList& list, int row);
+    void removeFromList(const ParameterList& list, RowNumbers rows);
+    void shrinkWideTable(const ParameterList& list, RowNumbers rows);
+    void removeFromLongTables(const ParameterList& list, RowNumbers rows);
     void clearLongTables(const ParameterList& list);
-    void removeFromBlocks(const ParameterList& list, int row);
-    void removeThreatBlock(int row);
+    void removeFromBlocks(const ParameterList& list, RowNumbers rows);
+    void removeThreatBlocks(RowNumbers rows);
     void moveListRow(ui::Grid& grid, int index, int lastCol, const char* source);
 
     // entry/parameter_list_cells.cpp
@@ -320,11 +326,14 @@ private:
     // entry/candidate_species.cpp
     void growSpeciesRows(int member, int oldTotal);
     void growSpeciesBlocks(int member, int units, int added, int oldTotal, int lastCopiedCol);
+    void clearZoneNumbers();
     void growThreatBlocks(int added, int oldTotal);
     void writeSpeciesName(int member, int row, const std::string& name, const std::string& shortName);
-    void removeSpeciesBlock(int member, int units, int row, std::span<const int> clearedColumns);
-    void removeSpeciesRows(int row);
-    void removeSpeciesFromThreats(int row, int oldTotal);
+    void removeFromSelector(RowNumbers rows);
+    void removeFromRanks(RowNumbers rows);
+    void removeSpeciesBlocks(int member, int units, RowNumbers rows, std::span<const int> clearedColumns);
+    void removeSpeciesRows(RowNumbers rows);
+    void removeSpeciesFromThreats(RowNumbers rows, int oldTotal);
 
     // entry/home_range.cpp
     void enableBinControls(bool enabled);
@@ -349,11 +358,21 @@ private:
     static void headingTips_MouseMove(HeadingTips& tips);
 
     // scoring/validation_gates.cpp
-    bool removeBlankRows(ui::Grid& grid, int column, const char* prompt, void (frmBrenica::*remove)(int));
+    bool removeBlankRows(ui::Grid& grid, int column, const char* prompt,
+                         void (frmBrenica::*remove)(RowNumbers));
     bool validateHumanActivities();
     bool allUnitsInUse(int member, const ui::Grid& units, int count, const char* kind);
     bool allFilled(int member, int firstCol, int lastCol, const char* message);
     void showInvalidValue(const std::string& message);
+
+    // scoring/unit_use.cpp
+    bool& levelsShifted(const ParameterList& list) {
+        return levelsShifted_[static_cast<std::size_t>(list.Kind)];
+    }
+    void realignLevels(const ParameterList& list);
+
+    // scoring/vulnerability.cpp
+    void restoreThreatFactors();
 
     // scoring/scores.cpp
     void emptyScoreTables();
@@ -375,7 +394,11 @@ private:
     std::string summaryTip(int index, int row, int col) const;
 
     // scoring/grid_import.cpp
+    void appendRecords(int importCase, bool firstLineIsHeading);
     void appendRecord(int importCase, const std::vector<std::string>& fields);
+
+    // selection/complementarity.cpp
+    bool scoresServe() const;
 
     // selection/results_export.cpp
     void printResult(std::string_view line);
@@ -396,6 +419,12 @@ private:
     std::vector<CellEditing> cellEditings_;
     std::vector<HeadingTips> headingTips_;
     std::vector<ExportTable> exportTables_;
+
+    // What the next calculation has to bring up to date.
+    /// By ListKind: a habitat or zone was removed and the levels of those behind it still stand in their old columns.
+    std::array<bool, 2> levelsShifted_{};
+    /// The last species took urgency and probability along from the rows that those of later species are copied from.
+    bool threatFactorsLost_ = false;
 
     // What the mouse handlers remember from event to event.
     struct SortMemory {

@@ -5,6 +5,7 @@
 #include "entry/modGeneralUtilities.h"
 #include "project/constant_tables.h"
 #include "project/frmBrenica.h"
+#include "project/project_file.h"
 #include "ui/text.h"
 #include "ui/wait_pointer.h"
 
@@ -12,7 +13,7 @@
 void frmBrenica::MenuSelectionProject(std::string_view command) try {
     cdgFileDialog.FileName = global_.ProjectFileName;
     cdgFileDialog.Filter = "Project Files (*.brn)|*.brn";
-    cdgFileDialog.DefaultExt = ".brn";
+    cdgFileDialog.DefaultExt = projectfile::Extension;
     if (ui::equalsIgnoringCase(command, "New")) {
         newProjectCommand();
     } else if (ui::equalsIgnoringCase(command, "Open")) {
@@ -83,8 +84,11 @@ void frmBrenica::showProjectPath(const std::string& path) {
     Caption("Brenica - " + path);
 }
 
+/// With no species on view first, so that no control that is reset writes to a table. Whatever keeps the page from being
+/// left, a gate that refuses or a failure, the steps go on.
 void frmBrenica::InitializeProject() try {
-    tabBrenica.SelectedItem(1);
+    CurrentSpeciesIndex = 0;
+    succeeds([&] { tabBrenica.SelectedItem(1); });
     fraTabContents(CurrentMainTab - 1).Visible(false);
     fraTabContents(0).Visible(true);
     CurrentMainTab = 1;
@@ -122,11 +126,16 @@ void frmBrenica::clearCriteria() {
     flxJurisUnitHetero.Rows(1);
     optHomeRangeType(0).Value(true);
     HomeRangeType = 0;
+    if (!optHomeRangeType(0).Value()) {  // the answer No has put the former type back on
+        optHomeRangeType(0).Value(true);
+        flxBins.Enabled(false);
+    }
     enableBinControls(false);
     showHomeRangeControls(0);
     cbxDispersalYN.ListIndex(0);
     cbxConnectivity.ListIndex(0);
     cbxDefaultBinsHR.ListIndex(-1);
+    cbxUserDefBinsHR.Clear();
     flxLandUsesVulnerability.Rows(1);
     flxFunctionality.Rows(1);
     fraCriteria(0).Visible(true);
@@ -142,6 +151,8 @@ void frmBrenica::clearCounts() {
     global_.TotalBins = 0;
     global_.TotalFunctions = static_cast<int>(FunctionNames.size());
     global_.ScoresCalculated = false;
+    levelsShifted_ = {};
+    threatFactorsLost_ = false;
     RefreshingCriteria = false;
 }
 
@@ -152,7 +163,6 @@ void frmBrenica::clearFunctions() {
     modFlexGridUtilities::UpdateFlexGridCol(flxFunctions, list::Name, FunctionNames);
     for (int row = 1; row <= TotalSocioEcon; ++row) flxSocioEcon.TextMatrix(row, 1, "0");
     clearChangeFlags();
-    CurrentSpeciesIndex = 0;
     txtPropOccupied.Text("0");
 }
 
@@ -198,6 +208,7 @@ void frmBrenica::clearGraphs() {
 }
 
 void frmBrenica::clearScores() {
+    optScoreDisplay(0).Value(true);
     for (auto* grids : {&flxScores, &flxScoresSort}) {
         for (ui::Grid& grid : *grids) {
             grid.Rows(1);

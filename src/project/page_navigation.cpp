@@ -41,7 +41,7 @@ void frmBrenica::tabCriteria_Click() try {
     lblCCS.Visible(CurrentCriteriaTab == VulnerabilityCriterion);
     txtCCS.Visible(CurrentCriteriaTab == VulnerabilityCriterion);
     if (CurrentCriteriaTab == AreaCriterion) showHomeRangeControls(HomeRangeType);
-    if (global_.TotalSpecies < 1) {
+    if (noSpeciesOnView()) {
         cbxDataQuality.ListIndex(-1);
     } else {
         showDataQuality();
@@ -53,7 +53,7 @@ void frmBrenica::tabCriteria_Click() try {
 
 /// On leaving the vulnerability criterion, or the page while it is on view.
 void frmBrenica::storeShownConservationStatus() {
-    if (CurrentCriteriaTab != VulnerabilityCriterion || global_.TotalSpecies < 1) return;
+    if (CurrentCriteriaTab != VulnerabilityCriterion || noSpeciesOnView()) return;
     flxSummary(summary::Vulnerability)
         .TextMatrix(CurrentSpeciesIndex, vulnerability::ConservationStatus, txtCCS.Text());
 }

@@ -145,7 +145,8 @@ void frmBrenica::UserOpenFile(const std::string& path) {
 /// Names come first, since the species' selector takes them over and then shows the first species.
 void frmBrenica::RestoreCopy(const ProjectCopy& copy, const std::string& path) {
     ProjectLoading = true;
-    for (int row = global_.TotalFunctions; copy.WithoutFunctions && row >= 1; --row) RemoveFunction(row);
+    for (int row = global_.TotalFunctions; copy.WithoutFunctions && row >= 1; --row)
+        RemoveFunction(RowNumbers(&row, 1));
     for (const UncarriedCell& cell : copy.Uncarried) {
         if (isListCell(cell)) restoreCell(cell);
     }

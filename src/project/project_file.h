@@ -37,6 +37,7 @@ inline constexpr const char* Function = "Function";
 inline constexpr const char* SocioEcon = "Socio-Econ";
 inline constexpr const char* DataQuality = "Data Quality";
 
+inline constexpr const char* Extension = ".brn";
 inline constexpr const char* CurrentVersion = "VERSION2";
 /// The texts of the home range types, in the order of their buttons.
 inline constexpr std::array HomeRangeTypes = {"continuous", "default bins", "user-defined bins"};

@@ -5,13 +5,13 @@
 #include "entry/modErrorHandling.h"
 #include "entry/modFlexGridUtilities.h"
 #include "entry/modGeneralUtilities.h"
+#include "project/constant_tables.h"
 #include "project/project_file.h"
 #include "ui/text.h"
 
 namespace {
 
 constexpr int OpenFileNumber = 1;
-constexpr const char* DefaultLevelOfUse = "2";
 
 /// Drops the values that the grid has no row for.
 template <class Values>
@@ -236,13 +236,15 @@ void ProjectFileReader::readSummaryColumn(const Row& row, Values values) {
     fillColumn(grid, row.Column, values);
 }
 
+/// Older programs write ratings even where there is no activity to rate.
 void ProjectFileReader::readThreatRatings(const Row& row, Values values) {
+    const int threats = global_.TotalLandUses;
+    if (threats == 0) return;
     ui::Grid& bySpecies = form_.flxSummary(row.Member);
     ui::Grid& byThreat = form_.flxSummary(row.SecondMember);
     clip(values, bySpecies);
     fillColumn(bySpecies, row.Column, values);
     clip(values, byThreat);
-    const int threats = global_.TotalLandUses;
     for (int i = 1; i <= static_cast<int>(values.size()); ++i) {
         const int remainder = ui::remainderLong(i, threats);
         const int threatNumber = remainder == 0 ? threats : remainder;

@@ -30,6 +30,11 @@ void frmBrenica::leavePage(int left) {
             sortBack(flxScoresSort(0), score::SortKey);
             sortBack(flxScoresSort(1), score::OriginalSortKey);
             break;
+        case page::Results:
+            // New scores may have been brought here, in order of rank. A species added since stands last, without key.
+            if (!flxScoresSort(0).TextMatrix(flxScoresSort(0).Rows() - 1, score::SortKey).empty())
+                sortBack(flxScoresSort(0), score::SortKey);
+            break;
         default: break;
     }
 }

@@ -1,7 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Brenica developers
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "project/constant_tables.h"
 #include "project/frmBrenica.h"
 #include "ui/arrays.h"
+#include "ui/text.h"
 
 /// Files of version 1 lack the proportion of the landscape and the conservation status: both get a first value.
 
@@ -25,9 +27,19 @@ double proportionUsed(const ui::Grid& table, int species, int units, const std::
     return 0;
 }
 
+/// The reader gives a level of use to the units that have an area; a file may have fewer areas than units.
+void fillLevelsOfUse(ui::Grid& units) {
+    for (int row = 1; row <= units.Rows() - 1; ++row) {
+        if (ui::isBlank(units.TextMatrix(row, list::LevelOfUse)))
+            units.TextMatrix(row, list::LevelOfUse, DefaultLevelOfUse);
+    }
+}
+
 }  // namespace
 
 void frmBrenica::convertVersion1Project() {
+    fillLevelsOfUse(flxHabitatTypes);
+    fillLevelsOfUse(flxJurisUnits);
     CalculateHabitatUse();
     CalculateJurisUnitUse();
     updateAreaTotals();

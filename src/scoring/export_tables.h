@@ -14,6 +14,6 @@ struct ExportTable {
     int View;
     ui::Grid* Grid;
     const char* FileName;  ///< proposed, without extension
-    LongHeadings Headings;
-    int ImportCase;  ///< 1 to 6 for a list that can be imported, 0 for others
+    LongHeadings Headings = LongHeadings::None;
+    int ImportCase = 0;  ///< 1 to 6 for a list that can be imported
 };

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "entry/modErrorHandling.h"
+#include "project/constant_tables.h"
 #include "project/frmBrenica.h"
 #include "ui/text.h"
 
@@ -54,9 +55,16 @@ std::vector<std::string> fieldsToStore(int importCase, const std::vector<std::st
 
 }  // namespace
 
-/// Appends a row for each line of a grid text file; an empty line ends the import.
 void frmBrenica::ImportData(int importCase, const std::string& path, bool firstLineIsHeading) try {
     files_.Open(path, ui::FileMode::Input, ImportFileNumber);
+    appendRecords(importCase, firstLineIsHeading);
+    arrangeListPages();
+} catch (...) {
+    ReportError(9999, "Brenica.ImportData", "");
+}
+
+/// Appends a row for each line of a grid text file; an empty line ends the import.
+void frmBrenica::appendRecords(int importCase, bool firstLineIsHeading) {
     std::vector<std::string> fields;
     if (!files_.EndOfFile(ImportFileNumber) && firstLineIsHeading && GetCheckData(fields) == 0) return;
     while (!files_.EndOfFile(ImportFileNumber)) {
@@ -64,8 +72,6 @@ void frmBrenica::ImportData(int importCase, const std::string& path, bool firstL
         appendRecord(importCase, fields);
     }
     files_.Close(ImportFileNumber);
-} catch (...) {
-    ReportError(9999, "Brenica.ImportData", "");
 }
 
 /// Reads a record; 0 at an empty line, and then the file is closed.
@@ -107,4 +113,7 @@ void frmBrenica::appendRecord(int importCase, const std::vector<std::string>& fi
     grid.TextMatrix(row, list::Number, ui::toText(row));
     const std::vector<std::string> stored = fieldsToStore(importCase, fields, separator());
     for (std::size_t i = 0; i < stored.size(); ++i) grid.TextMatrix(row, static_cast<int>(i) + 1, stored[i]);
+    const bool unit = importCase == 2 || importCase == 3;
+    if (unit && !stored.empty() && grid.TextMatrix(row, list::LevelOfUse).empty())
+        grid.TextMatrix(row, list::LevelOfUse, DefaultLevelOfUse);
 }

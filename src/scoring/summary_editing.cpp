@@ -3,6 +3,7 @@
 #include <array>
 
 #include "entry/modErrorHandling.h"
+#include "entry/modValidationUtilities.h"
 #include "project/constant_tables.h"
 #include "project/frmBrenica.h"
 #include "ui/text.h"
@@ -97,10 +98,10 @@ void frmBrenica::flxSummary_ValidateEdit(int index, int row, int col, bool& canc
     const bool status = index == summary::Vulnerability && col == vulnerability::ConservationStatus &&
                         row <= global_.TotalSpecies;
     if (!occupied && !status) return;
-    const std::string& text = flxSummary(index).EditText();
-    const bool noNumber = !text.empty() && !ui::IsNumeric(text, separator());
-    const double value = ui::Val(text);
-    if (!noNumber && value <= 1 && value >= 0) return;
+    if (modValidationUtilities::IsNothingOrWithin({.Least = 0, .Most = 1}, flxSummary(index).EditText(),
+                                                  separator())) {
+        return;
+    }
     platform().beep();
     cancel = true;
 } catch (...) {
@@ -140,6 +141,7 @@ std::string frmBrenica::summaryTip(int index, int row, int col) const {
          "Number of species affected by the threat", "Number of threats affecting a species",
          "Total threat score summed by species", &frmBrenica::flxLandUses, vulnerability::ThreatOffset},
     };
+    if (row >= 1 && row <= global_.TotalSpecies) return "";
     const ui::Grid& grid = flxSummary(index);
     for (const CrossTableTips& table : Tables) {
         if (table.Member != index || row < 0) continue;

@@ -51,11 +51,12 @@ void frmBrenica::flxSummary_CellChanged(int index, int row, int col) {
     }
 }
 
-/// A level edited in a cross table corrects the totals and reaches the long table. Headings are no data.
+/// A level edited in a cross table corrects the totals and reaches the long table. Headings are no data, and no edit is
+/// possible before a calculation has put shifted levels right.
 void frmBrenica::levelOfUse_Changed(const ParameterList& list, int row, int col) {
     const int units = global_.*list.Total;
     const bool data = row >= 1 && row <= global_.TotalSpecies && col >= 1 && col <= units;
-    if (!data) return;
+    if (!data || levelsShifted(list)) return;
     ui::Grid& grid = flxSummary(list.WideMember);
     const std::string level = grid.TextMatrix(row, col);
     redoColumnTotals(grid, col, global_.TotalSpecies);
@@ -63,9 +64,9 @@ void frmBrenica::levelOfUse_Changed(const ParameterList& list, int row, int col)
     succeeds([&] { flxSummary(list.LongMember).TextMatrix(blockRow(row, units, col), use::Level, level); });
 }
 
-/// The two tables of ratings hold the same values in the other order.
+/// The two tables of ratings hold the same values in the other order. Without activities neither holds any.
 void frmBrenica::threatRating_Changed(int row, int col) {
-    if (row < 1 || CurrentSpeciesIndex == 0 || col < 2 || col > 4) return;
+    if (row < 1 || CurrentSpeciesIndex == 0 || col < 2 || col > 4 || global_.TotalLandUses < 1) return;
     succeeds([&] {
         const int remainder = ui::remainderLong(row, global_.TotalSpecies);
         const int threatNumber = ui::divideLong(row - 1, global_.TotalSpecies) + 1;

@@ -103,7 +103,23 @@ std::string occupancySentence(const OccupancySource& source, int species, const 
 
 }  // namespace
 
+/// The levels of each unit come from the table that holds them by unit. This is no edit: nothing is written through, and
+/// the totals are still to be calculated.
+void frmBrenica::realignLevels(const ParameterList& list) {
+    const int units = global_.*list.Total;
+    if (!levelsShifted(list) || units < 1) return;
+    ui::Grid& table = flxSummary(list.WideMember);
+    const ui::Grid& levels = flxSummary(list.LongMember);
+    for (int species = 1; species <= global_.TotalSpecies; ++species) {
+        for (int unit = 1; unit <= units; ++unit) {
+            table.TextMatrix(species, unit, levels.TextMatrix(blockRow(species, units, unit), use::Level));
+        }
+    }
+    levelsShifted(list) = false;
+}
+
 void frmBrenica::CalculateHabitatUse() try {
+    realignLevels(parameterList(ListKind::HabitatTypes));
     calculateUse(flxSummary(summary::HabitatUse), global_.TotalSpecies, global_.TotalHabitatTypes,
                  {"No. habitats", "Total by habitat"});
 } catch (...) {
@@ -111,6 +127,7 @@ void frmBrenica::CalculateHabitatUse() try {
 }
 
 void frmBrenica::CalculateJurisUnitUse() try {
+    realignLevels(parameterList(ListKind::JurisUnits));
     calculateUse(flxSummary(summary::JurisUnitUse), global_.TotalSpecies, global_.TotalJurisUnits,
                  {"No. Manag. zones", "Total by MZ"});
 } catch (...) {

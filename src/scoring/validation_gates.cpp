@@ -118,16 +118,21 @@ bool frmBrenica::validateHumanActivities() {
     return complete;
 }
 
-/// Offers to delete the rows with a blank in the column, the last first; false when the user keeps them.
+/// Offers to delete the rows with a blank in the column; false when the user keeps them. They go together, since each
+/// removal passes over whole tables, but for the first one, which may be all that the list has left.
 bool frmBrenica::removeBlankRows(ui::Grid& grid, int column, const char* prompt,
-                                 void (frmBrenica::*remove)(int)) {
+                                 void (frmBrenica::*remove)(RowNumbers)) {
     using modFlexGridUtilities::MissingValues;
     const MissingValues missing = modFlexGridUtilities::CheckMissingVals(grid, column, prompt);
     if (missing == MissingValues::UserSaidNo) return false;
     if (missing == MissingValues::None) return true;
+    std::vector<int> blank;
     for (int row = grid.Rows() - 1; row >= 1; --row) {
-        if (ui::isBlank(grid.TextMatrix(row, column))) (this->*remove)(row);
+        if (ui::isBlank(grid.TextMatrix(row, column))) blank.push_back(row);
     }
+    const RowNumbers rows(blank);
+    if (rows.size() > 1) (this->*remove)(rows.first(rows.size() - 1));
+    (this->*remove)(rows.last(1));
     return true;
 }
 

@@ -3,6 +3,7 @@
 #include "entry/modErrorHandling.h"
 #include "project/frmBrenica.h"
 #include "selection/selection.h"
+#include "ui/text.h"
 #include "ui/wait_pointer.h"
 
 namespace {
@@ -15,10 +16,30 @@ std::vector<int> thresholds(const ui::Grid& units, int count) {
 
 }  // namespace
 
+/// Whether the scores are those of the species, habitats, zones and activities that there are now. What was added since
+/// they were calculated has blank cells, which no selection can read.
+bool frmBrenica::scoresServe() const {
+    const int species = global_.TotalSpecies;
+    const auto filled = [&](const ui::Grid& grid, int rowsPerSpecies, int col) {
+        for (int row = 1; row <= species * rowsPerSpecies; ++row) {
+            if (ui::isBlank(grid.TextMatrix(row, col))) return false;
+        }
+        return true;
+    };
+    const auto rated = [&](int col) {
+        return filled(flxSummary(summary::ThreatsBySpecies), global_.TotalLandUses, col);
+    };
+    return species > 0 && filled(flxScores(0), 1, score::Aggregate) &&
+           filled(flxSummary(summary::HabitatsBySpecies), global_.TotalHabitatTypes, use::Level) &&
+           filled(flxSummary(summary::JurisUnitsBySpecies), global_.TotalJurisUnits, use::Level) &&
+           rated(threat::Severity) && rated(threat::Recovery) && rated(threat::Proportion);
+}
+
 /// Runs one whole selection, from the levels in the boxes to the report.
 void frmBrenica::cmdComplement_Click() try {
     const ui::WaitPointer wait(platform());
     if (!global_.ScoresCalculated) return;
+    if (!scoresServe()) return SelectionRefused();
     global_.ErrorMargin = txtErrorMargin.Real();
     global_.ThreatRepresentation = txtThreatRep.Real();
     global_.ConservationStatusRepresentation = txtCCSRep.Real();
@@ -55,10 +76,10 @@ void frmBrenica::cmdComplement_Click() try {
 }
 
 void frmBrenica::InitComplementarity() try {
-    flxBrenicSuite.Rows(global_.ScoresCalculated ? 2 : 1);
+    flxBrenicSuite.Rows(1);  // so that its first row begins without the colours of an earlier suite
     if (global_.ScoresCalculated) {
+        flxBrenicSuite.Rows(2);
         flxBrenicSuite.TextMatrix(1, 0, "1");
-        for (int col = 1; col < flxBrenicSuite.Cols(); ++col) flxBrenicSuite.TextMatrix(1, col, "");
     }
     optCompResults(0).Value(true);
     for (int i = 0; i < optCompResults.Count(); ++i) {

@@ -9,8 +9,9 @@
 namespace ui {
 
 ComboBox::ComboBox(Control& container, std::string name, std::vector<std::string> items, Design design)
-    : Control(container, ControlKind::ComboBox, std::move(name), std::move(design)),
-      items_(std::move(items)) {}
+    : Control(container, ControlKind::ComboBox, std::move(name), std::move(design)) {
+    for (std::string& item : items) AddItem(std::move(item));
+}
 
 const std::string& ComboBox::List(int index) const {
     if (index < 0 || index >= ListCount()) raise(ErrorNumber::InvalidPropertyValue);
@@ -28,7 +29,7 @@ std::string ComboBox::Text() const { return listIndex_ < 0 ? std::string() : Lis
 
 void ComboBox::RemoveItem(int index) {
     if (index < 0 || index >= ListCount()) raise(ErrorNumber::InvalidProcedureCall);
-    items_.erase(items_.begin() + index);
+    items_.erase(static_cast<std::size_t>(index));
     reportChange();
     if (index == listIndex_) {
         change(listIndex_, -1);
@@ -38,7 +39,7 @@ void ComboBox::RemoveItem(int index) {
 }
 
 void ComboBox::Clear() {
-    items_.clear();
+    items_.resize(0);
     reportChange();
     change(listIndex_, -1);
 }

@@ -7,6 +7,7 @@
 
 #include "ui/control.h"
 #include "ui/event.h"
+#include "ui/gap_buffer.h"
 
 namespace ui {
 
@@ -27,7 +28,7 @@ public:
     std::string Text() const;
 
     void AddItem(std::string text) {
-        items_.push_back(std::move(text));
+        items_.insert(items_.size(), std::move(text));
         reportChange();
     }
     /// Raises InvalidProcedureCall where there is no such item. Removing the chosen item leaves none chosen.
@@ -37,7 +38,7 @@ public:
     void UserChoose(int index);
 
 private:
-    std::vector<std::string> items_;
+    GapBuffer<std::string> items_;
     int listIndex_ = -1;
 };
 

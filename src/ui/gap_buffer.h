@@ -68,9 +68,11 @@ private:
     }
 
     void grow() {
-        gapStart_ = slots_.size();
-        gapLength_ = std::max<std::size_t>(8, slots_.size() / 2);
-        slots_.resize(slots_.size() + gapLength_);
+        const std::size_t end = slots_.size();
+        const std::size_t room = std::max<std::size_t>(8, end / 2);
+        slots_.resize(end + room);
+        gapStart_ = end;
+        gapLength_ = room;
     }
 
     std::vector<T> slots_;

@@ -50,8 +50,12 @@ void Grid::Rows(int count) {
     if (count == before) return;
     reportChange();
     sortMark_ = {};
+    // Made first, so that no row is left without cells where the memory runs out.
+    std::vector<RowData> added;
+    for (int row = before; row < count; ++row) added.push_back(emptyRow());
     rows_.resize(static_cast<std::size_t>(count));
-    for (int row = before; row < count; ++row) rows_[static_cast<std::size_t>(row)] = emptyRow();
+    for (int row = before; row < count; ++row)
+        rows_[static_cast<std::size_t>(row)] = std::move(added[static_cast<std::size_t>(row - before)]);
     forgetWidths();
     keepCurrentCellInside();
 }
@@ -62,11 +66,14 @@ void Grid::Cols(int count) {
     reportChange();
     sortMark_ = {};
     const std::size_t before = columns_.size();
-    columns_.resize(static_cast<std::size_t>(count));
+    const auto after = static_cast<std::size_t>(count);
+    // Where the memory runs out, a row may be left longer than the grid is wide, but never shorter.
+    if (after < before) columns_.resize(after);
     for (std::size_t i = 0; i < rows_.size(); ++i) {
-        resizeArray(rows_[i].Cells, before, columns_.size());
-        if (rows_[i].Formats) resizeArray(rows_[i].Formats, before, columns_.size());
+        resizeArray(rows_[i].Cells, before, after);
+        if (rows_[i].Formats) resizeArray(rows_[i].Formats, before, after);
     }
+    columns_.resize(after);
     keepCurrentCellInside();
 }
 

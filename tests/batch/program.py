@@ -95,7 +95,7 @@ class ProgramTest(unittest.TestCase):
                    "cwd": self.folder, "umask": 0o022, **childUser(), **options}
         return subprocess.Popen([self.program, *map(str, arguments)], **options)
 
-    def run_(self, *arguments, **options):
+    def runProgram(self, *arguments, **options):
         """Runs to the end and gives exit code, standard output and standard error."""
         with self.start(*arguments, **options) as child:
             try:

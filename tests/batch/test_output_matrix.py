@@ -39,11 +39,12 @@ def refused(says):
 class Target:
     """A kind of target: how it comes to be at a path, and what each option makes of it."""
 
-    def __init__(self, name, prepare, cells, path="target"):
+    def __init__(self, name, prepare, cells, path="target", twice=False):
         self.name = name
         self.prepare = prepare
         self.cells = cells
         self.path = path
+        self.twice = twice  # another option names the file too, by another path
 
 
 def same(file, tables):
@@ -90,6 +91,9 @@ TARGETS = [
            {"results": refused("--results p.brn and the project p.brn are one file"),
             "messages": refused("--messages p.brn and the project p.brn are one file"),
             "tables": refused(NO_FOLDER)}, path="p.brn"),
+    Target("one file by two paths, not there yet", nothing, same(refused(ONE_FILE), refused(ONE_FILE)), twice=True),
+    Target("one file by two paths, there", lambda test, path: test.write(path),
+           {"results": refused(ONE_FILE), "messages": refused(ONE_FILE), "table": refused(ONE_FILE)}, twice=True),
     Target("FIFO with a reader", lambda test, path: test.makeFifo(path),
            same(Cell(written="fifo"), refused(NO_FOLDER))),
     Target("/dev/null", lambda test, path: test.link(path, "/dev/null"), same(Cell(), refused(NO_FOLDER))),
@@ -142,7 +146,7 @@ class OutputMatrix(ProgramTest):
         """What the options write where nothing is in the way."""
         plain = cls()
         plain.setUp()
-        code, out, err = plain.run_("--results", "r", "--messages", "m", "--tables", "t", "p.brn")
+        code, out, err = plain.runProgram("--results", "r", "--messages", "m", "--tables", "t", "p.brn")
         assert code == 0, err
         found = {"results": (plain.folder / "r").read_bytes(), "messages": (plain.folder / "m").read_bytes(),
                  "table": (plain.folder / "t" / TABLE).read_bytes(), "stdout": out,
@@ -175,9 +179,12 @@ class OutputMatrix(ProgramTest):
         if option == "table":
             self.makeFolder("tables")
         target.prepare(self, path)
-        argument = ["--tables", "tables"] if option == "table" else [f"--{option}={path}"]
+        arguments = ["--tables", "tables"] if option == "table" else [f"--{option}={path}"]
+        if target.twice:
+            other = "messages" if option == "results" else "results"
+            arguments.append(f"--{other}=../{self.folder.name}/{path}{'/' + TABLE if option == 'tables' else ''}")
         before = snapshot(self.folder)
-        code, out, err = self.run_(*argument, "p.brn")
+        code, out, err = self.runProgram(*arguments, "p.brn")
         if hasattr(self, "reader"):
             self.releaseReader(self.folder / path)
         after = snapshot(self.folder)
@@ -196,7 +203,7 @@ class OutputMatrix(ProgramTest):
         self.assertIn(cell.says, faults[0])
         self.assertIn(path, faults[0])
         if cell.says == ONE_FILE:
-            self.assertIn("p.brn", faults[0])
+            self.assertRegex(faults[0], "and (the project p.brn|--[a-z]+ [^ ]+) are one file$")
 
     def checkWritten(self, cell, option, path, before, after, out):
         suite = self.expected["stdout"] if cell.ran else b""

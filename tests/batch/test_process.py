@@ -26,7 +26,7 @@ class OneFileTwice(ProgramTest):
 
     def expectRefused(self, arguments, *named, **options):
         before = snapshot(self.folder)
-        code, out, err = self.run_(*arguments, "p.brn", **options)
+        code, out, err = self.runProgram(*arguments, "p.brn", **options)
         self.assertEqual(code, WRONG_USAGE, err)
         self.assertEqual(err, f"brenica-batch: {named[0]} and {named[1]} are one file\n")
         self.assertFalse(out)
@@ -81,14 +81,14 @@ class OneFileTwice(ProgramTest):
         self.expectRefused(["--tables", "t"], "--tables t/AreaSummary.txt", "the project p.brn")
 
     def testAProjectThatIsMissing(self):
-        code, _, err = self.run_("--results", "./new.brn", "new.brn")
+        code, _, err = self.runProgram("--results", "./new.brn", "new.brn")
         self.assertEqual((code, err), (WRONG_USAGE,
                                        "brenica-batch: --results ./new.brn and the project new.brn are one file\n"))
 
     def testTheProjectOnStandardInput(self):
         before = snapshot(self.folder)
         with open(self.folder / "p.brn", "rb") as project:
-            code, _, err = self.run_("--results", "p.brn", "/dev/stdin", stdin=project)
+            code, _, err = self.runProgram("--results", "p.brn", "/dev/stdin", stdin=project)
         self.assertEqual((code, err), (WRONG_USAGE,
                                        "brenica-batch: --results p.brn and the project /dev/stdin are one file\n"))
         self.assertEqual(snapshot(self.folder), before)
@@ -96,14 +96,14 @@ class OneFileTwice(ProgramTest):
     def testAPipeThatIsTheProjectToo(self):
         os.mkfifo(self.folder / "fifo")
         self.own(self.folder / "fifo")
-        code, _, err = self.run_("--results", "fifo", "fifo")
+        code, _, err = self.runProgram("--results", "fifo", "fifo")
         self.assertEqual((code, err), (WRONG_USAGE,
                                        "brenica-batch: --results fifo and the project fifo are one file\n"))
 
     def testStandardOutputSentToTheProject(self):
         before = snapshot(self.folder)
         with open(self.folder / "p.brn", "ab") as project:
-            code, _, err = self.run_("p.brn", stdout=project)
+            code, _, err = self.runProgram("p.brn", stdout=project)
         self.assertEqual(code, WRONG_USAGE)
         self.assertEqual(err, "brenica-batch: standard output and the project p.brn are one file\n")
         self.assertEqual(snapshot(self.folder), before)
@@ -114,21 +114,21 @@ class OneFileTwice(ProgramTest):
 
     def testStandardErrorSentToAFileThatIsAnOutput(self):
         with open(self.write("a", b""), "ab") as file:
-            code, _, _ = self.run_("--messages", "a", "p.brn", stderr=file)
+            code, _, _ = self.runProgram("--messages", "a", "p.brn", stderr=file)
         self.assertEqual(code, WRONG_USAGE)
         self.assertEqual((self.folder / "a").read_text(),
                          "brenica-batch: --messages a and standard error are one file\n")
 
     def testStandardOutputAndErrorMayBeOneFile(self):
         with open(self.write("log"), "wb") as file:
-            code, _, _ = self.run_("--results", "r", "p.brn", stdout=file, stderr=file)
+            code, _, _ = self.runProgram("--results", "r", "p.brn", stdout=file, stderr=file)
         self.assertEqual(code, SELECTED)
         self.assertIn(SUITE, (self.folder / "log").read_bytes())
 
     def testDevicesAndPipesTakeSeveralOutputs(self):
-        code, _, err = self.run_("--results", "/dev/null", "--messages", "/dev/null", "p.brn")
+        code, _, err = self.runProgram("--results", "/dev/null", "--messages", "/dev/null", "p.brn")
         self.assertEqual(code, SELECTED, err)
-        code, out, err = self.run_("--results", "/dev/stdout", "--messages", "/dev/fd/1", "p.brn")
+        code, out, err = self.runProgram("--results", "/dev/stdout", "--messages", "/dev/fd/1", "p.brn")
         self.assertEqual(code, SELECTED, err)
         self.assertTrue(out.startswith(b'{"kind":"message"'), out)
         self.assertLess(out.index(b"Brenic Species by Rank"), out.index(SUITE))
@@ -156,7 +156,7 @@ class Targets(ProgramTest):
     def testADescriptorThatIsNotOpenOrForReading(self):
         for path in ("/dev/fd/77", "/dev/stdin", "/proc/self/fd/99999999999"):
             with open("/dev/null", "rb") as reading:
-                code, out, err = self.run_("--results", path, "p.brn", stdin=reading)
+                code, out, err = self.runProgram("--results", path, "p.brn", stdin=reading)
             self.assertEqual((code, out), (WRONG_USAGE, b""), path)
             self.assertRegex(err, f"^brenica-batch: {path}: cannot be written: [A-Z][a-z ]+\n$")
 
@@ -164,13 +164,13 @@ class Targets(ProgramTest):
         with socket.socket(socket.AF_UNIX) as server:
             server.bind(str(self.folder / "socket"))
             self.own(self.folder / "socket")
-            code, _, err = self.run_("--results", "socket", "p.brn")
+            code, _, err = self.runProgram("--results", "socket", "p.brn")
         self.assertEqual((code, err), (WRONG_USAGE, "brenica-batch: socket: cannot be written: "
                                                     "No such device or address\n"))
 
     def testANewFileHasTheModeThatTheMaskLeaves(self):
         for mask, mode in ((0o022, 0o644), (0o077, 0o600), (0, 0o666)):
-            self.run_("--results", f"r{mask}", "--tables", f"t{mask}", "p.brn", umask=mask)
+            self.runProgram("--results", f"r{mask}", "--tables", f"t{mask}", "p.brn", umask=mask)
             for path in (f"r{mask}", f"t{mask}/{TABLE}"):
                 self.assertEqual(stat.S_IMODE((self.folder / path).stat().st_mode), mode, path)
 
@@ -181,7 +181,7 @@ class Targets(ProgramTest):
         path.chmod(0o4640)
         os.chown(path, nobody.pw_uid, nobody.pw_gid)
         path.chmod(0o4640)
-        code, _, err = self.run_("--results", "r", "p.brn", user=0, group=0)
+        code, _, err = self.runProgram("--results", "r", "p.brn", user=0, group=0)
         self.assertEqual(code, SELECTED, err)
         about = path.stat()
         self.assertEqual((about.st_uid, about.st_gid, stat.S_IMODE(about.st_mode)),
@@ -200,7 +200,7 @@ class Targets(ProgramTest):
         self.makeFolder("t/HabitatData.txt")
         self.makeFolder("t/AreaSummary.txt")
         self.own(self.folder / "t")
-        code, out, err = self.run_("--tables", "t", "--results", "/dev/full", "--messages", "m", "p.brn")
+        code, out, err = self.runProgram("--tables", "t", "--results", "/dev/full", "--messages", "m", "p.brn")
         self.assertEqual(code, WRONG_USAGE)
         self.assertEqual(self.faults(err),
                          ["brenica-batch: /dev/full: cannot be written: No space left on device",
@@ -212,7 +212,7 @@ class Targets(ProgramTest):
 
     def testAnOutputThatFailsLeavesTheCodeOfARunThatIsNotDone(self):
         self.write("gap.brn", self.project.replace(b"Home ranges = ", b"Home ranges = ,"))
-        code, _, err = self.run_("--messages", "/dev/full", "gap.brn")
+        code, _, err = self.runProgram("--messages", "/dev/full", "gap.brn")
         self.assertEqual(code, GATE, err)
         self.assertIn("brenica-batch: /dev/full: cannot be written: No space left on device\n", err)
 
@@ -248,7 +248,7 @@ class Signals(ProgramTest):
         reading, writing = os.pipe()
         os.close(reading)
         before = snapshot(self.folder)
-        code, out, _ = self.run_("--results", "r", "p.brn", stderr=writing)
+        code, out, _ = self.runProgram("--results", "r", "p.brn", stderr=writing)
         os.close(writing)
         self.assertEqual(code, -signal.SIGPIPE)
         self.assertEqual(out, b"")
@@ -262,10 +262,10 @@ class Signals(ProgramTest):
         self.assertEqual(sorted(path.name for path in self.folder.iterdir()), ["code", "m", "p.brn"])
 
     def testAtAnyMomentAFileIsOldOrNewAndNoneIsHalf(self):
-        self.run_("--results", "r", "p.brn")
+        self.runProgram("--results", "r", "p.brn")
         whole = (self.folder / "r").read_bytes()
         started = time.monotonic()
-        self.run_("--results", "r", "--tables", "t", "--messages", "m", "p.brn")
+        self.runProgram("--results", "r", "--tables", "t", "--messages", "m", "p.brn")
         length = time.monotonic() - started
         known = {path.relative_to(self.folder) for path in self.folder.rglob("*")}
         for i in range(60):
@@ -297,7 +297,7 @@ class StandardStreams(ProgramTest):
         self.assertEqual((code, err), (WRONG_USAGE, self.FULL))
 
     def testAClosedStandardOutput(self):
-        self.run_("--results", "expected", "p.brn")
+        self.runProgram("--results", "expected", "p.brn")
         code, _, err = self.shell('"$0" --results r p.brn >&-')
         self.assertEqual(code, WRONG_USAGE)
         self.assertTrue(err.endswith(self.CLOSED), err)
@@ -322,7 +322,7 @@ class StandardStreams(ProgramTest):
     def testTheCodeOfARunThatIsNotDoneStays(self):
         lines = self.project.replace(b"Home ranges = ", b"Home ranges = x")
         self.write("bad.brn", lines)
-        expected, out, _ = self.run_("bad.brn")
+        expected, out, _ = self.runProgram("bad.brn")
         code, _, err = self.shell('"$0" bad.brn >/dev/full')
         self.assertGreater(expected, UNREADABLE)
         self.assertEqual(code, expected)
@@ -333,12 +333,12 @@ class Projects(ProgramTest):
     """What can be read as a project, and what is said of what cannot."""
 
     def expectUnreadable(self, path, reason, **options):
-        code, out, err = self.run_(path, **options)
+        code, out, err = self.runProgram(path, **options)
         self.assertEqual((code, out), (UNREADABLE, b""), err)
         self.assertEqual(self.faults(err), [f"brenica-batch: {path}: {reason}"])
 
     def testStandardInputAndPipesAreRead(self):
-        _, expected, _ = self.run_("p.brn")
+        _, expected, _ = self.runProgram("p.brn")
         for script in ('"$0" /dev/stdin <p.brn', 'cat p.brn | "$0" /dev/stdin', '"$0" <(cat p.brn)',
                        '"$0" /dev/fd/3 3<p.brn', 'mkfifo f; cat p.brn >f & "$0" f'):
             code, out, err = self.shell(script)
@@ -346,7 +346,7 @@ class Projects(ProgramTest):
 
     def testAFileNamedDash(self):
         self.write("-", self.project)
-        code, out, _ = self.run_("-")
+        code, out, _ = self.runProgram("-")
         self.assertEqual(code, SELECTED)
         self.assertTrue(out.startswith(SUITE))
 
@@ -374,7 +374,7 @@ class Projects(ProgramTest):
     def testAFaultNamesItsLine(self):
         self.write("bad.brn", self.project + b"Functionx = 1\r\n")
         line = self.project.count(b"\r\n") + 1
-        code, _, err = self.run_("bad.brn")
+        code, _, err = self.runProgram("bad.brn")
         self.assertEqual((code, err), (UNREADABLE, f"brenica-batch: bad.brn:{line}: Type mismatch\n"))
 
     def testAFolder(self):

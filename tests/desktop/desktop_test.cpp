@@ -60,6 +60,7 @@ struct Running {
     desktop::Desktop desktop;
 
     Running() { desktop.start(); }
+    ~Running() { desktop_test::endEventLoop(); }
 
     static QList<QWidget*> windows(const char* name) {
         QList<QWidget*> found;

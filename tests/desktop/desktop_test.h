@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QObject>
+#include <QTimer>
 #include <QtTest>
 #include <functional>
 #include <memory>
@@ -44,6 +45,12 @@ public:
 private:
     desktop::Scale scale_{QApplication::font()};
 };
+
+/// Lets an event loop end as a program that has ended asked for; else the next box would be ended by it.
+inline void endEventLoop() {
+    QTimer::singleShot(0, qApp, [] { QApplication::quit(); });
+    QApplication::exec();
+}
 
 /// A bare form on a scripted platform, with a link to it.
 struct Window {

@@ -13,7 +13,7 @@ std::vector<MakeTests>& registry() {
 
 }  // namespace desktop_test
 
-/// Runs every class of tests, or the one that the first argument names, with the arguments of Qt Test; fails when one
+/// Runs every class of tests, or those that the first arguments name, with the arguments of Qt Test; fails when one
 /// of them fails.
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -22,12 +22,12 @@ int main(int argc, char** argv) {
     qputenv("XDG_STATE_HOME", QFile::encodeName(state.path()));
     const QApplication application(argc, argv);
     QStringList arguments(argv, argv + argc);
-    QString wanted;
-    if (argc > 1 && argv[1][0] >= 'A' && argv[1][0] <= 'Z') wanted = arguments.takeAt(1);
+    QStringList wanted;
+    while (arguments.size() > 1 && arguments[1].front().isUpper()) wanted << arguments.takeAt(1);
     int failed = 0;
     for (const auto& make : desktop_test::registry()) {
         const std::unique_ptr<QObject> tests = make();
-        if (wanted.isEmpty() || wanted == tests->metaObject()->className())
+        if (wanted.isEmpty() || wanted.contains(tests->metaObject()->className()))
             failed += QTest::qExec(tests.get(), arguments);
     }
     return failed == 0 ? 0 : 1;

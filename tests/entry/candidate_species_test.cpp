@@ -65,6 +65,22 @@ TEST_F(CandidateSpecies, ZonesAreCarriedIntoTheBlocksToo) {
     EXPECT_THAT(columnOf(summary(3), 1), ElementsAre("MZ Name", "Park", "Park"));
 }
 
+// Zones that are added before there is a species are numbered in the column of the species' names.
+TEST_F(CandidateSpecies, TheFirstOnesTakeTheZonesNumbersOutOfTheirBlocks) {
+    addZones({"Park", "Marsh", "Coast"});
+    EXPECT_THAT(columnOf(summary(3), 0), ElementsAre("Common Name", "1", "2", "3"));
+    addSpecies({"Lynx", "Owl"});
+    EXPECT_THAT(columnOf(summary(3), 0), ElementsAre("Common Name", "Lynx", "", "", "Owl", "", ""));
+    EXPECT_THAT(columnOf(summary(3), 1),
+                ElementsAre("MZ Name", "Park", "Marsh", "Coast", "Park", "Marsh", "Coast"));
+    remove(species(), 1);
+    remove(species(), 1);
+    addZones({"Delta"});
+    EXPECT_THAT(columnOf(summary(3), 0), ElementsAre("Common Name", "1", "2", "3", "4"));
+    addSpecies({"Otter"});
+    EXPECT_THAT(columnOf(summary(3), 0), ElementsAre("Common Name", "Otter", "", "", ""));
+}
+
 TEST_F(CandidateSpecies, NewBlocksOfThreatsCarryNameUrgencyAndProbability) {
     addActivities({"Logging", "Hunting"});
     form.flxLandUses.UserEditCell(1, 2, "2");

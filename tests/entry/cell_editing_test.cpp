@@ -123,6 +123,43 @@ TEST_F(ListCellEditing, AProbabilityAboveOneIsRefusedWithABeepAndTheEditorStaysO
     EXPECT_THAT(platform.Transcript, IsEmpty());
 }
 
+/// A comma that groups digits makes 5 of 0,5: what the leading digits tell is not what the scores would read.
+TEST_F(ListCellEditing, AProbabilityWithACommaIsAtMostOneHoweverItIsRead) {
+    addActivities({"Logging"});
+    for (const std::string text : {"0,5", "1,0", "0,05", "1,000,000,000,000"}) {
+        platform.Beeps = 0;
+        beginEdit(form.flxLandUses, 1, 3);
+        form.flxLandUses.UserEditPaste(text);
+        EXPECT_FALSE(form.flxLandUses.UserCommitEdit()) << text;
+        EXPECT_EQ(platform.Beeps, 1);
+        form.flxLandUses.UserCancelEdit();
+        EXPECT_EQ(form.flxLandUses.TextMatrix(1, 3), "");
+    }
+    EXPECT_TRUE(form.flxLandUses.UserEditCell(1, 3, "0,1"));
+    EXPECT_EQ(form.flxLandUses.TextMatrix(1, 3), "0,1");
+}
+
+TEST_F(ListCellEditing, ADecimalCommaInAProbabilityCounts) {
+    platform.Separator = ui::DecimalSeparator::Comma;
+    modGlobal elsewhere;
+    frmBrenica commaForm(platform, files, elsewhere);
+    type(commaForm.txtTotalLandUses, "1");
+    commaForm.cmdUpdateLandUses.UserClick();
+    for (const std::string text : {"1,5", "1,01", "2,0"})
+        EXPECT_FALSE(commaForm.flxLandUses.UserEditCell(1, 3, text)) << text;
+    EXPECT_EQ(commaForm.flxLandUses.TextMatrix(1, 3), "");
+    for (const std::string text : {"0,5", "1,0", "-0,5"}) {
+        EXPECT_TRUE(commaForm.flxLandUses.UserEditCell(1, 3, text)) << text;
+        EXPECT_EQ(commaForm.flxLandUses.TextMatrix(1, 3), text);
+    }
+}
+
+TEST_F(ListCellEditing, AnAreaWithACommaHasNoBounds) {
+    open(ProjectText(1, 1, 1, 1));
+    EXPECT_TRUE(form.flxHabitatTypes.UserEditCell(1, 2, "1,500"));
+    EXPECT_EQ(form.flxHabitatTypes.TextMatrix(1, 2), "1,500");
+}
+
 TEST_F(ListCellEditing, LettersCannotBeTypedAsAProbabilityButAPasteReachesTheTestAtTheEnd) {
     addActivities({"Logging"});
     beginEdit(form.flxLandUses, 1, 3);

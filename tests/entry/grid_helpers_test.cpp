@@ -202,7 +202,7 @@ TEST_F(GridHelpers, GetColContentsOfAHeadingAloneIsZeroAndLeavesTheArray) {
 TEST_F(GridHelpers, RemoveGridEntryRemovesAndNumbersAnew) {
     fill({"a", "b", "c"});
     int count = 3;
-    RemoveGridEntry(grid, 1, count);
+    RemoveGridEntry(grid, std::array{1}, count);
     EXPECT_EQ(count, 2);
     EXPECT_THAT(columnOf(grid, 0), ElementsAre("", "1", "2"));
     EXPECT_THAT(columnOf(grid, 1), ElementsAre("", "b", "c"));
@@ -213,7 +213,7 @@ TEST_F(GridHelpers, RemoveGridEntryOutsideTheCountChangesNothing) {
     const auto before = cellsOf(grid);
     for (const int row : {0, -1, 3, 4}) {
         int count = 2;
-        RemoveGridEntry(grid, row, count);
+        RemoveGridEntry(grid, std::array{row}, count);
         EXPECT_EQ(count, 2);
         EXPECT_EQ(cellsOf(grid), before);
     }
@@ -343,7 +343,7 @@ TEST_F(ResizedGrid, LeavesRedrawAlone) {
     grid.Redraw(false);
     ResizeGrid(grid, false, 0);
     UpdateFlexGrid(grid, 1, count, true);
-    RemoveGridEntry(grid, 1, count);
+    RemoveGridEntry(grid, std::array{1}, count);
     EXPECT_FALSE(grid.Redraw());
 }
 
@@ -359,7 +359,7 @@ TEST_F(GridHelpers, AFailureNamesTheHelperItHappenedIn) {
         {"GetVulnVals", [&] { GetVulnVals(1, 1, grid, grid); }},
         {"GetFuncSEVals", [&] { GetFuncSEVals(2, 1, grid, grid); }},
         {"GetColContents", [&] { GetColContents(grid, 2, contents); }},
-        {"RemoveGridEntry", [&] { RemoveGridEntry(grid, 4, count); }},
+        {"RemoveGridEntry", [&] { RemoveGridEntry(grid, std::array{4}, count); }},
         {"RemoveHRData", [&] { RemoveHRData(grid); }},
         {"UpdateFlexGridCol", [&] { UpdateFlexGridCol(grid, 2, texts); }},
     };

@@ -241,6 +241,32 @@ TEST_F(HomeRange, RemovingTheLastBreakpointFailsWhileTheLabelsAreThere) {
     EXPECT_EQ(failure.Description, reportOf("Brenica.RemoveBin", 5, "Invalid procedure call or argument"));
 }
 
+TEST_F(HomeRange, RemovingABreakpointAddedSinceTheLabelsWereMadeTakesNone) {
+    addBreakpoints({"0", "5"});
+    makeLabels();
+    addBreakpoints({"20", "40"});
+    type(form.txtRemoveBinIndex, "4");
+    form.cmdRemoveBin.UserClick();
+    EXPECT_THAT(columnOf(form.flxBins, 1), ElementsAre("Breakpoint", "0", "5", "20"));
+    EXPECT_THAT(labels(), ElementsAre("0 - 5 km2", "5+ km2"));
+    type(form.txtRemoveBinIndex, "3");
+    form.cmdRemoveBin.UserClick();
+    EXPECT_EQ(global.TotalBins, 2);
+    EXPECT_THAT(labels(), ElementsAre("0 - 5 km2", "5+ km2"));
+}
+
+TEST_F(HomeRange, ABlankBreakpointAddedSinceTheLabelsWereMadeIsRemovedAtTheGate) {
+    addBreakpoints({"0", "5"});
+    makeLabels();
+    form.optLandChar(3).UserClick();
+    addBreakpoints({"", ""});
+    platform.Answers.assign(1, "yes");
+    goTo(3);
+    EXPECT_EQ(form.CurrentMainTab, 3);
+    EXPECT_THAT(columnOf(form.flxBins, 1), ElementsAre("Breakpoint", "0", "5"));
+    EXPECT_THAT(labels(), ElementsAre("0 - 5 km2", "5+ km2"));
+}
+
 TEST_F(HomeRange, RemovingABreakpointWithoutLabelsTakesNone) {
     addBreakpoints({"0", "5"});
     type(form.txtRemoveBinIndex, "2");

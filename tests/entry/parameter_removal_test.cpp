@@ -9,21 +9,13 @@ class ParameterRemoval : public EntryTest {};
 
 TEST_F(ParameterRemoval, OfARowOutsideTheListOnlyResetsTheBox) {
     open(ProjectText(2, 2, 2, 2));
-    struct Family {
-        ui::TextBox& Box;
-        void (frmBrenica::*Remove)(int);
-        int Beyond;
-    };
-    const std::vector<Family> families = {{form.txtRemoveHabitatIndex, &frmBrenica::RemoveHabitatType, 3},
-                                          {form.txtRemoveJurisUnitIndex, &frmBrenica::RemoveJurisUnit, 3},
-                                          {form.txtRemoveLandUseIndex, &frmBrenica::RemoveLandUse, 3},
-                                          {form.txtRemoveFunctionIndex, &frmBrenica::RemoveFunction, 7}};
-    const auto before = allCellsBut({});
-    for (const Family& family : families) {
-        for (const int row : {0, -1, family.Beyond}) {
-            type(family.Box, "2");
-            (form.*family.Remove)(row);
-            EXPECT_EQ(family.Box.Text(), "0");
+    for (const ListControls& list : {habitats(), zones(), activities(), functions()}) {
+        remove(list, list.Total);
+        const auto before = allCellsBut({});
+        ASSERT_EQ(list.RemoveIndex.Text(), std::to_string(list.Total + 1)) << "a row that is gone";
+        for (int click = 0; click < 2; ++click) {
+            list.Remove.UserClick();
+            EXPECT_EQ(list.RemoveIndex.Text(), "0");
             EXPECT_EQ(allCellsBut({}), before);
         }
     }

@@ -142,15 +142,30 @@ TEST_F(SpeciesRemoval, LeavesTheSelectorAloneWhileTheFirstNameIsBlank) {
     EXPECT_EQ(form.cbxSpeciesName.ListCount(), 3);
 }
 
-TEST_F(SpeciesRemoval, FailsForASpeciesThatTheSelectorDoesNotHaveYet) {
+TEST_F(SpeciesRemoval, PassesOverAnItemThatTheSelectorDoesNotHaveYet) {
     addSpecies({"Lynx"});
     goTo(2);
     goTo(1);
-    addSpecies({"Owl"});
-    type(form.txtRemoveSpeciesIndex, "2");
-    const auto failure = failureOf([&] { form.cmdRemoveSpecies.UserClick(); });
-    EXPECT_EQ(failure.Description,
-              reportOf("Brenica.RemoveSpecies", 5, "Invalid procedure call or argument"));
+    addSpecies({"Owl", "Otter"});
+    remove(species(), 2);
+    EXPECT_THAT(columnOf(form.flxCandidateSpecies, 1), ElementsAre("Common Name", "Lynx", "Otter"));
+    for (const int member : {0, 1, 2, 3, 4, 5, 6, 8, 9})
+        EXPECT_THAT(columnOf(summary(member), 0), ElementsAre("Common Name", "Lynx", "Otter")) << member;
+    ASSERT_EQ(form.cbxSpeciesName.ListCount(), 1);
+    EXPECT_EQ(form.cbxSpeciesName.List(0), "Lynx");
+}
+
+TEST_F(SpeciesRemoval, AtTheGatePassesOverAnItemThatTheSelectorDoesNotHaveYet) {
+    addSpecies({"Ant", "Bee"});
+    goTo(2);
+    goTo(1);
+    addBlank(species(), 1);
+    platform.Answers.assign(1, "yes");
+    goTo(2);
+    EXPECT_EQ(form.CurrentMainTab, 2);
+    EXPECT_EQ(global.TotalSpecies, 2);
+    EXPECT_EQ(form.cbxSpeciesName.ListCount(), 2);
+    EXPECT_THAT(columnOf(form.flxScores(0), 0), ElementsAre("Common Name", "Ant", "Bee"));
 }
 
 class SpeciesSelector : public EntryTest {

@@ -5,9 +5,9 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <ctime>
 #include <filesystem>
 #include <fstream>
 #include <optional>
@@ -180,12 +180,10 @@ private:
 SessionEnd runSession(std::string_view project, SessionDepth depth) {
     static const SessionFile file;
     file.write(project);
-    using Clock = std::chrono::steady_clock;
-    const Clock::time_point start = Clock::now();
+    const std::clock_t start = std::clock();
     const SessionEnd end = Session(file.path(), project).run(depth);
-    const std::chrono::duration<double> time = Clock::now() - start;
-    if (time.count() > SessionSeconds)
-        throw Undescribed("the session took " + std::to_string(time.count()) + " s");
+    const double seconds = static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
+    if (seconds > SessionSeconds) throw Undescribed("the session took " + std::to_string(seconds) + " s");
     return end;
 }
 

@@ -23,7 +23,7 @@ struct Undescribed : std::logic_error {
     using std::logic_error::logic_error;
 };
 
-/// Longest time that a session may take, in seconds.
+/// Longest time that a session may take, in seconds of the processor.
 inline constexpr double SessionSeconds = 2;
 
 /// Opens `project` in a fresh form on a platform without a desktop, and where the depth says so walks all pages and

@@ -103,7 +103,8 @@ TEST_F(ProjectCopyTest, CellsAreNamedInWords) {
                             "Area | Species 2 | " + heading(form.flxSummary(4), area::Occupied) + " | 0,3",
                             "Vulnerability by species | Species 1, Activity 2 | " +
                                 heading(form.flxSummary(6), threat::Recovery) + " | 2,5"));
-    while (global.TotalFunctions > 0) form.RemoveFunction(1);
+    form.txtRemoveFunctionIndex.Text("1");
+    while (global.TotalFunctions > 0) form.cmdRemoveFunction.UserClick();
     EXPECT_EQ(lostInWords().front(), "Functions |  |  | ");
 }
 

@@ -291,6 +291,21 @@ TEST_F(ProjectFile, AreasAreNotSummedOnOpening) {
     EXPECT_FALSE(global.ScoresCalculated);
 }
 
+// Older programs write a line of ratings for each species though there is nothing to rate.
+TEST_F(ProjectFile, PassesOverRatingsWhileThereAreNoActivities) {
+    ProjectText project = ProjectText(3, 1, 1, 0).set("Function6", "3,2,1");
+    const std::string sound = project.text();
+    open(project.set("VulnerabilitybySpecies Severity", "1,2,3")
+             .set("VulnerabilitybySpecies Recovery", ",,")
+             .set("VulnerabilitybySpecies Proportion", "1,2,3,4"));
+    EXPECT_FALSE(form.ProjectLoading);
+    for (int col = threat::Severity; col <= threat::Proportion; ++col) {
+        for (int row = 1; row <= 3; ++row)
+            EXPECT_EQ(form.flxSummary(summary::ThreatsBySpecies).TextMatrix(row, col), "");
+    }
+    EXPECT_EQ(save(), sound);
+}
+
 /// Files without a version line.
 class Version1File : public FormTest {
 protected:
@@ -326,6 +341,33 @@ TEST_F(Version1File, FillsInDefaultsWithAMessage) {
     EXPECT_EQ(form.flxSummary(0).Cols(), 6);
     EXPECT_EQ(form.flxSummary(0).TextMatrix(1, 5), "2");
     EXPECT_FALSE(form.ProjectChanged);
+}
+
+TEST_F(Version1File, GivesEveryUnitThePromisedLevelWhateverItsAreas) {
+    const char* areas[] = {"", "5", "5,5,5"};
+    for (const char* line : areas) {
+        SCOPED_TRACE(line);
+        ScriptedPlatform ownPlatform;
+        ui::Files ownFiles;
+        modGlobal ownGlobal;
+        frmBrenica own(ownPlatform, ownFiles, ownGlobal);
+        ownPlatform.Files.push_back(folder.file("old.brn"));
+        writeFile(folder.file("old.brn"),
+                  version1(1, 3, 3).set("Habitat Area", line).set("JU Area", line).text());
+        own.mnuOpenProject.UserClick();
+        ASSERT_EQ(ownPlatform.Transcript.size(), 1U);
+        for (const ui::Grid* grid : {&own.flxHabitatTypes, &own.flxJurisUnits})
+            EXPECT_THAT(columnOf(*grid, list::LevelOfUse), ElementsAre("Level of Use", "2", "2", "2"));
+    }
+}
+
+TEST_F(Version1File, KeepsTheLevelsThatTheFileHas) {
+    open(version1(1, 3, 2)
+             .set("Habitat Area", "5")
+             .set("Habitat UseLevel", "1,,3")
+             .set("MZone UseLevel", "0"));
+    EXPECT_THAT(columnOf(form.flxHabitatTypes, list::LevelOfUse), ElementsAre("Level of Use", "1", "2", "3"));
+    EXPECT_THAT(columnOf(form.flxJurisUnits, list::LevelOfUse), ElementsAre("Level of Use", "0", "2"));
 }
 
 TEST_F(Version1File, ConvertsTheLevelsOfUse) {

@@ -63,7 +63,7 @@ TEST_F(Settled, NewAsksTheHomeRangeQuestionMidCommandForBinnedData) {
     }
 }
 
-TEST_F(Settled, NoToThatQuestionStillEmptiesTheProjectButLeavesTheOldButtonOn) {
+TEST_F(Settled, NoToThatQuestionStillEmptiesTheProject) {
     open(binnedProject(1));
     form.ProjectChanged = false;
     answer({"no"});
@@ -72,8 +72,8 @@ TEST_F(Settled, NoToThatQuestionStillEmptiesTheProjectButLeavesTheOldButtonOn) {
     EXPECT_EQ(global.TotalSpecies, 0);
     EXPECT_EQ(form.flxSummary(summary::Area).Rows(), 1);
     EXPECT_EQ(form.HomeRangeType, 0);
-    EXPECT_TRUE(form.optHomeRangeType(1).Value());
-    EXPECT_FALSE(form.optHomeRangeType(0).Value());
+    EXPECT_TRUE(form.optHomeRangeType(0).Value());
+    EXPECT_FALSE(form.optHomeRangeType(1).Value());
     EXPECT_FALSE(form.ProjectChanged);
 }
 

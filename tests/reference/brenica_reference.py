@@ -55,6 +55,8 @@ def checkLevels(levels):
     for name, text in levels.items():
         if name not in LEVELS:
             return f"unknown level {name}"
+        if "," in text:
+            return f"{name}: not a number: {text}"
         try:
             inside = 0 <= CDbl(text) <= LEVELS[name][1]
         except RunTimeError:
@@ -84,6 +86,8 @@ def run(project_text_or_path, levels=None, answers=()):
     except (ReportedError, RunTimeError) as error:
         report = f"line {form.LineNumber}: {error.Description}"
         return Outcome(NOT_READABLE, messages=form.boxes.shown, report=report, form=form)
+    if "\r" not in text:
+        return Outcome(NOT_READABLE, messages=form.boxes.shown, report="no line ends in CR", form=form)
     form.ProjectChanged = False
     code, report = REFUSED, ""
     try:

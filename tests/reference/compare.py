@@ -17,7 +17,7 @@ from pathlib import Path
 sys.path.insert(0, str(Path(__file__).resolve().parent))
 
 from brenica_reference import DONE, REFUSED, UNEXPECTED, run
-from random_projects import makeCase
+from random_projects import STATES, makeCase, makeState
 
 TIME_LIMIT = 60  # seconds for one project
 
@@ -135,6 +135,7 @@ def main():
     parser.add_argument("--batch", required=True, help="path to brenica-batch")
     parser.add_argument("--count", type=int, default=300)
     parser.add_argument("--seed", type=int, default=1)
+    parser.add_argument("--states", action="store_true", help="cases of the states: " + ", ".join(STATES))
     parser.add_argument("--keep", type=Path, help="folder for the failing cases")
     parser.add_argument("--case", type=int, help="run one case only")
     options = parser.parse_args()
@@ -142,10 +143,11 @@ def main():
         print(f"compare.py: no program at {options.batch}", file=sys.stderr)
         return 2
     batch = str(Path(options.batch).resolve())
+    make = makeState if options.states else makeCase
     figures, failed = Figures(), []
     numbers = range(options.count) if options.case is None else [options.case]
     for number in numbers:
-        case = makeCase(options.seed, number)
+        case = make(options.seed, number)
         outcome = modelOutcome(case)
         figures.add(case, outcome)
         with tempfile.TemporaryDirectory() as name:

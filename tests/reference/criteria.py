@@ -182,6 +182,8 @@ class Criteria:
             if row == 0 or col > count or row > self.TotalSpecies:
                 return
             wide = self.flxSummary[index]
+            if wide in self.shiftedTables:
+                return
             value = wide.TextMatrix(row, col)
             column = [(r, col) for r in range(1, self.TotalSpecies + 1)]
             self.redoTotals(wide, column, (wide.Rows - 2, col), (wide.Rows - 1, col))
@@ -189,6 +191,8 @@ class Criteria:
             self.redoTotals(wide, cells, (row, wide.Cols - 2), (row, wide.Cols - 1))
             self.skipping(self.flxSummary[index + 2].TextMatrix, (row - 1) * count + col, 2, value)
         elif index == 7 and self.CurrentSummaryTab == 6 and row >= 1 and self.CurrentSpeciesIndex != 0:
+            if self.TotalLandUses == 0:
+                return
             t = (row - 1) // self.TotalSpecies + 1
             s = row % self.TotalSpecies or self.TotalSpecies
             if col in (2, 3, 4):

@@ -96,6 +96,7 @@ class frmBrenica(Lists, Criteria, Project, Scoring, Selection):
         self.HomeRangeType = self.CurrentSpeciesIndex = 0
         self.ProjectChanged = self.ProjectLoading = self.RefreshingCriteria = False
         self.LineNumber = 0
+        self.shiftedTables = []
         self.complementEnabled = self.exportEnabled = False
 
     def loadGrids(self):

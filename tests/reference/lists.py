@@ -97,7 +97,7 @@ class Lists:
         old = self.TotalSpecies
         if row < 1 or row > old:
             return
-        if self.cbxSpeciesName.ListCount >= 1 and self.flxCandidateSpecies.TextMatrix(1, 1) != "":
+        if row <= self.cbxSpeciesName.ListCount and self.flxCandidateSpecies.TextMatrix(1, 1) != "":
             self.cbxSpeciesName.RemoveItem(row - 1)
         self.TotalSpecies = RemoveGridEntry(self.flxCandidateSpecies, row, old)
         remain = self.TotalSpecies > 0
@@ -242,13 +242,15 @@ class Lists:
 
     @reported("Brenica.RemoveHabitatType")
     def RemoveHabitatType(self, row):
-        """Remove a habitat; only the headings of the wide table move, its cells stay."""
+        """Remove a habitat; only the headings of the wide table move, its cells stay until use is calculated."""
         if row < 1 or row > self.TotalHabitatTypes:
             return
         self.TotalHabitatTypes = RemoveGridEntry(self.flxHabitatTypes, row, self.TotalHabitatTypes)
         count = self.TotalHabitatTypes
         self.flxHabitatHetero.RemoveItem(row)
         wide, long = self.flxSummary[0], self.flxSummary[2]
+        if row <= count and wide not in self.shiftedTables:
+            self.shiftedTables.append(wide)
         for col in range(row, count + 1):
             wide.TextMatrix(0, col, wide.TextMatrix(0, col + 1))
         wide.Cols = count + 1

@@ -2,7 +2,7 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """The empty project and the reader of project files."""
 
-from conversion import CDbl, CLng, CStr, Round, RunTimeError, Trim, fold, reported, sameText, splitLines
+from conversion import CDbl, CLng, CStr, Round, Trim, fold, reported, sameText, splitLines
 from helpers import GetAreaTotal
 
 NUMBERED_KEYS = (("Function", "Functions"), ("Socio-Econ", "Socio-economic"), ("Data Quality", None))
@@ -50,6 +50,7 @@ class Project:
         self.HabitatAreaTotal = self.JurisUnitAreaTotal = 0.0
         self.TotalFunctions = 6
         self.ScoresCalculated = False
+        self.shiftedTables = []
         self.RefreshingCriteria = False
         self.flxFunctions.Rows = 7
         self.UpdateOtherFunctionFlexGrids(6)
@@ -175,16 +176,16 @@ class Project:
         return action
 
     def ratings(self, colBySpecies, colByThreat):
-        """Ratings by species and then by activity, into both orders."""
+        """Ratings by species and then by activity, into both orders; passed over without activities."""
 
         def action(values, _):
+            if self.TotalLandUses == 0:
+                return
             bySpecies, byThreat = self.flxSummary[6], self.flxSummary[7]
             values = self.clipped(values, bySpecies)
             for i, value in enumerate(values, 1):
                 bySpecies.TextMatrix(i, colBySpecies, value)
             for i, value in enumerate(self.clipped(values, byThreat), 1):
-                if self.TotalLandUses == 0:
-                    raise RunTimeError(11)
                 a = i % self.TotalLandUses or self.TotalLandUses
                 s = (i - 1) // self.TotalLandUses
                 byThreat.TextMatrix((a - 1) * self.TotalSpecies + s + 1, colByThreat, value)
@@ -279,6 +280,10 @@ class Project:
 
     def fillVersion1(self):
         """The values that files of version 1 did not have."""
+        for units in (self.flxHabitatTypes, self.flxJurisUnits):
+            for row in range(1, units.Rows):
+                if Trim(units.TextMatrix(row, 3)) == "":
+                    units.TextMatrix(row, 3, "2")
         self.CalculateHabitatUse()
         self.CalculateJurisUnitUse()
         self.readAreas()

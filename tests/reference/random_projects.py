@@ -15,6 +15,7 @@ from dataclasses import dataclass, field
 DEFAULT_BINS = ("0 - 1 km2", "1 - 10 km2", "10 - 25 km2", "25 - 50 km2", "50 - 100 km2", "100+ km2")
 WORDS = ("Wolf", "Lynx", "Otter", "Marsh", "Oak", "River", "Dry", "Upper", "Crane", "Logging", "Dam", "Peat",
          "Éland", "Straße", "Łoś", "Ωmega", "Niño", "森林", "O'Hara", 'the "old"', "a=b", "back\\slash", "K-2")
+STATES = ("removal", "old areas", "no activities")
 EXACT_LENGTHS = (19, 20, 21, 25, 26, 27, 28, 29, 40)
 
 
@@ -58,8 +59,10 @@ class Maker:
     def make(self, number, kind):
         """The whole case."""
         rng = self.rng
-        self.version = 1 if self.chance(0.15) else 2
+        self.version = 1 if self.chance(0.15) or kind == "old areas" else 2
         self.S, self.H, self.Z = rng.randint(1, 12), rng.randint(1, 6), rng.randint(1, 6)
+        if kind == "removal":
+            self.H = max(self.H, 3)
         if self.S < 6 and self.chance(0.75):
             self.S += 6
         self.A, self.F = rng.randint(1, 6), rng.randint(1, 7)
@@ -71,7 +74,14 @@ class Maker:
             self.blankNames(lines)
         elif kind == "malformed":
             lines = self.breakFile(lines)
-        answers = [rng.choice(("yes", "yes", "no")) for _ in range(self.questions)] + self.makeAnswers()
+        elif kind == "removal":
+            self.blankForRemoval(lines)
+        elif kind == "old areas":
+            self.shortenAreas(lines)
+        elif kind == "no activities":
+            self.takeActivitiesAway(lines)
+        agreed = ("yes",) if kind == "removal" else ("yes", "yes", "no")
+        answers = [rng.choice(agreed) for _ in range(self.questions)] + self.makeAnswers()
         return Case(number, kind, self.encode(lines, kind), levels, answers, self.version, self.notes)
 
     def makeLevels(self):
@@ -229,6 +239,41 @@ class Maker:
             self.questions += key in ("Common Name", "Habitat Type")
             self.notes.append(f"blank in {key}")
 
+    # States that a gate, an older program or a list left empty brings about
+
+    def blankForRemoval(self, lines):
+        """Blank names of habitats, mostly not of the last alone, and sometimes of species; all go at the gates."""
+        asked = {"Habitat Type": self.H, **({"Common Name": self.S} if self.chance(0.4) else {})}
+        for key, count in asked.items():
+            values = self.values(lines, key)
+            for i in self.rng.sample(range(count), self.rng.randint(1, max(1, count - 1))):
+                values[i] = self.rng.choice(("", "  "))
+            values[:] = [value if i or value else "  " for i, value in enumerate(values)]
+            self.questions += any(not value.strip() for value in values)
+            self.notes.append(f"blank in {key}")
+
+    def shortenAreas(self, lines):
+        """Area lines that are shorter than their lists, empty or away, in a file of version 1."""
+        for key in self.rng.choice((("Habitat Area",), ("JU Area",), ("Habitat Area", "JU Area"))):
+            line = next(line for line in lines if line[0] == key)
+            what = self.rng.choice(("shorter", "empty", "away"))
+            if what == "away":
+                lines.remove(line)
+            else:
+                del line[1][self.rng.randrange(len(line[1])) if what == "shorter" else 0 :]
+            self.notes.append(f"{key} {what}")
+
+    def takeActivitiesAway(self, lines):
+        """Ratings in a file whose activities are missing, or named only after them."""
+        last = lines[-1]
+        for key in ("Land Use", "Urgency", "Probability of occurence"):
+            line = next(line for line in lines if line[0] == key)
+            lines.remove(line)
+            if self.chance(0.3):
+                lines.insert(lines.index(last) + 1, line)
+                last = line
+                self.notes.append(f"{key} at the end")
+
     def breakFile(self, lines):
         """One or two faults of the file itself."""
         for fault in self.rng.sample(
@@ -282,7 +327,7 @@ class Maker:
         return lines
 
     def renumber(self, lines):
-        numbered = [line for line in lines if line[0][-1].isdigit()]
+        numbered = [line for line in lines if line[0][-1:].isdigit()]
         line = self.rng.choice(numbered)
         stem = line[0].rstrip("0123456789")
         line[0] = stem + self.rng.choice(("", "0", "99", "X", " 2", "1.5", "-1", "007", "2 3", "1e0"))
@@ -320,9 +365,15 @@ def makeCase(seed, number):
     return Maker(rng).make(number, kind)
 
 
-def makeCases(seed, count):
+def makeState(seed, number):
+    """Case of a number under a seed, of one of the STATES; a stream apart from that of makeCase."""
+    rng = random.Random(f"states/{seed}/{number}")
+    return Maker(rng).make(number, rng.choice(STATES))
+
+
+def makeCases(seed, count, make=makeCase):
     """The first cases of a seed."""
-    return (makeCase(seed, number) for number in range(count))
+    return (make(seed, number) for number in range(count))
 
 
 def main():
@@ -330,17 +381,19 @@ def main():
     parser.add_argument("--seed", type=int, default=1)
     parser.add_argument("--count", type=int, default=300)
     parser.add_argument("--case", type=int, help="print the project file of one case")
+    parser.add_argument("--states", action="store_true", help="cases of the states: " + ", ".join(STATES))
     parser.add_argument("--statistics", action="store_true", help="run the model over the cases and print figures")
     options = parser.parse_args()
+    make = makeState if options.states else makeCase
     if options.case is not None:
-        case = makeCase(options.seed, options.case)
+        case = make(options.seed, options.case)
         print(case.kind, case.notes, case.levels, case.answers, file=sys.stderr)
         sys.stdout.buffer.write(case.project)
     elif options.statistics:
         from compare import Figures, modelOutcome
 
         figures, kinds = Figures(), collections.Counter()
-        for case in makeCases(options.seed, options.count):
+        for case in makeCases(options.seed, options.count, make):
             outcome = modelOutcome(case)
             figures.add(case, outcome)
             kinds[case.kind, outcome.exit_code] += 1
@@ -348,7 +401,7 @@ def main():
         for (kind, code), count in sorted(kinds.items()):
             print(f"{kind:10} exit {code}: {count}")
     else:
-        for case in makeCases(options.seed, options.count):
+        for case in makeCases(options.seed, options.count, make):
             print(case.number, case.kind, f"version {case.version}", *case.notes, sep="\t")
 
 

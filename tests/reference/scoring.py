@@ -116,17 +116,24 @@ class Scoring:
     @reported("Brenica.CalculateHabitatUse")
     def CalculateHabitatUse(self):
         """Totals of the species by habitat table."""
-        self.calculateUse(self.flxSummary[0], self.TotalHabitatTypes, "No. habitats", "Total by habitat")
+        self.calculateUse(self.flxSummary[0], self.flxSummary[2], self.TotalHabitatTypes,
+                          "No. habitats", "Total by habitat")
 
     @reported("Brenica.CalculateJurisUnitUse")
     def CalculateJurisUnitUse(self):
         """Totals of the species by zone table."""
-        self.calculateUse(self.flxSummary[1], self.TotalJurisUnits, "No. Manag. zones", "Total by MZ")
+        self.calculateUse(self.flxSummary[1], self.flxSummary[3], self.TotalJurisUnits,
+                          "No. Manag. zones", "Total by MZ")
 
-    def calculateUse(self, wide, count, counted, totalled):
-        """What the two have in common."""
+    def calculateUse(self, wide, long, count, counted, totalled):
+        """What the two have in common. After the removal of a unit its table first follows the long one."""
         if self.TotalSpecies < 1 or count < 1:
             return
+        if wide in self.shiftedTables:
+            for s in range(1, self.TotalSpecies + 1):
+                for c in range(1, count + 1):
+                    wide.TextMatrix(s, c, long.TextMatrix((s - 1) * count + c, 2))
+            self.shiftedTables.remove(wide)
         sums, users = [0] * (count + 1), [0] * (count + 1)
         if wide.Cols == count + 1:
             wide.Cols += 3

@@ -13,7 +13,7 @@ from compare import differences, modelFiles
 from conversion import CDbl, CLng, CStr, IsNumeric, Round, RunTimeError, decode, splitLines
 from form import frmBrenica
 from grids import Grid
-from random_projects import makeCase
+from random_projects import STATES, makeCase, makeState
 from scoring import GetRanks
 from selection import Check4ErrorMargin
 
@@ -196,6 +196,39 @@ class Events(unittest.TestCase):
         outcome = run(project(FunctionX="1,1,1"))
         self.assertEqual((outcome.exit_code, outcome.tables), (2, {}))
 
+    def testAFileWithoutALineThatEndsInCarriageReturnIsNotReadable(self):
+        outcome = run(project().replace(b"\r\n", b"\n"))
+        self.assertEqual((outcome.exit_code, outcome.tables), (2, {}))
+
+
+class States(unittest.TestCase):
+    def testARemovedHabitatTakesItsOwnLevelsAlong(self):
+        outcome = run(project(Habitat_Type=",Meadow"), answers=["yes"])
+        use = cells(outcome, "HabitatHeterogeneitySummary")
+        self.assertEqual(use[0], ["Common Name", "Meadow", "", "Total by species", "No. habitats"])
+        self.assertEqual([row[1] for row in use[1:4]], ["0", "3", "1"])
+        self.assertEqual([row[1] for row in use[-2:]], ["4", "2"])
+        self.assertEqual([row[2] for row in cells(outcome, "HabitatHeterogeneityDetailedSummary")[1:]], ["0", "3", "1"])
+
+    def testTheLastHabitatTakesNothingElseAlong(self):
+        outcome = run(project(Habitat_Type="Wood,"), answers=["yes"])
+        self.assertEqual([row[1] for row in cells(outcome, "HabitatHeterogeneitySummary")[1:4]], ["3", "0", "1"])
+
+    def testVersion1FillsEveryBlankLevelOfUse(self):
+        changes = {"Project_Version": None, "Habitat_UseLevel": None, "MZone_UseLevel": None}
+        outcome = run(project(Habitat_Area="10", JU_Area="", **changes))
+        self.assertEqual([row[3] for row in cells(outcome, "HabitatData")[1:]], ["2", "2"])
+        self.assertEqual([row[3] for row in cells(outcome, "ManagZonesData")[1:]], ["2"])
+
+    def testRatingsWithoutActivitiesArePassedOver(self):
+        outcome = run(project(Land_Use=None, Urgency=None, **{"Probability of occurence": None}))
+        self.assertEqual(outcome.exit_code, 3)
+        self.assertEqual([row[4:] for row in cells(outcome, "VulnerabilityBySpeciesSummary")[1:]], [["", "", ""]] * 3)
+
+    def testStatesHaveAStreamOfTheirOwn(self):
+        self.assertEqual(makeState(1, 7), makeState(1, 7))
+        self.assertEqual({makeState(1, number).kind for number in range(30)}, set(STATES))
+
 
 class Margin(unittest.TestCase):
     def block(self, *rows):
@@ -284,6 +317,7 @@ class SelectionRuns(unittest.TestCase):
         self.assertEqual(checkLevels({"error-margin": "100"}), "")
         self.assertNotEqual(checkLevels({"error-margin": "101"}), "")
         self.assertEqual(run(project(), {"threat-representation": "x"}).exit_code, 1)
+        self.assertEqual(run(project(), {"threat-representation": "0,5"}).exit_code, 1)
 
 
 class Comparison(unittest.TestCase):

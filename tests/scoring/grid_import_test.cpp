@@ -93,16 +93,16 @@ TEST_F(GridImport, TakesTheFieldsOfAUnitByTheirNumberAndWhetherTheFirstIsANumber
         import(content);
         const ui::Grid& grid = list(kind);
         ASSERT_EQ(grid.Rows(), 11);
-        EXPECT_THAT(rowOf(grid, 1), ElementsAre("1", "Bog", "", ""));
-        EXPECT_THAT(rowOf(grid, 2), ElementsAre("2", "Fen", "", ""));
-        EXPECT_THAT(rowOf(grid, 3), ElementsAre("3", "Fen", "12.5", ""));
-        EXPECT_THAT(rowOf(grid, 4), ElementsAre("4", "Bog", "12", ""));
+        EXPECT_THAT(rowOf(grid, 1), ElementsAre("1", "Bog", "", "2"));
+        EXPECT_THAT(rowOf(grid, 2), ElementsAre("2", "Fen", "", "2"));
+        EXPECT_THAT(rowOf(grid, 3), ElementsAre("3", "Fen", "12.5", "2"));
+        EXPECT_THAT(rowOf(grid, 4), ElementsAre("4", "Bog", "12", "2"));
         EXPECT_THAT(rowOf(grid, 5), ElementsAre("5", "Bog", "12", "3"));
         EXPECT_THAT(rowOf(grid, 6), ElementsAre("6", "Fen", "0.5", "1"));
-        EXPECT_THAT(rowOf(grid, 7), ElementsAre("7", "Fen", "large", "")) << "no test of contents";
+        EXPECT_THAT(rowOf(grid, 7), ElementsAre("7", "Fen", "large", "2")) << "no test of contents";
         EXPECT_THAT(rowOf(grid, 8), ElementsAre("8", "1", "2", "3")) << "of four the first is the number";
         EXPECT_THAT(rowOf(grid, 9), ElementsAre("9", "", "", ""));
-        EXPECT_THAT(rowOf(grid, 10), ElementsAre("10", "Moor", "", ""));
+        EXPECT_THAT(rowOf(grid, 10), ElementsAre("10", "Moor", "", "2"));
         EXPECT_EQ(kind == Habitats ? global.TotalHabitatTypes : global.TotalJurisUnits, 10);
     }
 }
@@ -135,6 +135,39 @@ TEST_F(GridImport, TakesABreakpointOrAFunctionFromTheOnlyOrTheSecondField) {
     EXPECT_THAT(rowOf(form.flxFunctions, 7), ElementsAre("7", "Grazing"));
     EXPECT_THAT(rowOf(form.flxFunctions, 8), ElementsAre("8", "Burrowing"));
     EXPECT_THAT(rowOf(form.flxFunctions, 9), ElementsAre("9", "Nesting"));
+}
+
+TEST_F(GridImport, AUnitWithoutALevelOfUseGetsTheOneOfAnAddedUnit) {
+    for (const int kind : {Habitats, Zones}) {
+        openList(kind);
+        import("1\tBog\t12\t\r\nFen\t3\t\r\nMoor\t3\t0\r\nHeath\t\r\n1\t2\t3\t4\t5\r\n");
+        EXPECT_THAT(columnOf(list(kind), list::LevelOfUse),
+                    ElementsAre("Level of Use", "2", "2", "0", "2", ""));
+    }
+}
+
+TEST_F(GridImport, FitsTheListAsAnAdditionDoes) {
+    std::string rows;
+    for (int i = 0; i < 200; ++i) rows += "A rather long name of an entry\r\n";
+    const auto widths = [](const ui::Grid& grid) {
+        std::vector<int> found{grid.Width()};
+        for (int col = 0; col < grid.Cols(); ++col) found.push_back(grid.ColWidth(col));
+        return found;
+    };
+    const auto expectFitted = [&](const ui::Grid& grid) {
+        const auto imported = widths(grid);
+        form.ResizeForm();
+        EXPECT_EQ(imported, widths(grid)) << grid.Name();
+    };
+    openText(ProjectText(0, 0, 0, 0).set("Home-range definition", "user-defined bins,0").text());
+    import(rows);
+    expectFitted(form.flxCandidateSpecies);
+    for (const int kind : {Habitats, Zones, Activities, Bins, Functions}) {
+        openList(kind);
+        import(rows + "\r\nbehind an empty line\r\n");
+        expectFitted(list(kind));
+        if (kind == Activities) form.flxLandUses.Rows(1);
+    }
 }
 
 TEST_F(GridImport, AnEmptyFieldKeepsItsPlace) {

@@ -340,6 +340,47 @@ TEST_F(SummaryEditing, AnItemOfTheListIsStoredAndMarksTheProjectChanged) {
     }
 }
 
+TEST_F(SummaryEditing, ARatingWithoutActivitiesIsNotWrittenThrough) {
+    openForEditing(ProjectText(3, 1, 1, 0));
+    form.tabCriteriaSummary.UserSelectTab(6);
+    for (int row = 1; row <= 3; ++row) {
+        for (int col = 2; col <= 4; ++col) ASSERT_TRUE(table(7).UserEditCell(row, col, "3"));
+        EXPECT_THAT(tableRow(6, row), ElementsAre("Species " + std::to_string(row), "", "", "", "", "", ""));
+    }
+}
+
+/// A comma that groups digits makes 5 of 0,5: what the leading digits tell is not what the scores would read.
+TEST_F(SummaryEditing, AProportionWithACommaLiesWithinTheBoundsHoweverItIsRead) {
+    openForEditing();
+    for (const auto& [member, tab, col] : {std::tuple{4, 3, 4}, {5, 4, 1}}) {
+        form.tabCriteriaSummary.UserSelectTab(tab);
+        for (const char* bad : {"0,5", "1,0", "0,05", "-0,5"})
+            EXPECT_FALSE(typed(member, 2, col, bad)) << bad;
+        EXPECT_TRUE(typed(member, 2, col, "0,1"));
+        EXPECT_EQ(table(member).TextMatrix(2, col), "0,1");
+    }
+}
+
+TEST_F(SummaryEditing, ADecimalCommaInAProportionCounts) {
+    platform.Separator = ui::DecimalSeparator::Comma;
+    modGlobal elsewhere;
+    frmBrenica commaForm(platform, files, elsewhere);
+    type(commaForm.txtTotalSpecies, "1");
+    commaForm.cmdUpdateSpecies.UserClick();
+    ASSERT_TRUE(commaForm.flxCandidateSpecies.UserEditCell(1, list::Name, "Ant"));
+    commaForm.tabBrenica.UserSelectTab(4);
+    commaForm.chkAllowSummaryEdit.UserClick();
+    for (const auto& [member, tab, col] : {std::tuple{4, 3, 4}, {5, 4, 1}}) {
+        commaForm.tabCriteriaSummary.UserSelectTab(tab);
+        ui::Grid& grid = commaForm.flxSummary(member);
+        for (const char* bad : {"1,5", "-0,5", "2,0"}) EXPECT_FALSE(grid.UserEditCell(1, col, bad)) << bad;
+        for (const char* good : {"0,5", "1,0", "0,05"}) {
+            EXPECT_TRUE(grid.UserEditCell(1, col, good)) << good;
+            EXPECT_EQ(grid.TextMatrix(1, col), good);
+        }
+    }
+}
+
 TEST_F(SummaryEditing, AnEditReachesTheScoresOfTheNextVisit) {
     openForEditing(ProjectText(1, 1, 1, 1));
     ASSERT_TRUE(table(0).UserEditCell(1, 1, "3"));
@@ -428,6 +469,17 @@ TEST_F(SummaryTips, AreEmptyOverDataAndTheFirstColumn) {
         for (const auto& [row, col] : {std::pair{1, 1}, {2, 4}, {1, 0}, {2, 0}, {0, 0}, {3, 1}}) {
             ASSERT_NE(tipAt(member, 0, 1), "");
             EXPECT_EQ(tipAt(member, row, col), "") << member << ": " << row << "," << col;
+        }
+    }
+}
+
+TEST_F(SummaryTips, AreEmptyOverDataOfATableWithoutTotals) {
+    openAt(ProjectText(2, 0, 0, 0), 4);
+    for (const int member : {0, 1, 5}) {
+        ASSERT_EQ(table(member).Rows(), 3);
+        for (const int row : {1, 2}) {
+            table(member).ToolTipText("left over");
+            EXPECT_EQ(tipAt(member, row, 0), "") << member << ": " << row;
         }
     }
 }

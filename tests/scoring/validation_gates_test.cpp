@@ -115,7 +115,7 @@ TEST_F(PageGate, AsksAboutTheListThatIsOpen) {
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.Index);
-        open(ProjectText(1, 2, 2, 2).set("Home-range definition", "user-defined bins,0,5"));
+        open(ProjectText(1, 2, 2, 2).set("Home-range definition", "user-defined bins,0,5,20"));
         goTo(2);
         form.optLandChar(c.Index).UserClick();
         ASSERT_TRUE(c.Grid->UserEditCell(2, 1, " "));

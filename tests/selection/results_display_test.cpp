@@ -102,6 +102,17 @@ TEST_F(ResultsDisplay, ANewRunForgetsTheMarksOfTheOneBefore) {
     EXPECT_EQ(form.flxCompResults(1).BackColorOf(1, 1), ui::rgb(200, 100, 0));
 }
 
+TEST_F(ResultsDisplay, ASuiteThatStaysEmptyHasNoColourOfTheOneBefore) {
+    openForSelection(bestCoversNothing().set("Conservation Status", "0.5,0.9,0.9"));
+    select();
+    ASSERT_EQ(form.flxBrenicSuite.BackColorOf(1, 2), ui::rgb(200, 50, 0));
+    type(form.txtCCSRep, "0.8");  // which leaves the species that covers nothing
+    select();
+    ASSERT_EQ(form.flxBrenicSuite.Rows(), 2);
+    EXPECT_THAT(rowOf(form.flxBrenicSuite, 1), testing::ElementsAre("1", "", "", "", ""));
+    for (int col = 0; col <= 4; ++col) EXPECT_EQ(form.flxBrenicSuite.BackColorOf(1, col), White) << col;
+}
+
 TEST_F(ResultsDisplay, ShowsOneViewAtATime) {
     openForSelection(oneCoversAll());
     select();

@@ -57,11 +57,6 @@ struct AllowedFailure {
 };
 
 inline constexpr AllowedFailure AllowedFailures[] = {
-    // Removing a species takes the item at its place from the species selector whenever the selector has any item; the
-    // selector is rebuilt only when the species page is left, so that a species added since has no item yet.
-    {Deed::RemoveRow, 5, "Brenica.RemoveSpecies"},
-    // The gate of the species page removes rows with blank names by the same way.
-    {Deed::SelectPage, 5, "Brenica.RemoveSpecies"},
     // Removing a breakpoint takes the item behind its label from the bins' box; for the last one there is none.
     {Deed::RemoveRow, 5, "Brenica.RemoveBin"},
     // The gates of the parameter page remove blank breakpoints by the same way.
@@ -105,17 +100,10 @@ inline constexpr AllowedFailure AllowedFailures[] = {
     // summary table takes a blank status, import a blank or any other level.
     {Deed::Select, 13, "Brenica.cmdComplement_Click"},
     {Deed::Select, 6, "Brenica.cmdComplement_Click"},
-    // When no species is left in the race the scan for the pick runs into the blank row that closes the block. On the
-    // way from a summary table to the results nothing is calculated anew, so that blank scores of a species added since
-    // fail likewise.
+    // When no species is left in the race the scan for the pick runs into the blank row that closes the block.
     {Deed::Select, 13, "BrenicaUtilities.cmdComplement_Click"},
     // A single survivor keeps the count of the last margin of error, which reads past the block into its blank row.
     {Deed::Select, 13, "BrenicaUtilities.SelectErrorMarginSpecies"},
-    // Levels of use, ratings and scores of rows added after the last scores are blank, and old scores still allow a
-    // selection when the results are reached from a summary table.
-    {Deed::Select, 13, "BrenicaUtilities.Check4ErrorMargin"},
-    {Deed::Select, 13, "BrenicaUtilities.GetUnitsUsed"},
-    {Deed::Select, 13, "BrenicaUtilities.RecalcVulnerabilityScore"},
     // A file that cannot be opened ends an import and an export with the report; so does the file number that a failed
     // open has left open.
     {Deed::Import, 53, "Brenica.ImportData"},
@@ -124,13 +112,14 @@ inline constexpr AllowedFailure AllowedFailures[] = {
     {Deed::Export, 76, "Brenica.MenuSelectionDataGrid"},
 };
 
-/// Once a command has been left with the grids half cleared or as far as a bad file brought them, rows and columns that
-/// a procedure counts on may be missing or hold anything. Every procedure may then fail in these ways, and in no other.
-inline constexpr int FailuresOutOfStep[] = {5, 6, 7, 9, 11, 13, 53, 55, 76, 380};
+/// Of a damaged file, or one that was saved with a comma in a cell, rows and columns that a procedure counts on may be
+/// missing or hold anything, whether it was read to its end or as far as a bad line. Every procedure may then fail in
+/// these ways, and in no other.
+inline constexpr int FailuresOfADamagedFile[] = {5, 6, 9, 13, 53, 55, 76, 380};
 
-inline bool isAllowed(Deed deed, int number, std::string_view source, bool outOfStep) {
-    if (outOfStep) {
-        for (const int allowed : FailuresOutOfStep) {
+inline bool isAllowed(Deed deed, int number, std::string_view source, bool damagedFile) {
+    if (damagedFile) {
+        for (const int allowed : FailuresOfADamagedFile) {
             if (allowed == number) return true;
         }
         return false;

@@ -141,11 +141,11 @@ inline void Walker::run(int deeds) {
     const int kind = random_.below(100);
     if (kind < 65) openComplete(kind < 50);
     const bool completes = random_.chance(30);
-    while (running() && Total < deeds) {
+    while (running() && Total < deeds && !random_.exhausted()) {
         const int before = Total;
         randomDeed();
         if (Total == before) act(Deed::MouseMove, "nowhere", [] {});
     }
-    if (completes && running() && !OutOfStep) completeAndSelect();
+    if (completes && running() && !DamagedFile) completeAndSelect();
     if (running()) End = WalkEnd::Tired;
 }

@@ -101,6 +101,15 @@ private:
     int percent_ = 0;
 };
 
+std::string lostTexts(const ProjectCopy& copy) {
+    std::string texts;
+    for (const UncarriedCell& cell : copy.lostBySaving()) {
+        texts += cell.Grid + " " + std::to_string(cell.Row) + " " + std::to_string(cell.Column) + " \"" +
+                 cell.Text + "\"; ";
+    }
+    return texts;
+}
+
 class CopyRoundTrip : public testing::Test {
 protected:
     TemporaryFolder folder;
@@ -119,6 +128,17 @@ protected:
         EXPECT_EQ(again.global.ProjectFileName, "landscape.brn");
         EXPECT_TRUE(again.form.ProjectChanged);
         EXPECT_FALSE(again.form.ProjectLoading);
+    }
+
+    /// Whether a saved file has given back all but what opening changes. A comma in a name makes tables that are out of
+    /// step, which is not the same.
+    static bool holdsTheSame(RunningForm& again, const RunningForm& original, const ProjectCopy& copy) {
+        try {
+            again.form.RestoreCopy(withoutLost(copy), "");
+            return again.form.TakeCopy().Text == copy.Text && again.cells() == original.cells();
+        } catch (const ui::RunTimeError&) {
+            return false;
+        }
     }
 
     /// The copy with those texts only that opening changes, not saving.
@@ -145,7 +165,8 @@ TEST_F(CopyRoundTrip, GivesBackProjectsWithAnyTexts) {
         original.open(path);
         AnyTexts(random, original.form).enter(random.pick({0, 5, 30, 100}));
         if (random.chance(20)) {
-            while (original.global.TotalFunctions > 0) original.form.RemoveFunction(1);
+            original.form.txtRemoveFunctionIndex.Text("1");
+            while (original.global.TotalFunctions > 0) original.form.cmdRemoveFunction.UserClick();
         }
         expectRestored(original);
         if (HasFatalFailure()) FAIL() << "project " << i;
@@ -158,7 +179,7 @@ TEST_F(CopyRoundTrip, GivesBackProjectsEnteredByHand) {
     for (int i = 0; i < 60; ++i) {
         Walker walker(seeds.next());
         walker.run(120);
-        if (walker.End != WalkEnd::Tired || walker.OutOfStep) continue;
+        if (walker.End != WalkEnd::Tired || walker.DamagedFile) continue;
         const ProjectCopy copy = walker.form.TakeCopy();
         const std::string path = folder.file("walked.brn");
         writeFile(path, copy.Text);
@@ -188,11 +209,7 @@ TEST_F(CopyRoundTrip, NamesNothingWhereASavedFileGivesAllBack) {
         original.platform.Files = {saved};
         original.form.mnuSaveProject.UserClick();
         RunningForm again;
-        const ProjectCopy shown = withoutLost(copy);
-        const bool opened = again.open(saved);
-        if (opened) again.form.RestoreCopy(shown, saved);
-        const bool same =
-            opened && again.form.TakeCopy().Text == copy.Text && again.cells() == original.cells();
-        ASSERT_EQ(same, copy.lostBySaving().empty()) << "project " << i;
+        const bool same = again.open(saved) && holdsTheSame(again, original, copy);
+        ASSERT_EQ(same, copy.lostBySaving().empty()) << "project " << i << ": " << lostTexts(copy);
     }
 }

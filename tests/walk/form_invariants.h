@@ -14,10 +14,6 @@
 struct Leeway {
     /// A command that clears the project was told No by a gate: the tab strip stays on the page that refused.
     bool StrayPage = false;
-    /// It was told No about home range data: the button of the old type is on again, the type is continuous.
-    bool StrayHomeRangeButton = false;
-    /// It shows the table of normalised scores, whatever button is on.
-    bool StrayScoreButton = false;
     /// Removing a habitat or zone shifts no cells of its cross table.
     bool StrayHabitatCells = false;
     bool StrayZoneCells = false;
@@ -72,8 +68,8 @@ public:
         return false;
     }
 
-    /// What holds even of a project that a command has left halfway.
-    std::vector<std::string> problemsOutOfStep() {
+    /// What holds even of a project that comes from a damaged file.
+    std::vector<std::string> problemsOfADamagedFile() {
         titleBar();
         return std::move(problems_);
     }
@@ -194,8 +190,7 @@ private:
                     form_.cmdRemoveBin.Enabled() == (type == 2) &&
                     form_.txtRemoveBinIndex.Enabled() == (type == 2),
                 "the breakpoints' controls are enabled for user-defined bins only");
-        require(leeway_.StrayHomeRangeButton || form_.optHomeRangeType(type).Value(),
-                "the button of the home range type is off");
+        require(form_.optHomeRangeType(type).Value(), "the button of the home range type is off");
     }
 
     void summaryViews() {
@@ -214,7 +209,8 @@ private:
         const bool views[] = {form_.flxScoresSort(0).Visible(), form_.flxScoresSort(1).Visible(),
                               form_.chtScores(0).Visible(), form_.chtScores(1).Visible(),
                               form_.chtScores(2).Visible()};
-        const bool original = form_.optScoreDisplay(1).Value() && !leeway_.StrayScoreButton;
+        require(form_.ScoreDisplayMode == (form_.optScoreDisplay(1).Value() ? 1 : 0), "the score display");
+        const bool original = form_.optScoreDisplay(1).Value();
         const bool graphs = form_.chkShowGraphs.Value();
         const int table = original ? 1 : 0;
         const int chart = original ? 3 : form_.chkShowAggregateScore.Value() ? 2 : 4;

@@ -2,21 +2,31 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <initializer_list>
+#include <optional>
 #include <random>
 #include <string>
+#include <string_view>
 #include <vector>
 
 /// Random choices that a seed repeats on every machine: the engine is the standard's, and no distribution is used,
-/// since those differ between libraries.
+/// since those differ between libraries. Bytes can stand in for the engine: then each choice takes as few of them as
+/// it needs, and is the first one when none are left.
 class Random {
 public:
     explicit Random(std::uint64_t seed) : engine_(seed) {}
+    explicit Random(std::string_view bytes) : bytes_(bytes) {}
 
-    std::uint64_t next() { return engine_(); }
+    /// Whether the bytes are used up.
+    bool exhausted() const { return bytes_ && bytes_->empty(); }
+    std::uint64_t next() { return bytes_ ? taken(sizeof(std::uint64_t)) : engine_(); }
     /// 0 to count - 1.
-    int below(int count) { return static_cast<int>(engine_() % static_cast<std::uint64_t>(count)); }
+    int below(int count) {
+        const std::uint64_t drawn = bytes_ ? taken(count <= 0x100 ? 1 : sizeof count) : engine_();
+        return static_cast<int>(drawn % static_cast<std::uint64_t>(count));
+    }
     int between(int first, int last) { return first + below(last - first + 1); }
     bool chance(int percent) { return below(100) < percent; }
 
@@ -30,7 +40,16 @@ public:
     }
 
 private:
-    std::mt19937_64 engine_;
+    std::uint64_t taken(std::size_t size) {
+        std::uint64_t number = 0;
+        for (const char byte : bytes_->substr(0, size))
+            number = number << 8 | static_cast<unsigned char>(byte);
+        bytes_->remove_prefix(std::min(size, bytes_->size()));
+        return number;
+    }
+
+    std::mt19937_64 engine_{};
+    std::optional<std::string_view> bytes_{};
 };
 
 /// A name as users type them; a few are too long for the cross tables, foreign, numbers, or all blanks.

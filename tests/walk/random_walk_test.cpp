@@ -16,14 +16,14 @@ struct WalkReport {
     int Walks = 0;
     int Selected = 0;
     int Left = 0;
-    int Halfway = 0;
+    int Damaged = 0;
 
     void add(const Walker& walker) {
         ++Walks;
         Total += walker.Total;
         Selected += walker.Selected ? 1 : 0;
         Left += walker.End == WalkEnd::Left ? 1 : 0;
-        Halfway += walker.OutOfStep ? 1 : 0;
+        Damaged += walker.DamagedFile ? 1 : 0;
         for (std::size_t i = 0; i < Deeds.size(); ++i) Deeds[i] += walker.Deeds[i];
         if (walker.End == WalkEnd::Failure) ++Failures[walker.Ending];
         if (walker.End == WalkEnd::Defect) Defects.push_back(walker.Trouble);
@@ -31,8 +31,8 @@ struct WalkReport {
 
     void print() const {
         std::cout << Total << " deeds in " << Walks << " walks: " << Selected
-                  << " with a finished selection, " << Left << " left by Exit, " << Halfway
-                  << " out of step, " << Defects.size() << " defects\n";
+                  << " with a finished selection, " << Left << " left by Exit, " << Damaged
+                  << " with a damaged file, " << Defects.size() << " defects\n";
         for (std::size_t i = 0; i < Deeds.size(); ++i) {
             std::cout << "  " << Deeds[i] << "  " << DeedNames[i] << "\n";
         }

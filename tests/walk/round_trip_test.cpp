@@ -185,7 +185,7 @@ TEST_F(RoundTrip, ProjectsEnteredByHandComeBackUnchangedFromTheSecondReadingOn) 
     for (int i = 0; i < 60; ++i) {
         Walker walker(seeds.next());
         walker.run(120);
-        if (walker.End != WalkEnd::Tired || walker.OutOfStep) continue;
+        if (walker.End != WalkEnd::Tired || walker.DamagedFile) continue;
         walker.End = WalkEnd::Running;
         if (!walker.savesInStep()) continue;
         const std::string path = walker.saveNow();

@@ -21,14 +21,15 @@ TEST_F(WalkFindings, RemoveBoxOfAListWithoutHeadingRowComesToRest) {
     EXPECT_EQ(form.txtRemoveBinIndex.Text(), "0");
 }
 
-// Walks 10898884866352864291 and 1235451515574417066: the row of the table by species is counted in blocks of no rows.
-TEST_F(WalkFindings, RatingEditedByActivityWithoutActivitiesGoesToTheFirstRow) {
+// Walks 10898884866352864291 and 1235451515574417066: the row of the table by species was counted in blocks of no rows.
+TEST_F(WalkFindings, RatingEditedByActivityWithoutActivitiesStaysInItsTable) {
     open(ProjectText(2, 1, 1, 0));
     goTo(4);
     form.tabCriteriaSummary.UserSelectTab(6);
     form.chkAllowSummaryEdit.UserClick();
     ASSERT_TRUE(form.flxSummary(7).UserEditCell(2, 2, "3"));
-    EXPECT_EQ(form.flxSummary(6).TextMatrix(1, threat::Severity), "3");
+    EXPECT_EQ(form.flxSummary(7).TextMatrix(2, 2), "3");
+    EXPECT_EQ(form.flxSummary(6).TextMatrix(1, threat::Severity), "");
     EXPECT_EQ(form.flxSummary(6).TextMatrix(2, threat::Severity), "");
 }
 

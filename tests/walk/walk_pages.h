@@ -36,23 +36,18 @@ public:
     }
 
     void choose(ui::ComboBox& box, int index) {
-        act(Deed::ChooseItem, box.Name() + " " + std::to_string(index), [&] { box.UserChoose(index); });
+        const bool looks = &box == &form_.cbxSpeciesName && form_.HomeRangeType > 0;
+        act(Deed::ChooseItem, box.Name() + " " + std::to_string(index), [&] {
+            const std::vector<std::string> before = homeRanges();
+            box.UserChoose(index);
+            if (looks && homeRanges() != before) walker_.defect("a look at a species changed a home range");
+        });
     }
     void click(ui::CheckBox& box) {
-        act(Deed::ClickCheckBox, box.Name(), [&] {
-            box.UserClick();
-            if (&box == &form_.chkShowGraphs) walker_.leeway_.StrayScoreButton = false;
-        });
-    }
-    void click(ui::OptionButton& button, bool& stray) {
-        act(Deed::ClickOption, button.Name(), [&] {
-            button.UserClick();
-            stray = false;
-        });
+        act(Deed::ClickCheckBox, box.Name(), [&] { box.UserClick(); });
     }
     void click(ui::OptionButton& button) {
-        bool none = false;
-        click(button, none);
+        act(Deed::ClickOption, button.Name(), [&] { button.UserClick(); });
     }
     void push(Deed deed, ui::CommandButton& button) {
         act(deed, button.Name(), [&] { button.UserClick(); });
@@ -72,16 +67,26 @@ public:
     void selectSpecies() {
         act(Deed::Select, "", [&] {
             const bool enabled = form_.cmdComplement.Enabled();
+            bool refused = false;
+            form_.SelectionRefused = [&refused] { refused = true; };
             form_.cmdComplement.UserClick();
+            form_.SelectionRefused = nullptr;
             const bool reported = !walker_.platform.Transcript.empty() &&
                                   walker_.platform.Transcript.back().Title == "Selection Report";
-            if (enabled && walker_.global.ScoresCalculated && !reported)
+            if (enabled && walker_.global.ScoresCalculated && !reported && !refused)
                 walker_.defect("a selection without its report");
             walker_.Selected = walker_.Selected || reported;
         });
     }
 
 private:
+    std::vector<std::string> homeRanges() const {
+        const ui::Grid& areas = form_.flxSummary(summary::Area);
+        std::vector<std::string> texts;
+        for (int row = 1; row < areas.Rows(); ++row) texts.push_back(areas.TextMatrix(row, area::HomeRange));
+        return texts;
+    }
+
     struct ListPage {
         ui::Grid& Grid;
         ui::TextBox& NewRows;
@@ -132,10 +137,12 @@ private:
         }
     }
 
-    /// Lists stay short, so that a walk stays quick; once in a while many rows come at once.
+    /// Lists stay short, so that a walk stays quick; once in a while many rows come at once, to one list of a walk.
     void addRows(const ListPage& page, bool bins) {
         const int most = page.Grid.Rows() > 12 ? 1 : 4;
-        const int count = random_.chance(1) && page.Grid.Rows() < 12 ? 60 : random_.below(most + 1);
+        const bool many = random_.chance(1) && !walker_.manyRows_;
+        const int count = many ? 60 : random_.below(most + 1);
+        walker_.manyRows_ = walker_.manyRows_ || many;
         if (!bins || random_.chance(80)) put(page.NewRows, std::to_string(count));
         if (walker_.running()) push(bins ? Deed::AddBins : Deed::AddRows, page.Update);
         if (random_.chance(75)) nameRows(page.Grid);
@@ -153,7 +160,7 @@ private:
         walker_.randomAnswers();
         if (random_.chance(15)) return click(form_.optLandChar(random_.below(5)));
         if (form_.CurrentLandChar == 3 && random_.chance(25)) {
-            return click(form_.optHomeRangeType(random_.below(3)), walker_.leeway_.StrayHomeRangeButton);
+            return click(form_.optHomeRangeType(random_.below(3)));
         }
         listPage(listOnView());
     }
@@ -226,7 +233,7 @@ private:
     void scorePage() {
         walker_.randomAnswers();
         switch (random_.below(7)) {
-            case 0: return click(form_.optScoreDisplay(random_.below(2)), walker_.leeway_.StrayScoreButton);
+            case 0: return click(form_.optScoreDisplay(random_.below(2)));
             case 1: return click(form_.chkShowGraphs);
             case 2: return click(form_.chkShowAggregateScore);
             case 3: return random_.chance(50) ? graphCommand() : exportTable();

@@ -23,12 +23,11 @@ enum class WalkEnd { Running, Tired, Failure, Left, Defect };
 /// after each the form is looked over. A failure that leaves the form ends the walk, as it ends the program.
 class Walker {
 public:
-    explicit Walker(std::uint64_t walkSeed) : random_(walkSeed), seed_(walkSeed) {
-        platform.Folder = folder_.path();
-        trackShapes();
-    }
+    explicit Walker(std::uint64_t walkSeed) : Walker(Random(walkSeed), std::to_string(walkSeed)) {}
+    /// A walk that bytes decide on.
+    explicit Walker(std::string_view bytes) : Walker(Random(bytes), "of bytes") {}
 
-    /// Does up to `deeds` deeds.
+    /// Does up to `deeds` deeds, or until the bytes are used up.
     void run(int deeds);
 
     // What the report counts.
@@ -38,7 +37,7 @@ public:
     std::string Ending;   ///< of a failure: deed, number and source
     std::string Trouble;  ///< of a defect: what, and the last deeds
     bool Selected = false;
-    bool OutOfStep = false;
+    bool DamagedFile = false;  ///< the project on view comes from one
 
     ScriptedPlatform platform;
     ui::Files files;
@@ -64,6 +63,11 @@ public:
 private:
     friend class PageDeeds;
 
+    Walker(Random random, std::string name) : random_(std::move(random)), name_(std::move(name)) {
+        platform.Folder = folder_.path();
+        trackShapes();
+    }
+
     void randomAnswers();
     void judge(Deed deed, const ui::RunTimeError& error);
     void lookOver(Deed deed);
@@ -75,10 +79,14 @@ private:
     struct ProjectFile {
         std::string Path;
         bool InStep = true;  ///< opening it gives grids in step
+        bool Whole = false;  ///< and a save then gives the same text
     };
     void closeEditor();
     void projectCommand(Deed deed, ui::MenuItem& item, const ProjectFile* opened);
-    void noteStrays();
+    void judgeUnfinished(const ProjectFile* opened);
+    void requireNewProject();
+    void requireSameText(const ProjectFile& opened);
+    void noteGateRefusal();
     void newProject();
     void openProject();
     void saveProject();
@@ -90,11 +98,12 @@ private:
 
     TemporaryFolder folder_;
     Random random_;
-    std::uint64_t seed_;
+    std::string name_;
     Leeway leeway_;
     int habitatsBefore_ = 0;
     int zonesBefore_ = 0;
     int fileNumber_ = 0;
+    bool manyRows_ = false;
     std::vector<ProjectFile> saved_;
     std::deque<std::string> trail_;
 };
@@ -142,23 +151,23 @@ inline void Walker::judge(Deed deed, const ui::RunTimeError& error) {
         return defect("a report that names " + report.Source + " of a failure from " + error.Source);
     }
     Ending = std::string(nameOf(deed)) + ": " + std::to_string(report.Number) + " in " + report.Source;
-    if (OutOfStep) Ending = "out of step, " + Ending;
-    if (!isAllowed(deed, report.Number, report.Source, OutOfStep)) defect("no rule allows " + Ending);
+    if (DamagedFile) Ending = "of a damaged file, " + Ending;
+    if (!isAllowed(deed, report.Number, report.Source, DamagedFile)) defect("no rule allows " + Ending);
 }
 
 inline void Walker::defect(const std::string& what) {
     End = WalkEnd::Defect;
-    Trouble = "walk " + std::to_string(seed_) + ", deed " + std::to_string(Total) + ": " + what + "\n";
+    Trouble = "walk " + name_ + ", deed " + std::to_string(Total) + ": " + what + "\n";
     for (const std::string& deed : trail_) Trouble += "    " + deed + "\n";
 }
 
-/// Between the deeds all must fit, unless a command was left halfway.
+/// Between the deeds all must fit, unless the file was damaged.
 inline void Walker::lookOver(Deed deed) {
     const auto report = [&](const std::vector<std::string>& problems) {
         if (!problems.empty()) defect(std::string("after ") + nameOf(deed) + ": " + problems.front());
     };
     FormInvariants invariants(form, leeway_);
-    if (OutOfStep) return report(invariants.problemsOutOfStep());
+    if (DamagedFile) return report(invariants.problemsOfADamagedFile());
     noteRemovals();
     report(invariants.problems());
     if (running()) report(invariants.problemsOfView());
@@ -189,12 +198,12 @@ inline void Walker::closeEditor() {
     });
 }
 
-/// Runs New, Open or Save. The dialogue's folder, which all commands that run through clear, tells whether one did.
+/// Runs New or Open. The dialogue's folder, which all commands that run through clear, tells whether one did.
 inline void Walker::projectCommand(Deed deed, ui::MenuItem& item, const ProjectFile* opened) {
     closeEditor();
     if (!running()) return;
     randomAnswers();
-    const bool asked = deed != Deed::SaveProject && form.ProjectChanged;
+    const bool asked = form.ProjectChanged;
     const bool saves = asked && random_.chance(20);
     if (asked) platform.Answers.push_front(saves ? "yes" : "no");
     ProjectFile saving{newPath(".brn"), savesInStep()};
@@ -206,54 +215,71 @@ inline void Walker::projectCommand(Deed deed, ui::MenuItem& item, const ProjectF
     }
     const std::string title = form.Caption();
     const bool savePossible = !files.IsOpen(2);
-    const bool openPossible = !files.IsOpen(1) && !form.ProjectLoading;
     bool reached = false;
     act(deed, opened != nullptr ? opened->Path : "", [&] {
         files.ClearLastFault();
-        form.cdgFileDialog.InitDir = "left halfway";
+        form.cdgFileDialog.InitDir = "not finished";
         const auto planned = platform.Files;
         item.UserClick();
         const bool finished = form.cdgFileDialog.InitDir.empty();
         const std::size_t shown = std::min(platform.FileDialogs.size(), planned.size());
         const bool cancelled = shown > 0 && !planned[shown - 1];
-        const bool clears = deed == Deed::NewProject || deed == Deed::OpenProject;
         const std::size_t dialogs = (saves ? 1u : 0u) + (opened != nullptr ? 1u : 0u);
         const bool saveFailed = saves && !cancelled && platform.FileDialogs.size() < dialogs;
-        reached = clears && !cancelled && !saveFailed && (!saves || savePossible);
-        if (!reached) {
-            if (!finished && form.Caption() != title) defect("a command left halfway changed the title");
-            return;
-        }
-        const bool unopened = files.LastFault() && files.LastFault()->Line == 0 && !form.ProjectLoading;
-        if (finished) {
-            OutOfStep = opened != nullptr && !opened->InStep;
-            leeway_ = Leeway();
-        } else if (unopened) {
-            OutOfStep = false;
-            leeway_ = Leeway();
-            if (global.TotalSpecies != 0 || form.flxCandidateSpecies.Rows() != 1)
-                defect("a file that cannot be opened leaves no empty project");
-        } else {
-            OutOfStep = true;
-            if (opened != nullptr && opened->InStep && openPossible && form.ProjectLoading)
-                defect("a sound file cannot be read");
-        }
-        if (!finished && form.Caption() != title) defect("a failed open changed the title");
-        noteStrays();
+        reached = !cancelled && !saveFailed && (!saves || savePossible);
+        if (!finished && form.Caption() != title) defect("a command that did not finish changed the title");
+        if (!reached) return;
+        leeway_ = Leeway();
+        noteGateRefusal();
+        DamagedFile = opened != nullptr && finished && !opened->InStep;
+        if (!finished) judgeUnfinished(opened);
+        if (finished && opened == nullptr) requireNewProject();
+        if (finished && opened != nullptr && opened->Whole && savePossible) requireSameText(*opened);
         trackShapes();
     });
     if (saves && running() && files.LastFault() == std::nullopt && savePossible && reached)
         saved_.push_back(saving);
 }
 
-/// What the answers to questions inside the clearing of the project leave standing.
-inline void Walker::noteStrays() {
-    for (const ShownBox& box : platform.Transcript) {
-        if (box.BoxKind != ShownBox::Kind::Question || box.Answer != "no") continue;
-        if (box.Title == "Invalid value") leeway_.StrayPage = true;
-        if (box.Title == "Delete home range data") leeway_.StrayHomeRangeButton = true;
+/// Once the project is cleared only the file can end a command: it cannot be opened, and the project is a new one, or it
+/// holds a line that cannot be read, as no saved one does.
+inline void Walker::judgeUnfinished(const ProjectFile* opened) {
+    if (opened == nullptr) return defect("New did not finish");
+    if (!files.LastFault()) return defect("Open did not come to the reading of its file");
+    if (files.LastFault()->Line == 0) {
+        if (global.TotalSpecies != 0 || form.flxCandidateSpecies.Rows() != 1)
+            defect("a file that cannot be opened leaves no empty project");
+    } else {
+        if (opened->InStep) defect("a sound file cannot be read");
+        DamagedFile = true;
     }
-    leeway_.StrayScoreButton = form.optScoreDisplay(1).Value();
+}
+
+inline void Walker::requireNewProject() {
+    const bool empty = global.TotalSpecies == 0 && global.TotalHabitatTypes == 0 &&
+                       global.TotalJurisUnits == 0 && global.TotalLandUses == 0 && global.TotalBins == 0 &&
+                       global.TotalFunctions == 6 && form.cbxSpeciesName.ListCount() == 0 &&
+                       form.cbxUserDefBinsHR.ListCount() == 0;
+    if (!empty || form.CurrentMainTab != 1 || form.CurrentSpeciesIndex != 0 || form.HomeRangeType != 0 ||
+        form.ScoreDisplayMode != 0 || form.ProjectChanged || global.ScoresCalculated)
+        defect("New does not give a new project");
+}
+
+/// Whatever was open before, a complete project is the one of its file.
+inline void Walker::requireSameText(const ProjectFile& opened) {
+    const bool version2 = readFile(opened.Path).starts_with("Project Version");
+    const std::string path = newPath(".brn");
+    form.SaveProject(path);
+    if (version2 && readFile(path) != readFile(opened.Path))
+        defect("what was opened is not what stands in " + opened.Path);
+}
+
+/// A gate that is told No while the project is cleared leaves the tab strip where it was.
+inline void Walker::noteGateRefusal() {
+    for (const ShownBox& box : platform.Transcript) {
+        const bool refused = box.BoxKind == ShownBox::Kind::Question && box.Answer == "no";
+        if (refused && box.Title == "Invalid value") leeway_.StrayPage = true;
+    }
 }
 
 inline void Walker::newProject() { projectCommand(Deed::NewProject, form.mnuNewProject, nullptr); }
@@ -273,10 +299,10 @@ inline void Walker::saveProject() {
     if (how > 1) platform.Files.emplace_back(saving.Path);
     act(Deed::SaveProject, saving.Path, [&] {
         files.ClearLastFault();
-        form.cdgFileDialog.InitDir = "left halfway";
+        form.cdgFileDialog.InitDir = "not finished";
         form.mnuSaveProject.UserClick();
         const bool finished = form.cdgFileDialog.InitDir.empty();
-        if (!OutOfStep && how > 1 && !files.LastFault() && !finished) defect("a save was left halfway");
+        if (!DamagedFile && how > 1 && !files.LastFault() && !finished) defect("a save did not finish");
         if (finished) saved_.push_back(saving);
     });
 }
@@ -285,7 +311,7 @@ inline std::string Walker::saveNow() {
     closeEditor();
     const std::string path = newPath(".brn");
     platform.Files = {path};
-    form.cdgFileDialog.InitDir = "left halfway";
+    form.cdgFileDialog.InitDir = "not finished";
     act(Deed::SaveProject, path, [&] { form.mnuSaveProject.UserClick(); });
     return running() && form.cdgFileDialog.InitDir.empty() ? path : "";
 }
@@ -293,7 +319,7 @@ inline std::string Walker::saveNow() {
 /// A comma or a line end in a cell moves the values behind it to other rows, and a list of one blank name reads as no
 /// list at all: then what is opened again may not fit.
 inline bool Walker::savesInStep() {
-    if (OutOfStep) return false;
+    if (DamagedFile) return false;
     for (const ui::Grid* grid : {&form.flxCandidateSpecies, &form.flxHabitatTypes, &form.flxJurisUnits,
                                  &form.flxLandUses, &form.flxFunctions, &form.flxBins}) {
         if (grid->Rows() == 2 && ui::isBlank(grid->TextMatrix(1, list::Name))) return false;
@@ -324,5 +350,5 @@ inline Walker::ProjectFile Walker::randomProjectFile() {
     const bool broken = random_.chance(12);
     const std::string path = newPath(".brn");
     writeFile(path, broken ? damaged(random_, project.text.text()) : project.text.text());
-    return {path, !broken};
+    return {path, !broken, !broken};
 }

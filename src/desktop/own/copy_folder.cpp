@@ -14,11 +14,12 @@
 #include <cerrno>
 #include <cstring>
 
+#include "project/project_file.h"
+
 namespace desktop {
 
 namespace {
 
-constexpr const char* CopyEnding = ".brn";
 constexpr const char* RecordEnding = ".json";
 constexpr const char* LockEnding = ".lock";
 // Another program's look at a copy lasts no longer.
@@ -43,6 +44,8 @@ QString CopyFolder::usualPath() {
     const QString state = QDir::isAbsolutePath(wanted) ? wanted : QDir::homePath() + "/.local/state";
     return QDir::cleanPath(state + "/brenica");
 }
+
+QString CopyFolder::copyFile(const QString& id) const { return file(id, projectfile::Extension); }
 
 QString CopyFolder::newId() { return QUuid::createUuid().toString(QUuid::Id128); }
 
@@ -103,7 +106,7 @@ void CopyFolder::remove(const QString& id) {
 
 /// The lock goes last: whoever comes by meanwhile finds it held.
 void CopyFolder::removeFiles(const QString& id) {
-    for (const char* ending : {CopyEnding, RecordEnding}) {
+    for (const char* ending : {projectfile::Extension, RecordEnding}) {
         disk_.remove(file(id, ending));
         QFile::remove(file(id, ending) + Disk::Temporary);
     }
@@ -115,7 +118,8 @@ QList<CopyOffer> CopyFolder::offers() {
     const std::lock_guard guard(mutex_);
     QSet<QString> ids;
     const QDir folder(path_);
-    for (const QFileInfo& entry : folder.entryInfoList({"*.brn", "*.json"}, QDir::Files)) {
+    for (const QFileInfo& entry : folder.entryInfoList(
+             {QString("*") + projectfile::Extension, QString("*") + RecordEnding}, QDir::Files)) {
         ids.insert(entry.completeBaseName());
     }
     QList<CopyOffer> offers;

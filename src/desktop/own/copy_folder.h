@@ -48,7 +48,7 @@ public:
     /// Removes a copy that is offered; false where another program holds it.
     bool drop(const QString& id);
 
-    QString copyFile(const QString& id) const { return file(id, ".brn"); }
+    QString copyFile(const QString& id) const;
     /// For tests: its calls can be made to fail.
     Disk& disk() { return disk_; }
 

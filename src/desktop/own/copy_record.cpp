@@ -12,7 +12,7 @@ namespace desktop {
 namespace {
 
 // The keys of the file.
-constexpr const char* Project = "project";
+constexpr const char* Project = "projectPath";
 constexpr const char* Time = "time";
 constexpr const char* Process = "process";
 constexpr const char* Left = "left";
@@ -21,7 +21,7 @@ constexpr const char* Now = "copy";
 constexpr const char* Before = "before";
 constexpr const char* Length = "length";
 constexpr const char* Hash = "sha256";
-constexpr const char* Species = "species";
+constexpr const char* Species = "speciesCount";
 constexpr const char* WithoutFunctions = "withoutFunctions";
 constexpr const char* Cells = "cells";  // of each: grid, row, column, text, whether saving loses it
 

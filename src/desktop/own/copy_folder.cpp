@@ -105,13 +105,16 @@ void CopyFolder::remove(const QString& id) {
 }
 
 /// The lock goes last: whoever comes by meanwhile finds it held.
-void CopyFolder::removeFiles(const QString& id) {
+void CopyFolder::removeFiles(const QString& id) try {
     for (const char* ending : {projectfile::Extension, RecordEnding}) {
         disk_.remove(file(id, ending));
         QFile::remove(file(id, ending) + Disk::Temporary);
     }
     disk_.remove(file(id, LockEnding));
     letGo(id);
+} catch (...) {
+    letGo(id);
+    throw;
 }
 
 QList<CopyOffer> CopyFolder::offers() {
@@ -168,7 +171,7 @@ std::optional<CopyOffer> CopyFolder::offer(const QString& id) try {
     return std::nullopt;
 }
 
-std::optional<CopyFolder::Found> CopyFolder::claim(const QString& id) {
+std::optional<CopyFolder::Found> CopyFolder::claim(const QString& id) try {
     const std::lock_guard guard(mutex_);
     if (locks_.contains(id) || !QFileInfo::exists(copyFile(id)) || !hold(id)) return std::nullopt;
     const auto text = contentOf(copyFile(id));
@@ -184,6 +187,8 @@ std::optional<CopyFolder::Found> CopyFolder::claim(const QString& id) {
     ProjectCopy copy = record->Now.Rest;
     copy.Text = text->toStdString();
     return Found{std::move(*record), std::move(copy)};
+} catch (const DiskFault&) {
+    return std::nullopt;
 }
 
 void CopyFolder::release(const QString& id) {

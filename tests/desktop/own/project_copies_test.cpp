@@ -380,6 +380,33 @@ private slots:
         QVERIFY(QDir(home.state).entryList(QDir::Files).isEmpty());
     }
 
+    void aDiskThatRefusesLeavesTheOffer_data() {
+        QTest::addColumn<int>("call");
+        QTest::newRow("lock") << static_cast<int>(Disk::Call::Lock);
+        QTest::newRow("remove") << static_cast<int>(Disk::Call::Remove);
+    }
+    void aDiskThatRefusesLeavesTheOffer() {
+        QFETCH(int, call);
+        const Home home;
+        {
+            Running program(home.state);
+            program.addSpecies("Ant");
+            program.take();
+        }
+        Running program(home.state);
+        const QString id = program.copies->offers().first().Id;
+        program.copies->folder().disk().BeforeCall = [&](Disk::Call made) {
+            return static_cast<int>(made) == call ? EACCES : 0;
+        };
+        QVERIFY(!program.copies->drop(id));
+        if (static_cast<Disk::Call>(call) == Disk::Call::Lock) QVERIFY(!program.copies->open(id));
+        program.settle();
+        program.copies->folder().disk().BeforeCall = nullptr;
+        QCOMPARE(home.copies().size(), 1);
+        QCOMPARE(home.offers().size(), 1);
+        QVERIFY(program.copies->drop(id));
+    }
+
     void twoProgramsLeaveEachOthersCopiesAlone() {
         const Home home;
         Running one(home.state);

@@ -45,7 +45,7 @@ Strip::Strip(QWidget* parent)
     hide();
 }
 
-/// The row that shows the line already, or a new one.
+/// The row that shows the line already, which is no longer among the others; null for none.
 StripRow* Strip::takeRow(const StripLine& line) {
     const auto same = std::find_if(rows_.begin(), rows_.end(),
                                    [&](const StripRow* row) { return row != nullptr && row->shows(line); });

@@ -35,14 +35,20 @@ void StripLines::follow() {
     addFailures(lines);
     addKeeping(lines);
     addOffers(lines);
+    saysNoCopies_ = saysNoCopies_ && lines.empty();
+    if (saysNoCopies_)
+        lines.push_back({own_texts::NoCopies, {}, StripTone::Note, {}, [this] { closeOthers(); }});
     strip_.show(std::move(lines));
 }
 
 void StripLines::enter() {
-    if (!strip_.isVisible()) {
-        summoned_ = true;
-        othersUnfolded_ = true;
-        othersClosed_ = false;
+    const bool hidden = !strip_.isVisible();
+    summoned_ = true;
+    othersClosed_ = false;
+    othersUnfolded_ = othersUnfolded_ || hidden;
+    follow();
+    if (hidden && !strip_.isVisible()) {
+        saysNoCopies_ = true;
         follow();
     }
     strip_.enter();
@@ -121,8 +127,6 @@ void StripLines::addOffers(std::vector<StripLine>& lines) {
              others.size() == 1 ? QString(own_texts::OneOther)
                                 : QString(own_texts::SeveralOthers).arg(others.size()),
              othersUnfolded_, [this] { closeOthers(); });
-    if (lines.empty())
-        lines.push_back({own_texts::NoCopies, {}, StripTone::Note, {}, [this] { closeOthers(); }});
 }
 
 void StripLines::closeOffers(const QList<CopyOffer>& offers) {
@@ -132,6 +136,7 @@ void StripLines::closeOffers(const QList<CopyOffer>& offers) {
 
 void StripLines::closeOthers() {
     summoned_ = false;
+    saysNoCopies_ = false;
     othersClosed_ = true;
     follow();
 }

@@ -25,7 +25,7 @@ public:
     void follow();
     /// Carries out what was dropped and not taken back, as at the end of the program.
     void finishDrops();
-    /// The key of the strip: leads into it, and out again. With nothing to say it lists the copies there are.
+    /// The key of the strip: leads into it, and out again, and lists the copies that nobody announced.
     void enter();
 
     /// Milliseconds in which a copy that was dropped can be taken back; they begin anew while the strip is in use.
@@ -60,7 +60,8 @@ private:
     bool offersUnfolded_ = false;
     bool othersUnfolded_ = false;
     bool othersClosed_ = false;
-    bool summoned_ = false;  // by its key, so that it lists copies without an announcement
+    bool summoned_ = false;  // by its key, so that copies are listed that nobody announced
+    bool saysNoCopies_ = false;
 };
 
 }  // namespace desktop

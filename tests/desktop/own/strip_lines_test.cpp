@@ -258,6 +258,16 @@ private slots:
         QCOMPARE(w.copies.Log, QStringList("open 1"));
     }
 
+    void theKeyListsThemBesideOtherLines() {
+        StripWindow w;
+        w.copies.give({leftCopyOf("/a/left.brn", "1")});
+        w.copies.failToKeep("Disk full.");
+        QCOMPARE(w.lines().size(), 1);
+        w.key(Qt::Key_F6);
+        QCOMPARE(w.lines().size(), 2);
+        QVERIFY(w.button("1 other", "Show them") != nullptr);
+    }
+
     void theKeySaysThatThereIsNothing() {
         StripWindow w;
         QWidget& box = w.widgetOf(w.form->txtTotalSpecies);

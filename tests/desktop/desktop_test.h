@@ -48,7 +48,9 @@ private:
 
 /// Lets an event loop end as a program that has ended asked for; else the next box would be ended by it.
 inline void endEventLoop() {
-    QTimer::singleShot(0, qApp, [] { QApplication::quit(); });
+    QTimer end;
+    QObject::connect(&end, &QTimer::timeout, qApp, [] { QApplication::exit(); });
+    end.start(0);
     QApplication::exec();
 }
 

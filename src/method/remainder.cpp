@@ -3,6 +3,8 @@
 #include "method/remainder.h"
 
 #include <algorithm>
+#include <numeric>
+#include <utility>
 
 #include "method/failure.h"
 #include "method/vulnerability.h"
@@ -11,10 +13,12 @@ namespace method {
 
 namespace {
 
-/// So many whole numbers below this sum up below 2^53.
-constexpr double SmallWhole = 0x1p32;
-
-bool isSmallWhole(double value) { return std::abs(value) < SmallWhole && value == nearestWhole(value); }
+/// Multiples of 2⁻²⁰ below 2¹²: up to two million of them sum up without rounding, in any order.
+bool isExact(double value) {
+    constexpr double Limit = 0x1p12;
+    constexpr double Parts = 0x1p20;
+    return std::abs(value) < Limit && value * Parts == nearestWhole(value * Parts);
+}
 
 double rating(const Table& ratings, Quantity what, std::size_t species, std::size_t threat) {
     const double value = ratings.at(species, threat);
@@ -58,13 +62,21 @@ const Table& Remainder::values(Unit kind) const {
 void Remainder::load(const Landscape& landscape, const UnitLayout& layout) {
     landscape_ = &landscape;
     layout_ = layout;
-    const std::size_t species = landscape.species();
-    const ThreatRatings& ratings = landscape.Ratings;
-    if (threatScores_.rows() != species || threatScores_.columns() != ratings.threats())
-        threatScores_ = Table(species, ratings.threats());
-    uses_ = UnitSets(species, layout);
-    all_.assign(species, {});
-    for (std::size_t s = 0; s < species; ++s) {
+    loadThreatScores();
+    uses_ = UnitSets(landscape.species(), layout);
+    all_.assign(landscape.species(), {});
+    for (const Unit kind : UnitKinds) {
+        for (std::size_t s = 0; s < landscape.species(); ++s) loadSums(kind, s);
+        loadUsers(kind);
+    }
+    reset();
+}
+
+void Remainder::loadThreatScores() {
+    const ThreatRatings& ratings = landscape_->Ratings;
+    if (threatScores_.rows() != ratings.species() || threatScores_.columns() != ratings.threats())
+        threatScores_ = Table(ratings.species(), ratings.threats());
+    for (std::size_t s = 0; s < ratings.species(); ++s) {
         const std::span<double> scores = threatScores_.row(s);
         const auto urgency = ratings.Urgency.row(s);
         const auto recovery = ratings.Recovery.row(s);
@@ -73,29 +85,45 @@ void Remainder::load(const Landscape& landscape, const UnitLayout& layout) {
         const auto probability = ratings.Probability.row(s);
         for (std::size_t t = 0; t < scores.size(); ++t)
             scores[t] = threatScore(urgency[t], recovery[t], severity[t], proportion[t], probability[t]);
-        for (const Unit kind : UnitKinds) loadKind(kind, values(kind).row(s), s);
     }
-    reset();
 }
 
-void Remainder::loadKind(Unit kind, std::span<const double> values, std::size_t species) {
+void Remainder::loadSums(Unit kind, std::size_t species) {
+    const std::span<const double> row = values(kind).row(species);
     const std::span<Word> uses = layout_.part(uses_.row(species), kind).words();
     double sum = 0;
-    bool whole = true;
+    bool exact = true;
     for (std::size_t w = 0; w < uses.size(); ++w) {
         const std::size_t first = w * WordBits;
-        const std::size_t count = std::min(WordBits, values.size() - first);
+        const std::size_t count = std::min(WordBits, row.size() - first);
         Word word = 0;
-        for (std::size_t bit = 0; bit < count; ++bit) {
-            const double value = values[first + bit];
-            word |= Word{value != 0} << bit;
-            whole = whole && isSmallWhole(value);
-            sum += value;
-        }
+        for (std::size_t bit = 0; bit < count; ++bit) word |= Word{row[first + bit] != 0} << bit;
         uses[w] = word;
+        forEachUnit(word, first, [&](std::size_t unit) {
+            sum += row[unit];
+            exact = exact && isExact(row[unit]);
+        });
     }
     all_[species].Sum[kind] = sum;
-    all_[species].Whole[kind] = whole;
+    all_[species].Exact[kind] = exact;
+}
+
+void Remainder::loadUsers(Unit kind) {
+    const auto eachUse = [&](auto visit) {
+        for (std::size_t s = 0; s < all_.size(); ++s) {
+            const std::span<const Word> uses = layout_.part(std::as_const(uses_).row(s), kind).words();
+            for (std::size_t w = 0; w < uses.size(); ++w)
+                forEachUnit(uses[w], w * WordBits, [&](std::size_t unit) { visit(s, unit); });
+        }
+    };
+    std::vector<std::size_t>& first = firstUser_[kind];
+    first.assign(layout_.units(kind) + 2, 0);
+    eachUse([&](std::size_t, std::size_t unit) { ++first[unit + 2]; });
+    std::partial_sum(first.begin(), first.end(), first.begin());
+    users_[kind].resize(first.back());
+    eachUse([&](std::size_t s, std::size_t unit) {
+        users_[kind][first[unit + 1]++] = {values(kind).at(s, unit), static_cast<std::uint32_t>(s)};
+    });
 }
 
 double Remainder::sumLeft(Unit kind, std::size_t species, std::span<const Word> covered) const {
@@ -109,24 +137,30 @@ double Remainder::sumLeft(Unit kind, std::size_t species, std::span<const Word> 
     return sum;
 }
 
-void Remainder::cover(std::size_t species, std::span<const Word> newly, std::span<const Word> covered) {
-    const std::span<const Word> uses = uses_.row(species);
-    Sums& left = left_[species];
-    for (const Unit kind : UnitKinds) {
-        bool inOrder = false;
-        for (std::size_t w = layout_.begin(kind); w < layout_.end(kind); ++w) {
-            const Word hit = uses[w] & newly[w];
-            if (hit == 0) continue;
-            if (!left.Whole[kind]) {
-                inOrder = true;
-                break;
-            }
-            const std::span<const double> row = values(kind).row(species);
-            forEachUnit(hit, (w - layout_.begin(kind)) * WordBits,
-                        [&](std::size_t unit) { left.Sum[kind] -= row[unit]; });
+void Remainder::cover(Unit kind, std::size_t unit) {
+    const std::size_t first = firstUser_[kind][unit];
+    const std::size_t count = firstUser_[kind][unit + 1] - first;
+    for (const User& user : std::span(users_[kind]).subspan(first, count)) {
+        Sums& left = left_[user.Species];
+        left.Changed = true;
+        if (left.Exact[kind]) {
+            left.Sum[kind] -= user.Value;
+        } else {
+            left.Stale[kind] = true;
         }
-        if (inOrder) left.Sum[kind] = sumLeft(kind, species, covered);
     }
+}
+
+bool Remainder::refresh(std::size_t species, std::span<const Word> covered) {
+    Sums& left = left_[species];
+    if (!left.Changed) return false;
+    left.Changed = false;
+    for (const Unit kind : UnitKinds) {
+        if (!left.Stale[kind]) continue;
+        left.Sum[kind] = sumLeft(kind, species, covered);
+        left.Stale[kind] = false;
+    }
+    return true;
 }
 
 double Remainder::vulnerability(std::size_t species, std::span<const Word> covered) const {

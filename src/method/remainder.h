@@ -20,17 +20,20 @@ double vulnerabilityLeft(const ThreatRatings& ratings, double status, UnitSpan<c
                          std::size_t species);
 
 /// The sums of all species, kept up to date from pass to pass, each in the bits that adding up anew would give: what is
-/// 0 is never added, and a sum of whole numbers is the same in any order, so that a covered one can be taken off.
+/// 0 changes no sum, and where a sum is exact in any order what was covered can be taken off.
 class Remainder {
 public:
     /// The landscape must outlive this.
     void load(const Landscape& landscape, const UnitLayout& layout);
-    /// Nothing is covered.
+    /// Nothing is covered, and no species is up to date.
     void reset() { left_ = all_; }
-    /// The units in `newly` have been added to `covered`. To be called for each species that is still in the race.
-    void cover(std::size_t species, std::span<const Word> newly, std::span<const Word> covered);
+    /// The unit is covered from now on.
+    void cover(Unit kind, std::size_t unit);
+    /// Brings the sums of the species up to date; `covered` are all units that cover() was told. False where nothing has
+    /// changed since the last time.
+    bool refresh(std::size_t species, std::span<const Word> covered);
 
-    /// REQUIRES: the species' levels of use are numbers.
+    /// REQUIRES: refresh(), and levels of use that are numbers.
     double heterogeneity(std::size_t species) const {
         return heterogeneityLeft(left_[species].Sum[Unit::Habitat], left_[species].Sum[Unit::Zone], species);
     }
@@ -41,9 +44,17 @@ public:
 private:
     struct Sums {
         PerKind<double> Sum;
-        PerKind<bool> Whole;  ///< all that is added is a whole number, and the sum is exact
+        PerKind<bool> Exact;  ///< the same in any order
+        PerKind<bool> Stale;  ///< to be added up anew
+        bool Changed = true;  ///< since the last refresh
     };
-    void loadKind(Unit kind, std::span<const double> values, std::size_t species);
+    struct User {
+        double Value;  ///< not 0
+        std::uint32_t Species;
+    };
+    void loadThreatScores();
+    void loadSums(Unit kind, std::size_t species);
+    void loadUsers(Unit kind);
     double sumLeft(Unit kind, std::size_t species, std::span<const Word> covered) const;
     const Table& values(Unit kind) const;
 
@@ -51,6 +62,9 @@ private:
     UnitLayout layout_;
     Table threatScores_;  ///< m(s,t)
     UnitSets uses_;       ///< where the value is not 0
+    /// The users of each unit, unit by unit: those of unit u are from FirstUser[u] to FirstUser[u + 1].
+    PerKind<std::vector<User>> users_;
+    PerKind<std::vector<std::size_t>> firstUser_;
     std::vector<Sums> all_;
     std::vector<Sums> left_;
 };

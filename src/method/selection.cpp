@@ -68,8 +68,9 @@ void Selection::prepareRun() {
     covered_.assign(layout.words(), 0);
     newlyCovered_.assign(layout.words(), 0);
     remainder_.reset();
-    highestHeterogeneity_ = 0;
-    highestVulnerability_ = 0;
+    left_.assign(eligible_.size(), {});
+    rescored_.assign(eligible_.size(), 0);
+    highest_ = {};
     removed_.assign(eligible_.size(), 0);
     removedCount_ = 0;
     for (std::size_t s = 0; s < eligible_.size(); ++s) {
@@ -111,11 +112,15 @@ void Selection::firstPass() {
 
 void Selection::laterPass() {
     appendBlock(false);
+    const ScoresLeft highestBefore = highest_;
     for (std::size_t offset = 0; offset < order_.size(); ++offset) {
         recount(offset);
         rescore(offset);
     }
-    for (std::size_t offset = 0; offset < order_.size(); ++offset) normalise(offset);
+    const bool all = listener_ || highest_ != highestBefore;
+    for (std::size_t offset = 0; offset < order_.size(); ++offset) {
+        if (all || rescored_[order_[offset]]) normalise(offset);
+    }
     sortBlock();
     omitRowsThatAddNothing();
     const std::size_t pick = findPick();
@@ -161,8 +166,7 @@ void Selection::recount(std::size_t offset) {
     const UnitLayout& layout = coverage_.layout();
     for (const Unit kind : UnitKinds) {
         for (std::size_t w = layout.begin(kind); w < layout.end(kind); ++w) {
-            if (const Word gone = represented[w] & newlyCovered_[w]; gone != 0)
-                species.Adds[kind] -= std::popcount(gone);
+            forEachUnit(represented[w] & newlyCovered_[w], 0, [&](std::size_t) { --species.Adds[kind]; });
         }
         if (listener_) listener_->adds(offset, kind, species.Adds[kind]);
     }
@@ -174,32 +178,36 @@ double Selection::finite(double score, std::size_t offset, std::size_t column) c
     return score;
 }
 
+/// The scores of a species are the same as in the pass before where nothing that it uses was covered since. Whoever
+/// watches is told them all the same.
+void Selection::rescore(std::size_t offset) {
+    const std::size_t species = order_[offset];
+    rescored_[species] = remainder_.refresh(species, covered_);
+    if (!rescored_[species] && !listener_) return;
+    takeScore(offset, Criterion::Heterogeneity, remainder_.heterogeneity(species),
+              left_[species].Heterogeneity, highest_.Heterogeneity);
+    takeScore(offset, Criterion::Vulnerability, remainder_.vulnerability(species, covered_),
+              left_[species].Vulnerability, highest_.Vulnerability);
+}
+
 /// The highest is kept rounded, so that the best species comes to 1.
-void Selection::takeScore(std::size_t offset, Criterion criterion, double raw, double& highest) {
-    double& score = row(offset).Scores[criterion];
+void Selection::takeScore(std::size_t offset, Criterion criterion, double raw, double& score,
+                          double& highest) {
     score = finite(shownTo(raw, ScorePlaces), offset, static_cast<std::size_t>(criterion));
     if (raw > highest) highest = roundTo(raw, ScorePlaces);
     if (listener_) listener_->rescored(offset, criterion, score);
 }
 
-void Selection::rescore(std::size_t offset) {
-    const std::size_t species = order_[offset];
-    remainder_.cover(species, newlyCovered_, covered_);
-    takeScore(offset, Criterion::Heterogeneity, remainder_.heterogeneity(species), highestHeterogeneity_);
-    takeScore(offset, Criterion::Vulnerability, remainder_.vulnerability(species, covered_),
-              highestVulnerability_);
-}
-
 void Selection::normalise(std::size_t offset) {
     CriterionScores& scores = row(offset).Scores;
-    const auto scale = [&](Criterion criterion, double highest) {
-        double& score = scores[criterion];
-        score = highest <= 0 ? 0 : shownTo(score / highest, ScorePlaces);
-        finite(score, offset, static_cast<std::size_t>(criterion));
-        if (listener_) listener_->normalised(offset, criterion, score);
+    const ScoresLeft& left = left_[order_[offset]];
+    const auto scale = [&](Criterion criterion, double score, double highest) {
+        scores[criterion] = highest <= 0 ? 0 : shownTo(score / highest, ScorePlaces);
+        finite(scores[criterion], offset, static_cast<std::size_t>(criterion));
+        if (listener_) listener_->normalised(offset, criterion, scores[criterion]);
     };
-    scale(Criterion::Heterogeneity, highestHeterogeneity_);
-    scale(Criterion::Vulnerability, highestVulnerability_);
+    scale(Criterion::Heterogeneity, left.Heterogeneity, highest_.Heterogeneity);
+    scale(Criterion::Vulnerability, left.Vulnerability, highest_.Vulnerability);
     double sum = 0;
     for (const Criterion criterion : {Criterion::Heterogeneity, Criterion::Vulnerability, Criterion::Area,
                                       Criterion::Functionality, Criterion::SocioEconomics}) {
@@ -213,20 +221,18 @@ void Selection::normalise(std::size_t offset) {
     if (listener_) listener_->aggregated(offset, row(offset).Aggregate);
 }
 
-/// Highest aggregate first, equal ones in candidate order; one that is no number comes last.
 void Selection::sortBlock() {
-    std::stable_sort(order_.begin(), order_.end(), [&](std::uint32_t a, std::uint32_t b) {
-        const double left = rows_[a].Aggregate;
-        const double right = rows_[b].Aggregate;
-        return isNumber(left) && (left > right || !isNumber(right));
-    });
+    keys_.clear();
+    for (const std::uint32_t species : order_) keys_.push_back({rows_[species].Aggregate, species});
+    sorter_.sort(keys_);
+    for (std::size_t offset = 0; offset < order_.size(); ++offset) order_[offset] = keys_[offset].Species;
     if (listener_) listener_->sorted(block());
 }
 
 void Selection::omitRowsThatAddNothing() {
     for (std::size_t offset = 0; offset < order_.size(); ++offset) {
         if (listener_) listener_->ranked(offset, static_cast<int>(offset) + 1);
-        if (row(offset).Adds != Additions{}) continue;
+        if (!addNothing(row(offset).Adds)) continue;
         if (listener_) listener_->omitted(offset);
         remove(order_[offset]);
     }
@@ -288,6 +294,7 @@ void Selection::takePick(std::size_t species) {
             newlyCovered_[w] = represented[w] & ~covered_[w];
             covered_[w] |= represented[w];
             forEachUnit(newlyCovered_[w], (w - layout.begin(kind)) * WordBits, [&](std::size_t unit) {
+                remainder_.cover(kind, unit);
                 suite_.CoveredBy[kind][unit] = pickNumber_;
                 if (listener_) listener_->firstCovered(kind, unit, pickNumber_);
             });

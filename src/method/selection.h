@@ -10,6 +10,7 @@
 
 #include "method/assessment.h"
 #include "method/block.h"
+#include "method/block_sorter.h"
 #include "method/coverage.h"
 #include "method/landscape.h"
 #include "method/levels.h"
@@ -93,6 +94,13 @@ public:
     const Suite& suite() const { return suite_; }
 
 private:
+    /// H'(s) and V'(s).
+    struct ScoresLeft {
+        double Heterogeneity = 0;
+        double Vulnerability = 0;
+        bool operator==(const ScoresLeft&) const = default;
+    };
+
     void prepareRun();
     void firstPass();
     void laterPass();
@@ -101,7 +109,7 @@ private:
     void requireLevels(Unit kind, std::size_t species) const;
     void recount(std::size_t offset);
     void rescore(std::size_t offset);
-    void takeScore(std::size_t offset, Criterion criterion, double raw, double& highest);
+    void takeScore(std::size_t offset, Criterion criterion, double raw, double& score, double& highest);
     void normalise(std::size_t offset);
     double finite(double score, std::size_t offset, std::size_t column) const;
     void sortBlock();
@@ -131,17 +139,19 @@ private:
     Chooser* chooser_ = nullptr;
     Listener* listener_ = nullptr;
     Suite suite_;
-    std::vector<BlockRow> rows_;         ///< this pass's numbers, by species
-    std::vector<std::uint32_t> order_;   ///< the species of this pass, in the order of the block
+    std::vector<BlockRow> rows_;        ///< this pass's numbers, by species
+    std::vector<std::uint32_t> order_;  ///< the species of this pass, in the order of the block
+    std::vector<SortKey> keys_;
+    BlockSorter sorter_;
     std::vector<std::uint8_t> removed_;  ///< by species: out of the race
     std::vector<Word> covered_;
-    std::vector<Word> newlyCovered_;  ///< by the last pick
-    /// Highest H' and V' of the run so far: later passes are measured by early ones.
-    double highestHeterogeneity_ = 0;
-    double highestVulnerability_ = 0;
-    std::size_t removedCount_ = 0;  ///< a removed species that is picked counts twice
-    std::size_t top_ = 0;           ///< offset of the best species still in the race
-    std::size_t marginCount_ = 0;   ///< of the last pass that looked for species within the margin
+    std::vector<Word> newlyCovered_;      ///< by the last pick
+    std::vector<ScoresLeft> left_;        ///< by species, before scaling
+    std::vector<std::uint8_t> rescored_;  ///< by species: left_ has changed in this pass
+    ScoresLeft highest_;                  ///< of the run so far: later passes are measured by early ones
+    std::size_t removedCount_ = 0;        ///< a removed species that is picked counts twice
+    std::size_t top_ = 0;                 ///< offset of the best species still in the race
+    std::size_t marginCount_ = 0;         ///< of the last pass that looked for species within the margin
     int pickNumber_ = 0;
 };
 

@@ -74,8 +74,14 @@ std::vector<std::uint8_t> answers(const Names& values, std::size_t count) {
     return list;
 }
 
+bool sameText(const std::string& left, const std::string& right) {
+    const auto small = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; };
+    return std::equal(left.begin(), left.end(), right.begin(), right.end(),
+                      [&](char a, char b) { return small(a) == small(b); });
+}
+
 Names labelsOf(const Names& definition) {
-    if (definition.front() == "default bins")
+    if (sameText(definition.front(), "default bins"))
         return {"0 - 1 km2", "1 - 10 km2", "10 - 25 km2", "25 - 50 km2", "50 - 100 km2", "100+ km2"};
     Names labels;
     for (std::size_t i = 1; i + 1 < definition.size(); ++i)
@@ -85,12 +91,13 @@ Names labelsOf(const Names& definition) {
 }
 
 method::HomeRanges homeRanges(const Names& definition, const Names& values, std::size_t count) {
-    if (definition.front() == "continuous")
+    if (sameText(definition.front(), "continuous"))
         return {method::HomeRanges::Kind::Areas, 0, numbers(values, count)};
     const Names labels = labelsOf(definition);
     method::HomeRanges ranges{method::HomeRanges::Kind::Classes, labels.size(), {}};
     for (const std::string& value : values) {
-        const auto found = std::find(labels.begin(), labels.end(), value);
+        const auto found = std::find_if(labels.begin(), labels.end(),
+                                        [&](const std::string& label) { return sameText(label, value); });
         ranges.Values.push_back(value.empty()           ? method::Blank
                                 : found == labels.end() ? method::Unreadable
                                                         : static_cast<double>(found - labels.begin()) + 1);

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <limits>
 #include <stdexcept>
+#include <utility>
 
 namespace method {
 
@@ -79,12 +80,14 @@ std::vector<double> highestThreatScores(const Table& scores) {
 void Coverage::load(const Landscape& landscape, std::span<const double> habitatThresholds,
                     std::span<const double> zoneThresholds) {
     layout_ = UnitLayout(landscape.habitats(), landscape.zones(), landscape.threats());
-    sets_ = UnitSets(landscape.species(), layout_);
+    sets_ = BitTable(landscape.species(), layout_.words());
     for (std::size_t s = 0; s < landscape.species(); ++s) {
         const std::span<Word> row = sets_.row(s);
         fillLevels(layout_.part(row, Unit::Habitat), landscape.HabitatLevels.row(s), habitatThresholds);
         fillLevels(layout_.part(row, Unit::Zone), landscape.ZoneLevels.row(s), zoneThresholds);
     }
+    turn(Unit::Habitat);
+    turn(Unit::Zone);
 }
 
 void Coverage::loadThreats(const Table& scores, std::span<const double> highest, double representation,
@@ -97,6 +100,20 @@ void Coverage::loadThreats(const Table& scores, std::span<const double> highest,
         const std::span<const double> row = scores.row(s);
         fill(layout_.part(sets_.row(s), Unit::Threat).words(), row.size(),
              [&](std::size_t t) { return representsThreat(row[t], needed[t]); });
+    }
+    turn(Unit::Threat);
+}
+
+void Coverage::turn(Unit kind) {
+    BitTable& species = representing_[kind];
+    species = BitTable(layout_.units(kind), wordsFor(sets_.rows()));
+    for (std::size_t s = 0; s < sets_.rows(); ++s) {
+        const std::span<const Word> words = layout_.part(std::as_const(sets_).row(s), kind).words();
+        for (std::size_t w = 0; w < words.size(); ++w) {
+            forEachBit(words[w], w * WordBits, [&](std::size_t unit) {
+                species.row(unit)[s / WordBits] |= Word{1} << (s % WordBits);
+            });
+        }
     }
 }
 

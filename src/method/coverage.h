@@ -44,10 +44,19 @@ public:
 
     const UnitLayout& layout() const { return layout_; }
     std::span<const Word> of(std::size_t species) const { return sets_.row(species); }
+    /// Calls `visit` with every species that represents the unit.
+    template <class Visit>
+    void forEachRepresenting(Unit kind, std::size_t unit, Visit visit) const {
+        const std::span<const Word> species = representing_[kind].row(unit);
+        for (std::size_t w = 0; w < species.size(); ++w) forEachBit(species[w], w * WordBits, visit);
+    }
 
 private:
+    void turn(Unit kind);
+
     UnitLayout layout_;
-    UnitSets sets_;
+    BitTable sets_;                   ///< the units of each species
+    PerKind<BitTable> representing_;  ///< the species of each unit
 };
 
 }  // namespace method

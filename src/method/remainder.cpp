@@ -63,7 +63,7 @@ void Remainder::load(const Landscape& landscape, const UnitLayout& layout) {
     landscape_ = &landscape;
     layout_ = layout;
     loadThreatScores();
-    uses_ = UnitSets(landscape.species(), layout);
+    uses_ = BitTable(landscape.species(), layout.words());
     all_.assign(landscape.species(), {});
     for (const Unit kind : UnitKinds) {
         for (std::size_t s = 0; s < landscape.species(); ++s) loadSums(kind, s);
@@ -99,7 +99,7 @@ void Remainder::loadSums(Unit kind, std::size_t species) {
         Word word = 0;
         for (std::size_t bit = 0; bit < count; ++bit) word |= Word{row[first + bit] != 0} << bit;
         uses[w] = word;
-        forEachUnit(word, first, [&](std::size_t unit) {
+        forEachBit(word, first, [&](std::size_t unit) {
             sum += row[unit];
             exact = exact && isExact(row[unit]);
         });
@@ -113,7 +113,7 @@ void Remainder::loadUsers(Unit kind) {
         for (std::size_t s = 0; s < all_.size(); ++s) {
             const std::span<const Word> uses = layout_.part(std::as_const(uses_).row(s), kind).words();
             for (std::size_t w = 0; w < uses.size(); ++w)
-                forEachUnit(uses[w], w * WordBits, [&](std::size_t unit) { visit(s, unit); });
+                forEachBit(uses[w], w * WordBits, [&](std::size_t unit) { visit(s, unit); });
         }
     };
     std::vector<std::size_t>& first = firstUser_[kind];
@@ -131,8 +131,8 @@ double Remainder::sumLeft(Unit kind, std::size_t species, std::span<const Word> 
     const std::span<const double> row = values(kind).row(species);
     double sum = 0;
     for (std::size_t w = layout_.begin(kind); w < layout_.end(kind); ++w) {
-        forEachUnit(uses[w] & ~covered[w], (w - layout_.begin(kind)) * WordBits,
-                    [&](std::size_t unit) { sum += row[unit]; });
+        forEachBit(uses[w] & ~covered[w], (w - layout_.begin(kind)) * WordBits,
+                   [&](std::size_t unit) { sum += row[unit]; });
     }
     return sum;
 }

@@ -61,7 +61,7 @@ private:
     const Landscape* landscape_ = nullptr;
     UnitLayout layout_;
     Table threatScores_;  ///< m(s,t)
-    UnitSets uses_;       ///< where the value is not 0
+    BitTable uses_;       ///< where the value is not 0
     /// The users of each unit, unit by unit: those of unit u are from FirstUser[u] to FirstUser[u + 1].
     PerKind<std::vector<User>> users_;
     PerKind<std::vector<std::size_t>> firstUser_;

@@ -25,6 +25,7 @@ void Selection::load(const Landscape& landscape, const Table& threatScores,
                      std::span<const CriterionScores> normalised, std::span<const double> aggregates) {
     landscape_ = &landscape;
     threatScores_ = threatScores;
+    highestThreats_.clear();
     firstRows_.assign(landscape.species(), {});
     for (std::size_t s = 0; s < firstRows_.size(); ++s) {
         firstRows_[s].Species = s;
@@ -49,8 +50,8 @@ void Selection::run(Chooser& chooser, Listener* listener) {
     chooser_ = &chooser;
     listener_ = listener;
     prepareRun();
-    coverage_.loadThreats(threatScores_, highestThreatScores(threatScores_), levels_.ThreatRepresentation,
-                          eligible_);
+    if (highestThreats_.empty()) highestThreats_ = highestThreatScores(threatScores_);
+    coverage_.loadThreats(threatScores_, highestThreats_, levels_.ThreatRepresentation, eligible_);
     if (listener_) listener_->begun();
     firstPass();
     while (!allCovered() && removedCount_ < landscape_->species()) laterPass();
@@ -66,7 +67,7 @@ void Selection::prepareRun() {
     suite_.Complete = false;
     rows_ = firstRows_;
     covered_.assign(layout.words(), 0);
-    newlyCovered_.assign(layout.words(), 0);
+    newlyCovered_.clear();
     remainder_.reset();
     left_.assign(eligible_.size(), {});
     rescored_.assign(eligible_.size(), 0);
@@ -112,9 +113,10 @@ void Selection::firstPass() {
 
 void Selection::laterPass() {
     appendBlock(false);
+    takeOffCovered();
     const ScoresLeft highestBefore = highest_;
     for (std::size_t offset = 0; offset < order_.size(); ++offset) {
-        recount(offset);
+        tellAdditions(offset);
         rescore(offset);
     }
     const bool all = listener_ || highest_ != highestBefore;
@@ -159,17 +161,17 @@ void Selection::requireLevels(Unit kind, std::size_t species) const {
                   species, static_cast<std::size_t>(unit));
 }
 
-/// The units that the last pick covers can be added no more.
-void Selection::recount(std::size_t offset) {
-    BlockRow& species = row(offset);
-    const std::span<const Word> represented = coverage_.of(species.Species);
-    const UnitLayout& layout = coverage_.layout();
-    for (const Unit kind : UnitKinds) {
-        for (std::size_t w = layout.begin(kind); w < layout.end(kind); ++w) {
-            forEachUnit(represented[w] & newlyCovered_[w], 0, [&](std::size_t) { --species.Adds[kind]; });
-        }
-        if (listener_) listener_->adds(offset, kind, species.Adds[kind]);
+/// What the last pick covers can be added no more, and counts no more for the scores.
+void Selection::takeOffCovered() {
+    for (const auto& [kind, unit] : newlyCovered_) {
+        remainder_.cover(kind, unit);
+        coverage_.forEachRepresenting(kind, unit, [&, of = kind](std::size_t s) { --rows_[s].Adds[of]; });
     }
+}
+
+void Selection::tellAdditions(std::size_t offset) const {
+    if (!listener_) return;
+    for (const Unit kind : UnitKinds) listener_->adds(offset, kind, row(offset).Adds[kind]);
 }
 
 double Selection::finite(double score, std::size_t offset, std::size_t column) const {
@@ -287,19 +289,22 @@ std::size_t Selection::checkMargin() {
 /// Takes the pick out of the race and covers what it represents.
 void Selection::takePick(std::size_t species) {
     remove(species);
+    newlyCovered_.clear();
     const std::span<const Word> represented = coverage_.of(species);
     const UnitLayout& layout = coverage_.layout();
     for (const Unit kind : UnitKinds) {
         for (std::size_t w = layout.begin(kind); w < layout.end(kind); ++w) {
-            newlyCovered_[w] = represented[w] & ~covered_[w];
+            forEachBit(represented[w] & ~covered_[w], (w - layout.begin(kind)) * WordBits,
+                       [&](std::size_t unit) { cover(kind, unit); });
             covered_[w] |= represented[w];
-            forEachUnit(newlyCovered_[w], (w - layout.begin(kind)) * WordBits, [&](std::size_t unit) {
-                remainder_.cover(kind, unit);
-                suite_.CoveredBy[kind][unit] = pickNumber_;
-                if (listener_) listener_->firstCovered(kind, unit, pickNumber_);
-            });
         }
     }
+}
+
+void Selection::cover(Unit kind, std::size_t unit) {
+    newlyCovered_.push_back({kind, unit});
+    suite_.CoveredBy[kind][unit] = pickNumber_;
+    if (listener_) listener_->firstCovered(kind, unit, pickNumber_);
 }
 
 void Selection::addToSuite(std::size_t offset) {

@@ -101,13 +101,19 @@ private:
         bool operator==(const ScoresLeft&) const = default;
     };
 
+    struct CoveredUnit {
+        Unit Kind;
+        std::size_t Number;
+    };
+
     void prepareRun();
     void firstPass();
     void laterPass();
     void appendBlock(bool first);
     void countAll(std::size_t offset);
     void requireLevels(Unit kind, std::size_t species) const;
-    void recount(std::size_t offset);
+    void takeOffCovered();
+    void tellAdditions(std::size_t offset) const;
     void rescore(std::size_t offset);
     void takeScore(std::size_t offset, Criterion criterion, double raw, double& score, double& highest);
     void normalise(std::size_t offset);
@@ -118,6 +124,7 @@ private:
     std::size_t firstInRace() const;
     std::size_t checkMargin();
     void takePick(std::size_t species);
+    void cover(Unit kind, std::size_t unit);
     void addToSuite(std::size_t offset);
     void remove(std::size_t species);
     bool allCovered() const;
@@ -127,6 +134,7 @@ private:
 
     const Landscape* landscape_ = nullptr;
     Table threatScores_;
+    std::vector<double> highestThreats_;
     std::vector<BlockRow> firstRows_;  ///< as the first pass begins, by species
     Coverage coverage_;
     bool coverageLoaded_ = false;
@@ -145,13 +153,13 @@ private:
     BlockSorter sorter_;
     std::vector<std::uint8_t> removed_;  ///< by species: out of the race
     std::vector<Word> covered_;
-    std::vector<Word> newlyCovered_;      ///< by the last pick
-    std::vector<ScoresLeft> left_;        ///< by species, before scaling
-    std::vector<std::uint8_t> rescored_;  ///< by species: left_ has changed in this pass
-    ScoresLeft highest_;                  ///< of the run so far: later passes are measured by early ones
-    std::size_t removedCount_ = 0;        ///< a removed species that is picked counts twice
-    std::size_t top_ = 0;                 ///< offset of the best species still in the race
-    std::size_t marginCount_ = 0;         ///< of the last pass that looked for species within the margin
+    std::vector<CoveredUnit> newlyCovered_;  ///< by the last pick
+    std::vector<ScoresLeft> left_;           ///< by species, before scaling
+    std::vector<std::uint8_t> rescored_;     ///< by species: left_ has changed in this pass
+    ScoresLeft highest_;                     ///< of the run so far: later passes are measured by early ones
+    std::size_t removedCount_ = 0;           ///< a removed species that is picked counts twice
+    std::size_t top_ = 0;                    ///< offset of the best species still in the race
+    std::size_t marginCount_ = 0;            ///< of the last pass that looked for species within the margin
     int pickNumber_ = 0;
 };
 

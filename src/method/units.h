@@ -30,6 +30,8 @@ private:
 
 using Word = std::uint64_t;
 inline constexpr std::size_t WordBits = 64;
+/// How many words hold so many bits.
+inline constexpr std::size_t wordsFor(std::size_t bits) { return (bits + WordBits - 1) / WordBits; }
 
 /// A set of units of one kind, over words that someone else keeps.
 template <class WordType>
@@ -44,9 +46,9 @@ private:
     std::span<WordType> words_;
 };
 
-/// Calls `visit` with each unit whose bit is set in `word`, in rising order; the word's first unit is `first`.
+/// Calls `visit` with the number of each bit that is set in `word`, rising; the word's first bit has number `first`.
 template <class Visit>
-void forEachUnit(Word word, std::size_t first, Visit visit) {
+void forEachBit(Word word, std::size_t first, Visit visit) {
     for (; word != 0; word &= word - 1) visit(first + static_cast<std::size_t>(std::countr_zero(word)));
 }
 
@@ -59,7 +61,7 @@ public:
         for (const Unit kind : UnitKinds) {
             counts_[kind] = counts[static_cast<std::size_t>(kind)];
             begin_[kind] = words_;
-            words_ += (counts_[kind] + WordBits - 1) / WordBits;
+            words_ += wordsFor(counts_[kind]);
             end_[kind] = words_;
         }
     }
@@ -80,19 +82,20 @@ private:
     std::size_t words_ = 0;
 };
 
-/// A set of units for each species, row by row.
-class UnitSets {
+/// Rows of bits: a set for each species or unit.
+class BitTable {
 public:
-    UnitSets() = default;
-    UnitSets(std::size_t rows, const UnitLayout& layout)
-        : words_(layout.words()), sets_(rows * layout.words()) {}
+    BitTable() = default;
+    BitTable(std::size_t rows, std::size_t words) : rows_(rows), words_(words), bits_(rows * words) {}
 
-    std::span<Word> row(std::size_t row) { return {sets_.data() + row * words_, words_}; }
-    std::span<const Word> row(std::size_t row) const { return {sets_.data() + row * words_, words_}; }
+    std::size_t rows() const { return rows_; }
+    std::span<Word> row(std::size_t row) { return {bits_.data() + row * words_, words_}; }
+    std::span<const Word> row(std::size_t row) const { return {bits_.data() + row * words_, words_}; }
 
 private:
+    std::size_t rows_ = 0;
     std::size_t words_ = 0;
-    std::vector<Word> sets_;
+    std::vector<Word> bits_;
 };
 
 }  // namespace method

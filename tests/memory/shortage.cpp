@@ -39,5 +39,11 @@ void* operator new(std::size_t size) {
     throw std::bad_alloc();
 }
 
+// Whoever can do without the memory asks so; that is no step.
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
+    return std::malloc(size > 0 ? size : 1);
+}
+
 void operator delete(void* memory) noexcept { std::free(memory); }
 void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
+void operator delete(void* memory, const std::nothrow_t&) noexcept { std::free(memory); }

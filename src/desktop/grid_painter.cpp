@@ -65,7 +65,7 @@ QStringList brokenIntoLines(const QString& text, int room, int lines, const QFon
 }
 
 QString cellText(const ui::Grid& grid, CellAddress cell) {
-    QString text = QString::fromStdString(grid.TextMatrix(cell.Row, cell.Col));
+    QString text = QString::fromUtf8(grid.TextMatrix(cell.Row, cell.Col));
     for (QChar& character : text) {
         if (character < u' ' || character == QChar::LineSeparator) character = u' ';
     }

@@ -74,7 +74,7 @@ void GridView::follow() {
 void GridView::tellListeners() {
     const CellAddress current{grid_.Row(), grid_.Col()};
     const bool any = current.Row < grid_.Rows() && current.Col < grid_.Cols();
-    std::string text = any ? grid_.TextMatrix(current.Row, current.Col) : std::string();
+    std::string text(any ? grid_.TextMatrix(current.Row, current.Col) : std::string_view());
     const bool moved = current != toldCell_;
     const bool rewritten = !moved && text != toldText_;
     toldCell_ = current;

@@ -202,7 +202,7 @@ void frmBrenica::flxCandidateSpecies_CellChanged(int row, int col) try {
     if (row <= 0 || col == 0) return;
     ProjectChanged = true;
     if (col != list::Name) return;
-    const std::string name = flxCandidateSpecies.TextMatrix(row, col);
+    const std::string name(flxCandidateSpecies.TextMatrix(row, col));
     const std::string shortName(ui::firstCharacters(name, ShortNameLength));
     for (int i = 0; i < flxScores.Count(); ++i) {
         flxScores(i).TextMatrix(row, 0, name);
@@ -242,7 +242,7 @@ void frmBrenica::UpdateSpeciesList() try {
     const bool atEnd = hadItems && chosen == cbxSpeciesName.ListCount() - 1;
     cbxSpeciesName.Clear();
     for (int row = 1; row <= global_.TotalSpecies; ++row) {
-        cbxSpeciesName.AddItem(flxCandidateSpecies.TextMatrix(row, list::Name));
+        cbxSpeciesName.AddItem(std::string(flxCandidateSpecies.TextMatrix(row, list::Name)));
     }
     const int count = cbxSpeciesName.ListCount();
     if (count == 0) return;

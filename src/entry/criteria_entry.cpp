@@ -68,7 +68,7 @@ void frmBrenica::blankCriteriaPage() {
 /// A blank status shows as "1" without reaching the store.
 void frmBrenica::showConservationStatus() {
     const ui::Grid& grid = flxSummary(summary::Vulnerability);
-    const std::string status = grid.TextMatrix(CurrentSpeciesIndex, vulnerability::ConservationStatus);
+    const std::string status(grid.TextMatrix(CurrentSpeciesIndex, vulnerability::ConservationStatus));
     if (!status.empty()) return txtCCS.Text(status);
     RefreshingCriteria = true;
     txtCCS.Text("1");
@@ -82,7 +82,7 @@ void frmBrenica::levelOfUse_AfterEdit(ListKind kind, int row, int col) try {
     ProjectChanged = true;
     if (col != 1) return;
     const ParameterList& list = parameterList(kind);
-    const std::string level = list.Entry->TextMatrix(row, col);
+    const std::string level(list.Entry->TextMatrix(row, col));
     flxSummary(list.LongMember)
         .TextMatrix(blockRow(CurrentSpeciesIndex, global_.*list.Total, row), use::Level, level);
     flxSummary(list.WideMember).TextMatrix(CurrentSpeciesIndex, row, level);
@@ -97,7 +97,7 @@ void frmBrenica::flxLandUsesVulnerability_CellChanged(int row, int col) try {
     VulnerabilityChanged = true;
     if (row <= 0 || CurrentSpeciesIndex == 0) return;
     if (col < 1 || col > 3) return;
-    const std::string value = flxLandUsesVulnerability.TextMatrix(row, col);
+    const std::string value(flxLandUsesVulnerability.TextMatrix(row, col));
     flxSummary(summary::ThreatsBySpecies)
         .TextMatrix(blockRow(CurrentSpeciesIndex, global_.TotalLandUses, row), threat::Severity + col - 1,
                     value);

@@ -123,7 +123,7 @@ void GetAreaVals(int species, const ui::Grid& source, const AreaControls& contro
     // Each text is copied, since loading a box writes it back to its cell.
     chooseYesNo(controls.Dispersal, std::string(source.TextMatrix(species, area::Dispersal)));
     chooseYesNo(controls.Connectivity, std::string(source.TextMatrix(species, area::Connectivity)));
-    controls.PropOccupied.Text(source.TextMatrix(species, area::Occupied));
+    controls.PropOccupied.Text(std::string(source.TextMatrix(species, area::Occupied)));
     controls.Hint.Caption(hint);
     loadHomeRange(std::string(source.TextMatrix(species, area::HomeRange)), controls);
 } catch (...) {
@@ -161,7 +161,7 @@ int GetColContents(const ui::Grid& grid, int column, std::vector<std::string>& c
     const int count = grid.Rows() - 1;
     if (count < 1) return 0;
     contents.clear();
-    for (int row = 1; row <= count; ++row) contents.push_back(grid.TextMatrix(row, column));
+    for (int row = 1; row <= count; ++row) contents.emplace_back(grid.TextMatrix(row, column));
     return count;
 } catch (...) {
     ReportError(9999, "FlexGridUtilities.GetColContents", "");

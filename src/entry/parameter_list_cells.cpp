@@ -28,7 +28,7 @@ void frmBrenica::unitName_CellChanged(const ParameterList& list, int row, int co
     if (row < 1 || col == 0) return;
     ProjectChanged = true;
     if (col != list::Name) return;
-    const std::string name = list.Grid->TextMatrix(row, col);
+    const std::string name(list.Grid->TextMatrix(row, col));
     list.Entry->TextMatrix(row, 0, name);
     const std::string_view shortName = ui::firstCharacters(name, ShortNameLength);
     ui::Grid& levels = flxSummary(list.LongMember);
@@ -42,7 +42,7 @@ void frmBrenica::unitName_CellChanged(const ParameterList& list, int row, int co
 void frmBrenica::flxLandUses_CellChanged(int row, int col) try {
     if (row <= 0 || col == 0) return;
     ProjectChanged = true;
-    const std::string value = flxLandUses.TextMatrix(row, col);
+    const std::string value(flxLandUses.TextMatrix(row, col));
     const int species = global_.TotalSpecies;
     if (col == list::Name) {
         flxLandUsesVulnerability.TextMatrix(row, 0, value);
@@ -62,7 +62,7 @@ void frmBrenica::flxFunctions_CellChanged(int row, int col) try {
     if (row < 1 || col == 0) return;
     ProjectChanged = true;
     if (col != list::Name) return;
-    const std::string name = flxFunctions.TextMatrix(row, col);
+    const std::string name(flxFunctions.TextMatrix(row, col));
     flxFunctionality.TextMatrix(row, 0, name);
     flxSummary(summary::Functionality).TextMatrix(0, row, name);
 } catch (...) {

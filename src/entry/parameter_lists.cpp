@@ -284,7 +284,7 @@ void frmBrenica::moveListRow(ui::Grid& grid, int index, int lastCol, const char*
     if (index == 1 && row >= grid.Rows() - 1) return;
     const int neighbour = index == 0 ? row - 1 : row + 1;
     std::vector<std::string> kept;
-    for (int col = 1; col <= lastCol; ++col) kept.push_back(grid.TextMatrix(row, col));
+    for (int col = 1; col <= lastCol; ++col) kept.emplace_back(grid.TextMatrix(row, col));
     for (int col = 1; col <= lastCol; ++col) grid.TextMatrix(row, col, grid.TextMatrix(neighbour, col));
     for (int col = 1; col <= lastCol; ++col)
         grid.TextMatrix(neighbour, col, kept[static_cast<std::size_t>(col) - 1]);

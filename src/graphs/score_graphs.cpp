@@ -22,9 +22,9 @@ void showScores(ui::Chart& chart, const ui::Grid& scores, int species, int first
                 std::span<const ScoreSeries> series) {
     ui::Chart::Table data;
     for (int row = 1; row <= species; ++row) {
-        std::vector<std::string> group{scores.TextMatrix(row, 0)};
+        std::vector<std::string> group{std::string(scores.TextMatrix(row, 0))};
         for (std::size_t i = 0; i < series.size(); ++i) {
-            group.push_back(scores.TextMatrix(row, firstCol + static_cast<int>(i)));
+            group.emplace_back(scores.TextMatrix(row, firstCol + static_cast<int>(i)));
         }
         data.push_back(std::move(group));
     }

@@ -41,11 +41,12 @@ void frmBrenica::UpdateSummaryGraphs() try {
     const ui::Grid& threats = flxSummary(summary::Vulnerability);
     const auto inRow = [](const ui::Grid& grid, int fromLast, int offset) {
         return [&grid, fromLast, offset](int i) {
-            return grid.TextMatrix(grid.Rows() - 1 - fromLast, i + offset);
+            return std::string(grid.TextMatrix(grid.Rows() - 1 - fromLast, i + offset));
         };
     };
     const auto inColumn = [](const ui::Grid& grid, int fromLast) {
-        return [&grid, fromLast](int i) { return grid.TextMatrix(i, grid.Cols() - 1 - fromLast); };
+        return
+            [&grid, fromLast](int i) { return std::string(grid.TextMatrix(i, grid.Cols() - 1 - fromLast)); };
     };
     const int species = global_.TotalSpecies;
     constexpr int Offset = vulnerability::ThreatOffset;

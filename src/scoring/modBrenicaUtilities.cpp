@@ -33,7 +33,7 @@ double sumOfRow(int species, int lastCol, const ui::Grid& grid) {
 
 /// Position of the bin with this label, from 1; 0 where none has it.
 template <class Labels>
-int binOf(const std::string& label, const Labels& labels, int count) {
+int binOf(std::string_view label, const Labels& labels, int count) {
     for (int i = 0; i < count; ++i) {
         if (ui::equalsIgnoringCase(ui::elementAt(labels, i), label)) return i + 1;
     }
@@ -96,7 +96,7 @@ void ScaleHomeRanges(std::vector<double>& scaled, const ui::Grid& areaGrid, int 
     int bin = 0;  // a label that is in no list takes the bin of the species before
     for (int species = 1; species <= global.TotalSpecies; ++species) {
         double& homeRange = scaled[static_cast<std::size_t>(species) - 1];
-        const std::string& text = areaGrid.TextMatrix(species, area::HomeRange);
+        const std::string_view text = areaGrid.TextMatrix(species, area::HomeRange);
         if (text.empty()) continue;
         if (homeRangeType == 0) {
             homeRange = areaGrid.Real(species, area::HomeRange);

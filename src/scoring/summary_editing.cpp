@@ -154,7 +154,7 @@ std::string frmBrenica::summaryTip(int index, int row, int col) const {
         if (col == grid.Cols() - 1) return table.CountBySpecies;
         if (col == grid.Cols() - 2) return table.TotalBySpecies;
         if (col == grid.Cols() - 3) return "";
-        return (this->*table.Names).TextMatrix(col - table.Offset, list::Name);
+        return std::string((this->*table.Names).TextMatrix(col - table.Offset, list::Name));
     }
     return "";
 }

@@ -58,7 +58,7 @@ void frmBrenica::levelOfUse_Changed(const ParameterList& list, int row, int col)
     const bool data = row >= 1 && row <= global_.TotalSpecies && col >= 1 && col <= units;
     if (!data || levelsShifted(list)) return;
     ui::Grid& grid = flxSummary(list.WideMember);
-    const std::string level = grid.TextMatrix(row, col);
+    const std::string level(grid.TextMatrix(row, col));
     redoColumnTotals(grid, col, global_.TotalSpecies);
     redoRowTotals(grid, row, units);
     succeeds([&] { flxSummary(list.LongMember).TextMatrix(blockRow(row, units, col), use::Level, level); });

@@ -172,7 +172,7 @@ bool frmBrenica::ValidateScoreValues() try {
 bool frmBrenica::allUnitsInUse(int member, const ui::Grid& units, int count, const char* kind) {
     const int unused = firstUnused(flxSummary(member), count, global_.TotalSpecies);
     if (unused == 0) return true;
-    showInvalidValue("The '" + units.TextMatrix(unused, list::Name) + "' " + kind +
+    showInvalidValue("The '" + std::string(units.TextMatrix(unused, list::Name)) + "' " + kind +
                      " is not used by any candidate species. Either select or remove this " + kind + ".");
     return false;
 }
@@ -202,8 +202,7 @@ void frmBrenica::GetFlexGridsUpdated(int index) try {
             for (int unit = 1; unit <= count; ++unit) {
                 const int row = blockRow(species, count, unit);
                 flxSummary(member).TextMatrix(
-                    row, 0,
-                    unit == 1 ? std::string_view(flxCandidateSpecies.TextMatrix(species, list::Name)) : "");
+                    row, 0, unit == 1 ? flxCandidateSpecies.TextMatrix(species, list::Name) : "");
                 for (int col = 1; col <= lastCol; ++col) {
                     flxSummary(member).TextMatrix(row, col, units.TextMatrix(unit, col));
                 }
@@ -218,9 +217,7 @@ void frmBrenica::GetFlexGridsUpdated(int index) try {
     for (int threatNumber = 1; threatNumber <= global_.TotalLandUses; ++threatNumber) {
         for (int species = 1; species <= global_.TotalSpecies; ++species) {
             const int row = blockRow(threatNumber, global_.TotalSpecies, species);
-            byThreat.TextMatrix(
-                row, 0,
-                species == 1 ? std::string_view(flxLandUses.TextMatrix(threatNumber, list::Name)) : "");
+            byThreat.TextMatrix(row, 0, species == 1 ? flxLandUses.TextMatrix(threatNumber, list::Name) : "");
             byThreat.TextMatrix(row, 1, flxCandidateSpecies.TextMatrix(species, list::Name));
         }
     }

@@ -40,8 +40,8 @@ struct BandColumn {
 
     void append(const ui::Grid& grid, int row, const char* before) {
         Text += before;
-        Text +=
-            Rounded ? ui::toText(ui::roundTo(grid.Real(row, Column), Places)) : grid.TextMatrix(row, Column);
+        Text += Rounded ? ui::toText(ui::roundTo(grid.Real(row, Column), Places))
+                        : std::string(grid.TextMatrix(row, Column));
     }
 };
 
@@ -134,7 +134,7 @@ int askForSpecies(ui::Platform& platform, const MarginBand& band) {
     std::string prompt = "Enter the number of the candidate species\r";
     int shown = 0;
     const auto add = [&](int row) {
-        prompt += ui::toText(++shown) + ": " + band.Grid.TextMatrix(row, result::Name) + "\r";
+        prompt += ui::toText(++shown) + ": " + std::string(band.Grid.TextMatrix(row, result::Name)) + "\r";
     };
     add(band.topRow());
     for (int j = band.firstBelow(); j <= band.last(); ++j) {

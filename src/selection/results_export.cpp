@@ -22,11 +22,15 @@ const char* markOf(ui::Grid& results, int row) {
 }
 
 std::string dataLine(ui::Grid& results, int row) {
-    std::string line = markOf(results, row) + results.TextMatrix(row, 0);
+    std::string line = markOf(results, row);
+    line += results.TextMatrix(row, 0);
     const std::size_t width = ui::length(line);
     line = width > NameWidth ? std::string(ui::firstCharacters(line, NameWidth))
                              : line + std::string(NameWidth - width, ' ');
-    for (int col = 1; col <= results.Cols() - 2; ++col) line += results.TextMatrix(row, col) + '\t';
+    for (int col = 1; col <= results.Cols() - 2; ++col) {
+        line += results.TextMatrix(row, col);
+        line += '\t';
+    }
     return line;
 }
 
@@ -34,7 +38,7 @@ std::string dataLine(ui::Grid& results, int row) {
 std::string uncoveredLine(const char* prefix, const ui::Grid& view, const ui::Grid& names, int count) {
     std::vector<std::string> uncovered;
     for (int i = 1; i <= count; ++i) {
-        if (view.TextMatrix(i, 1).empty()) uncovered.push_back(names.TextMatrix(i, list::Name));
+        if (view.TextMatrix(i, 1).empty()) uncovered.emplace_back(names.TextMatrix(i, list::Name));
     }
     return uncovered.empty() ? std::string() : prefix + ui::join(uncovered, ", ");
 }
@@ -70,8 +74,8 @@ void frmBrenica::printRanking() {
     printResult("Brenic Species by Rank with Aggregate Score:");
     for (int rank = 1; rank <= global_.TotalSpecies; ++rank) {
         const int row = ui::elementAt(global_.SpeciesRanks, rank - 1);
-        printResult(ui::toText(rank) + ". " + flxCandidateSpecies.TextMatrix(row, list::Name) + "  (" +
-                    flxScores(0).TextMatrix(row, score::Aggregate) + ")");
+        printResult(ui::toText(rank) + ". " + std::string(flxCandidateSpecies.TextMatrix(row, list::Name)) +
+                    "  (" + std::string(flxScores(0).TextMatrix(row, score::Aggregate)) + ")");
     }
     printResult("");
     printResult("");
@@ -84,7 +88,7 @@ void frmBrenica::printSuite() {
     printResult("");
     printResult("The Suite of Brenic Species:");
     for (int row = 1; row <= flxBrenicSuite.Rows() - 1; ++row) {
-        printResult(ui::toText(row) + ". " + flxBrenicSuite.TextMatrix(row, 1));
+        printResult(ui::toText(row) + ". " + std::string(flxBrenicSuite.TextMatrix(row, 1)));
     }
     printResult("");
     printResult("");

@@ -91,8 +91,8 @@ private:
         results_.CellBackColor(colour);
     }
     void showOmitted(int row, const char* message) {
-        platform_.showMessage(results_.TextMatrix(row, result::Name) + message, "Species Omitted",
-                              ui::MessageIcon::Exclamation);
+        platform_.showMessage(std::string(results_.TextMatrix(row, result::Name)) + message,
+                              "Species Omitted", ui::MessageIcon::Exclamation);
     }
 
     ui::Platform& platform_;
@@ -332,7 +332,7 @@ void SelectionRun::report() {
         if (count >= static_cast<int>(covered.size())) return;
         std::vector<std::string> uncovered;
         for (int i = 1; i <= static_cast<int>(covered.size()); ++i) {
-            if (!covered[at(i)]) uncovered.push_back(names.TextMatrix(i, list::Name));
+            if (!covered[at(i)]) uncovered.emplace_back(names.TextMatrix(i, list::Name));
         }
         text += prefix + ui::join(uncovered, ", ") + "\r";
     };

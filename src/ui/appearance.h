@@ -13,4 +13,7 @@ constexpr Colour rgb(int red, int green, int blue) { return red + 256 * green + 
 /// Values of alignment settings.
 enum class CellAlign : signed char { LeftCentre = 1, CentreCentre = 4, RightCentre = 7, General = 9 };
 
+/// Values of CellChecked.
+enum class CheckState : signed char { None = 0, Checked = 1, Unchecked = 2 };
+
 }  // namespace ui

@@ -9,37 +9,51 @@
 
 namespace ui {
 
-/// A sequence in which a run of insertions or removals at neighbouring places costs no more than the elements between
-/// those places: the free room stands as one gap where the last change was. Indices are the caller's to check.
+/// Rows of equally many elements, in which a run of insertions or removals at neighbouring places costs no more than
+/// the rows between those places: the free room stands as one gap where the last change was. Indices are the caller's
+/// to check; a row stays where it is until the next change of the buffer.
 template <class T>
 class GapBuffer {
 public:
-    std::size_t size() const { return slots_.size() - gapLength_; }
+    explicit GapBuffer(std::size_t width = 1) : width_(width) {}
 
-    T& operator[](std::size_t index) { return slots_[slotOf(index)]; }
-    const T& operator[](std::size_t index) const { return slots_[slotOf(index)]; }
+    /// Number of rows, and of elements in each.
+    std::size_t size() const { return rows_ - gapLength_; }
+    std::size_t width() const { return width_; }
 
-    void insert(std::size_t index, T element) {
+    T* operator[](std::size_t index) { return slots_.data() + slotOf(index) * width_; }
+    const T* operator[](std::size_t index) const { return slots_.data() + slotOf(index) * width_; }
+
+    /// Room for one more row: the next insertion needs no memory.
+    void makeRoom() {
         if (gapLength_ == 0) grow();
+    }
+
+    /// Puts a row of empty elements before the row of that index.
+    T* insert(std::size_t index) {
+        makeRoom();
         moveGap(index);
-        slots_[gapStart_++] = std::move(element);
+        T* const row = slots_.data() + gapStart_++ * width_;
+        empty(row);
         --gapLength_;
+        return row;
     }
 
     void erase(std::size_t index) {
         moveGap(index);
-        slots_[gapStart_ + gapLength_] = T();
+        empty(slots_.data() + (gapStart_ + gapLength_) * width_);
         ++gapLength_;
     }
 
-    /// Grows with empty elements at the end, or drops the last ones.
+    /// Grows with empty rows at the end, or drops the last ones.
     void resize(std::size_t count) {
         closeGap();
-        slots_.resize(count);
+        slots_.resize(count * width_);
+        rows_ = count;
         gapStart_ = count;
     }
 
-    /// All elements in order, in one piece. Invalid after the next change.
+    /// All rows in order, in one piece. Invalid after the next change.
     T* contiguous() {
         closeGap();
         return slots_.data();
@@ -48,9 +62,13 @@ public:
 private:
     std::size_t slotOf(std::size_t index) const { return index < gapStart_ ? index : index + gapLength_; }
 
+    void empty(T* row) {
+        for (std::size_t i = 0; i < width_; ++i) row[i] = T();
+    }
+
     void moveGap(std::size_t index) {
         const auto places = slots_.begin();
-        const auto at = [&](std::size_t i) { return places + static_cast<std::ptrdiff_t>(i); };
+        const auto at = [&](std::size_t row) { return places + static_cast<std::ptrdiff_t>(row * width_); };
         if (gapLength_ == 0) {
             // Nothing to move: an element must not be moved onto itself.
         } else if (index < gapStart_) {
@@ -63,19 +81,22 @@ private:
 
     void closeGap() {
         moveGap(size());
-        slots_.resize(size());
+        rows_ = size();
+        slots_.resize(rows_ * width_);
         gapLength_ = 0;
     }
 
     void grow() {
-        const std::size_t end = slots_.size();
-        const std::size_t room = std::max<std::size_t>(8, end / 2);
-        slots_.resize(end + room);
-        gapStart_ = end;
+        const std::size_t room = std::max<std::size_t>(8, rows_ / 2);
+        slots_.resize((rows_ + room) * width_);
+        gapStart_ = rows_;
         gapLength_ = room;
+        rows_ += room;
     }
 
+    std::size_t width_;
     std::vector<T> slots_;
+    std::size_t rows_ = 0;  // those of the gap included
     std::size_t gapStart_ = 0;
     std::size_t gapLength_ = 0;
 };

@@ -19,24 +19,12 @@ constexpr int MostHeadingLines = 2;
 const Font CellFont{};
 const Font BoldCellFont{.Bold = true};
 
-/// Keeps the elements that both sizes have.
-template <class T>
-void resizeArray(std::unique_ptr<T[]>& array, std::size_t before, std::size_t after) {
-    auto resized = std::make_unique<T[]>(after);
-    std::move(array.get(), array.get() + std::min(before, after), resized.get());
-    array = std::move(resized);
-}
-
 }  // namespace
 
 Grid::Grid(Control& container, std::string name, Design design)
     : Control(container, ControlKind::Grid, std::move(name), std::move(design)), separator_(separator()) {
     Cols(DesignTimeCols);
     Rows(DesignTimeRows);
-}
-
-void Grid::requireCell(int row, int col) const {
-    if (!contains(row, col)) raise(ErrorNumber::SubscriptOutOfRange);
 }
 
 void Grid::requireRoomFor(int rows, int cols) const {
@@ -46,16 +34,10 @@ void Grid::requireRoomFor(int rows, int cols) const {
 
 void Grid::Rows(int count) {
     requireRoomFor(count, Cols());
-    const int before = Rows();
-    if (count == before) return;
+    if (count == Rows()) return;
     reportChange();
     sortMark_ = {};
-    // Made first, so that no row is left without cells where the memory runs out.
-    std::vector<RowData> added;
-    for (int row = before; row < count; ++row) added.push_back(emptyRow());
-    rows_.resize(static_cast<std::size_t>(count));
-    for (int row = before; row < count; ++row)
-        rows_[static_cast<std::size_t>(row)] = std::move(added[static_cast<std::size_t>(row - before)]);
+    cells_.resizeRows(static_cast<std::size_t>(count));
     forgetWidths();
     keepCurrentCellInside();
 }
@@ -65,15 +47,9 @@ void Grid::Cols(int count) {
     if (count == Cols()) return;
     reportChange();
     sortMark_ = {};
-    const std::size_t before = columns_.size();
-    const auto after = static_cast<std::size_t>(count);
-    // Where the memory runs out, a row may be left longer than the grid is wide, but never shorter.
-    if (after < before) columns_.resize(after);
-    for (std::size_t i = 0; i < rows_.size(); ++i) {
-        resizeArray(rows_[i].Cells, before, after);
-        if (rows_[i].Formats) resizeArray(rows_[i].Formats, before, after);
-    }
-    columns_.resize(after);
+    // Where the memory runs out, the grid stays as wide as it was.
+    cells_.resizeCols(static_cast<std::size_t>(count));
+    columns_.resize(static_cast<std::size_t>(count));
     keepCurrentCellInside();
 }
 
@@ -82,16 +58,15 @@ void Grid::AddItem(std::string_view text, int row) {
     requireRoomFor(Rows() + 1, Cols());
     reportChange();
     sortMark_ = {};
-    RowData added = emptyRow();
-    if (!columns_.empty()) added.Cells[0] = text;
-    rows_.insert(static_cast<std::size_t>(row), std::move(added));
+    cells_.insertRow(static_cast<std::size_t>(row));
+    if (!columns_.empty()) cells_.text(static_cast<std::size_t>(row), 0, text);
     forgetWidths();
 }
 
 void Grid::RemoveItem(int row) {
     if (row < 0 || row >= Rows()) raise(ErrorNumber::SubscriptOutOfRange);
     reportChange();
-    rows_.erase(static_cast<std::size_t>(row));
+    cells_.eraseRow(static_cast<std::size_t>(row));
     forgetWidths();
     keepCurrentCellInside();
 }
@@ -127,39 +102,24 @@ void Grid::Select(int row1, int col1, int row2, int col2) {
     change(userSelected_, false);
 }
 
-Grid::CellRange Grid::selection() const {
-    if (FillStyle == 0) return {row_, col_, row_, col_};
-    return {std::min(row_, rowSel_), std::min(col_, colSel_), std::max(row_, rowSel_),
-            std::max(col_, colSel_)};
+CellTable::Range Grid::selection() const {
+    const auto range = [](int row1, int col1, int row2, int col2) {
+        return CellTable::Range{
+            static_cast<std::size_t>(std::min(row1, row2)), static_cast<std::size_t>(std::min(col1, col2)),
+            static_cast<std::size_t>(std::max(row1, row2)), static_cast<std::size_t>(std::max(col1, col2))};
+    };
+    return FillStyle == 0 ? range(row_, col_, row_, col_) : range(row_, col_, rowSel_, colSel_);
 }
 
-const Grid::CellFormat& Grid::format(int row, int col) const {
-    static const CellFormat Unset;
+const CellFormat& Grid::format(int row, int col) const {
     requireCell(row, col);
-    const RowData& data = rows_[static_cast<std::size_t>(row)];
-    return data.Formats ? data.Formats[static_cast<std::size_t>(col)] : Unset;
+    return cells_.format(static_cast<std::size_t>(row), static_cast<std::size_t>(col));
 }
 
-/// Changes the format of each selected cell; a row gets formats only when one of its cells needs one.
-template <class Change>
-void Grid::changeFormats(Change change) {
+void Grid::changeFormats(const std::function<void(CellFormat&)>& change) {
     requireCell(row_, col_);
     reportChange();
-    const auto same = [](const CellFormat& a, const CellFormat& b) {
-        return a.BackColor == b.BackColor && a.Alignment == b.Alignment && a.Checked == b.Checked &&
-               a.Bold == b.Bold;
-    };
-    CellFormat unset;
-    change(unset);
-    const bool needsFormats = !same(unset, CellFormat());
-    const CellRange range = selection();
-    for (int row = range.FirstRow; row <= range.LastRow; ++row) {
-        std::unique_ptr<CellFormat[]>& formats = rows_[static_cast<std::size_t>(row)].Formats;
-        if (!formats && !needsFormats) continue;
-        if (!formats) formats = std::make_unique<CellFormat[]>(columns_.size());
-        for (int col = range.FirstCol; col <= range.LastCol; ++col)
-            change(formats[static_cast<std::size_t>(col)]);
-    }
+    cells_.changeFormats(selection(), change);
 }
 
 void Grid::CellBackColor(Colour colour) {
@@ -202,13 +162,10 @@ void Grid::AutoSize(int firstCol, int lastCol) {
 
 int Grid::measure(int col) const {
     int widest = 0;
-    for (std::size_t row = 0; row < rows_.size(); ++row) {
-        const auto index = static_cast<std::size_t>(col);
-        const RowData& data = rows_[row];
-        const std::string& text = data.Cells[index];
+    for (int row = 0; row < Rows(); ++row) {
+        const std::string_view text = TextMatrix(row, col);
         if (text.empty()) continue;
-        const bool bold = data.Formats && data.Formats[index].Bold;
-        widest = std::max(widest, platform().textWidth(text, bold ? BoldCellFont : CellFont));
+        widest = std::max(widest, platform().textWidth(text, IsBold(row, col) ? BoldCellFont : CellFont));
     }
     return widest + CellPadding;
 }
@@ -224,7 +181,7 @@ bool Grid::RowsOverflow() const {
 int Grid::headingLines(int col) const {
     const int room = ColWidth(col) - CellPadding;
     const Font& font = IsBold(0, col) ? BoldCellFont : CellFont;
-    const std::string& text = TextMatrix(0, col);
+    const std::string_view text = TextMatrix(0, col);
     if (text.empty() || platform().textWidth(text, font) <= room) return 1;
     int lines = 0;
     std::string line;

@@ -2,17 +2,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "ui/appearance.h"
+#include "ui/cell_table.h"
 #include "ui/control.h"
 #include "ui/errors.h"
 #include "ui/event.h"
 #include "ui/files.h"
-#include "ui/gap_buffer.h"
 #include "ui/text_editor.h"
 
 namespace ui {
@@ -21,8 +20,6 @@ namespace ui {
 enum class SortOrder { GenericAscending = 1, GenericDescending = 2, TextAscending = 5 };
 /// Values of Grid::Editable.
 enum class EditMode { ReadOnly = 0, KeyboardAndMouse = 2 };
-/// Values of CellChecked.
-enum class CheckState : signed char { None = 0, Checked = 1, Unchecked = 2 };
 /// The formats of SaveGrid.
 enum class GridFileFormat { TabDelimited = 4 };
 
@@ -45,7 +42,7 @@ public:
     Event<> MouseDown;
 
     // Shape. New cells are empty.
-    int Rows() const { return static_cast<int>(rows_.size()); }
+    int Rows() const { return static_cast<int>(cells_.rows()); }
     void Rows(int count);
     int Cols() const { return static_cast<int>(columns_.size()); }
     void Cols(int count);
@@ -59,16 +56,21 @@ public:
     void RemoveItem(int row);
 
     // Cells.
-    const std::string& TextMatrix(int row, int col) const { return cell(row, col); }
+    /// Valid until this cell changes, or the shape or the order of the grid.
+    std::string_view TextMatrix(int row, int col) const {
+        requireCell(row, col);
+        return cells_.text(static_cast<std::size_t>(row), static_cast<std::size_t>(col));
+    }
     void TextMatrix(int row, int col, std::string_view text) {
-        const_cast<std::string&>(cell(row, col)).assign(text);
+        requireCell(row, col);
+        cells_.text(static_cast<std::size_t>(row), static_cast<std::size_t>(col), text);
         columns_[static_cast<std::size_t>(col)].MeasuredWidth = NotMeasured;
         if (col == sortMark_.Col) sortMark_ = {};
         reportChange();
         if (CellChanged) CellChanged(row, col);
     }
     /// The cell's text as a number; raises TypeMismatch or Overflow, for an empty cell as well.
-    double Real(int row, int col) const { return gradeToReal(cell(row, col), separator_); }
+    double Real(int row, int col) const { return gradeToReal(TextMatrix(row, col), separator_); }
     int Long(int row, int col) const { return toLong(Real(row, col)); }
 
     // Current cell and selection. Row and Col stay inside the grid when it shrinks.
@@ -210,54 +212,27 @@ public:
     void UserMouseDown(int row, int col);
 
 private:
-    struct CellFormat {
-        Colour BackColor = DefaultBackColor;
-        CellAlign Alignment = CellAlign::General;
-        CheckState Checked = CheckState::None;
-        bool Bold = false;
-    };
-    /// As many cells as the grid has columns; formats only while a cell of the row has one. Two pointers, since rows
-    /// are moved when others are put in or taken out.
-    struct RowData {
-        std::unique_ptr<std::string[]> Cells;
-        std::unique_ptr<CellFormat[]> Formats;
-    };
     struct ColumnData {
         int Width = DefaultColumnWidth;
         int MeasuredWidth = NotMeasured;
         CellAlign Alignment = CellAlign::General;
         bool Hidden = false;
     };
-    struct CellRange {
-        int FirstRow;
-        int FirstCol;
-        int LastRow;
-        int LastCol;
-    };
-
-    static constexpr Colour DefaultBackColor = rgb(255, 255, 255);
     static constexpr int DefaultColumnWidth = 960;
     static constexpr int NotMeasured = -1;
 
-    const std::string& cell(int row, int col) const {
-        if (static_cast<std::size_t>(row) >= rows_.size() ||
-            static_cast<std::size_t>(col) >= columns_.size()) {
-            raise(ErrorNumber::SubscriptOutOfRange);
-        }
-        return rows_[static_cast<std::size_t>(row)].Cells[static_cast<std::size_t>(col)];
-    }
     bool contains(int row, int col) const { return row >= 0 && row < Rows() && col >= 0 && col < Cols(); }
-    void requireCell(int row, int col) const;
+    void requireCell(int row, int col) const {
+        if (!contains(row, col)) raise(ErrorNumber::SubscriptOutOfRange);
+    }
     void requireRoomFor(int rows, int cols) const;
     const CellFormat& format(int row, int col) const;
     const ColumnData& column(int col) const;
     ColumnData& column(int col);
-    RowData emptyRow() const { return {std::make_unique<std::string[]>(columns_.size()), nullptr}; }
     void forgetWidths();
     void keepCurrentCellInside();
-    CellRange selection() const;
-    template <class Change>
-    void changeFormats(Change change);
+    CellTable::Range selection() const;
+    void changeFormats(const std::function<void(CellFormat&)>& change);
     void setCurrent(int row, int col);
     bool mayLeaveFor(int row, int col);
     bool isBody(int row, int col) const {
@@ -273,7 +248,7 @@ private:
     void closeEditor();
 
     const DecimalSeparator separator_;
-    GapBuffer<RowData> rows_;
+    CellTable cells_;
     std::vector<ColumnData> columns_;
     int fixedRows_ = 1;
     int fixedCols_ = 1;

@@ -18,11 +18,12 @@ bool isStep(int key) {
 }
 
 /// A text as one cell of a line of tab-separated ones.
-std::string asCell(std::string text) {
-    for (char& character : text) {
+std::string asCell(std::string_view text) {
+    std::string cell(text);
+    for (char& character : cell) {
         if (character == '\t' || character == '\r' || character == '\n') character = ' ';
     }
-    return text;
+    return cell;
 }
 
 }  // namespace
@@ -146,7 +147,7 @@ bool Grid::UserBeginEdit() {
     bool cancel = false;
     BeforeEdit(row_, col_, cancel);
     if (cancel) return false;
-    editor_.Text(TextMatrix(row_, col_));
+    editor_.Text(std::string(TextMatrix(row_, col_)));
     editor_.SelectAll();
     change(editing_, true);
     Form().EditingGrid(this);

@@ -19,13 +19,13 @@ struct SortKey {
     std::string Text{};
 };
 
-SortKey genericKey(const std::string& text, DecimalSeparator separator) {
+SortKey genericKey(std::string_view text, DecimalSeparator separator) {
     if (text.empty()) return {SortKey::Kind::Empty};
     if (const auto number = tryReal(text, separator)) return {SortKey::Kind::Number, *number};
     return {SortKey::Kind::Text, 0, foldCase(text)};
 }
 
-SortKey textKey(const std::string& text) { return {SortKey::Kind::Text, 0, foldCase(text)}; }
+SortKey textKey(std::string_view text) { return {SortKey::Kind::Text, 0, foldCase(text)}; }
 
 bool comesBefore(const SortKey& left, const SortKey& right) {
     if (left.Rank != right.Rank) return left.Rank < right.Rank;
@@ -44,11 +44,10 @@ void Grid::Sort(SortOrder order) {
     sortMark_ = oneCell ? SortMark{col_, order == SortOrder::GenericDescending} : SortMark{};
     if (first >= last) return;
 
-    RowData* rows = rows_.contiguous() + first;
     const auto count = static_cast<std::size_t>(last - first + 1);
     std::vector<SortKey> keys(count);
     for (std::size_t i = 0; i < count; ++i) {
-        const std::string& text = rows[i].Cells[static_cast<std::size_t>(col_)];
+        const std::string_view text = TextMatrix(first + static_cast<int>(i), col_);
         keys[i] = order == SortOrder::TextAscending ? textKey(text) : genericKey(text, separator_);
     }
     std::vector<std::size_t> places(count);
@@ -57,11 +56,7 @@ void Grid::Sort(SortOrder order) {
         return order == SortOrder::GenericDescending ? comesBefore(keys[b], keys[a])
                                                      : comesBefore(keys[a], keys[b]);
     });
-
-    std::vector<RowData> sorted;
-    sorted.reserve(count);
-    for (const std::size_t place : places) sorted.push_back(std::move(rows[place]));
-    std::move(sorted.begin(), sorted.end(), rows);
+    cells_.reorder(static_cast<std::size_t>(first), places);
 }
 
 void Grid::SaveGrid(Files& files, const std::string& path, GridFileFormat) const {

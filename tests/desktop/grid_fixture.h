@@ -44,7 +44,7 @@ struct GridWindow : Window {
     }
 
     static std::string at(int row, int col) { return std::to_string(row) + "." + std::to_string(col); }
-    std::string text(int row, int col) const { return grid.TextMatrix(row, col); }
+    std::string text(int row, int col) const { return std::string(grid.TextMatrix(row, col)); }
     desktop::CellAddress current() const { return {grid.Row(), grid.Col()}; }
     desktop::CellAddress selectedTo() const { return {grid.RowSel(), grid.ColSel()}; }
     /// What code does: the view follows when it has returned.

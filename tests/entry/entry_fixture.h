@@ -79,7 +79,7 @@ protected:
     /// The texts from column `firstCol` to `lastCol` of a row.
     static std::vector<std::string> cells(const ui::Grid& grid, int row, int firstCol, int lastCol) {
         std::vector<std::string> texts;
-        for (int col = firstCol; col <= lastCol; ++col) texts.push_back(grid.TextMatrix(row, col));
+        for (int col = firstCol; col <= lastCol; ++col) texts.emplace_back(grid.TextMatrix(row, col));
         return texts;
     }
 

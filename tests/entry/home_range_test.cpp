@@ -35,7 +35,7 @@ protected:
         goTo(3);
         goTo(2);
     }
-    std::string storedHomeRange(int species) { return summary(4).TextMatrix(species, 3); }
+    std::string storedHomeRange(int species) { return std::string(summary(4).TextMatrix(species, 3)); }
     const std::string Question =
         "You will lose all previously entered home range data by changing the home range type. Do you wish to proceed?";
 };

@@ -27,7 +27,7 @@ TEST_F(ParameterRemoval, ShortensTheListsAndNumbersThemAnew) {
     for (const ListControls& list : {habitats(), zones(), activities(), functions()}) {
         SCOPED_TRACE(list.Grid.Name());
         const int before = list.Total;
-        const std::string third = list.Grid.TextMatrix(3, 1);
+        const std::string third(list.Grid.TextMatrix(3, 1));
         remove(list, 2);
         EXPECT_EQ(list.Total, before - 1);
         EXPECT_EQ(list.Grid.Rows(), before);

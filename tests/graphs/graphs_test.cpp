@@ -182,7 +182,7 @@ TEST_F(ScoreGraphs, ShowTheScoresOfEachSpecies) {
              .set("HeteroHabitat Population", "2,1")
              .set("Socio-Econ1", "1,6"));
     goTo(6);
-    const std::string shown = form.flxScores(0).TextMatrix(2, 0);
+    const std::string shown(form.flxScores(0).TextMatrix(2, 0));
     EXPECT_THAT(longName, testing::StartsWith(shown));
     EXPECT_EQ(form.chtScores(0).ChartData(), (Table{{"Otter", "4.5", "1", "1", "1", "1", "0.5"},
                                                     {shown, "4.6", "0.6", "1", "1", "1", "1"}}));

@@ -318,7 +318,7 @@ protected:
         return project;
     }
     std::string occupied(int species) {
-        return form.flxSummary(summary::Area).TextMatrix(species, area::Occupied);
+        return std::string(form.flxSummary(summary::Area).TextMatrix(species, area::Occupied));
     }
 };
 

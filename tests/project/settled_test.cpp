@@ -258,7 +258,7 @@ TEST_F(Settled, AnImportedBreakpointSetsTheHomeRangeControlsOfItsType) {
 TEST_F(Settled, TheDataQualityBoxStoresWhetherTheUserOrCodeChooses) {
     open(ProjectText(1, 1, 1, 1));
     goTo(3);
-    const auto stored = [&] { return form.flxSummary(summary::DataQuality).TextMatrix(1, 1); };
+    const auto stored = [&] { return std::string(form.flxSummary(summary::DataQuality).TextMatrix(1, 1)); };
     form.cbxDataQuality.UserChoose(2);
     EXPECT_EQ(stored(), "3");
     form.cbxDataQuality.ListIndex(5);

@@ -100,13 +100,13 @@ std::vector<std::string> FormTest::shownTitles() const {
 
 std::vector<std::string> FormTest::rowOf(const ui::Grid& grid, int row) {
     std::vector<std::string> texts;
-    for (int col = 0; col < grid.Cols(); ++col) texts.push_back(grid.TextMatrix(row, col));
+    for (int col = 0; col < grid.Cols(); ++col) texts.emplace_back(grid.TextMatrix(row, col));
     return texts;
 }
 
 std::vector<std::string> FormTest::columnOf(const ui::Grid& grid, int col) {
     std::vector<std::string> texts;
-    for (int row = 0; row < grid.Rows(); ++row) texts.push_back(grid.TextMatrix(row, col));
+    for (int row = 0; row < grid.Rows(); ++row) texts.emplace_back(grid.TextMatrix(row, col));
     return texts;
 }
 

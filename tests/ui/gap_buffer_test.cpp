@@ -14,7 +14,7 @@ namespace {
 class GapBufferAndModel {
 public:
     void insert(std::size_t index, const std::string& element) {
-        buffer.insert(index, element);
+        *buffer.insert(index) = element;
         model.insert(model.begin() + static_cast<std::ptrdiff_t>(index), element);
     }
     void erase(std::size_t index) {
@@ -26,13 +26,13 @@ public:
         model.resize(count);
     }
     void assign(std::size_t index, const std::string& element) {
-        buffer[index] = element;
+        *buffer[index] = element;
         model[index] = element;
     }
     void expectEqual() {
         ASSERT_EQ(buffer.size(), model.size());
         const ui::GapBuffer<std::string>& reader = buffer;
-        for (std::size_t i = 0; i < model.size(); ++i) ASSERT_EQ(reader[i], model[i]) << "at " << i;
+        for (std::size_t i = 0; i < model.size(); ++i) ASSERT_EQ(*reader[i], model[i]) << "at " << i;
     }
     void expectEqualInOnePiece() {
         const std::string* elements = buffer.contiguous();
@@ -90,16 +90,33 @@ TEST(GapBuffer, GivesEmptyElementsWhereItGrowsAgain) {
     both.resize(2);
     both.resize(6);
     both.expectEqual();
-    EXPECT_EQ(both.buffer[5], "");
+    EXPECT_EQ(*both.buffer[5], "");
 }
 
 TEST(GapBuffer, TakesARunOfInsertionsInTheMiddleInLinearTime) {
     // A vector would move some 10¹⁰ elements here.
     ui::GapBuffer<int> buffer;
     buffer.resize(200000);
-    for (int i = 0; i < 200000; ++i) buffer.insert(100000 + static_cast<std::size_t>(i), i);
+    for (int i = 0; i < 200000; ++i) *buffer.insert(100000 + static_cast<std::size_t>(i)) = i;
     EXPECT_EQ(buffer.size(), 400000U);
-    EXPECT_EQ(buffer[100000], 0);
-    EXPECT_EQ(buffer[299999], 199999);
-    EXPECT_EQ(buffer[300000], 0);
+    EXPECT_EQ(*buffer[100000], 0);
+    EXPECT_EQ(*buffer[299999], 199999);
+    EXPECT_EQ(*buffer[300000], 0);
+}
+
+TEST(GapBuffer, KeepsTheElementsOfARowTogether) {
+    ui::GapBuffer<int> buffer(3);
+    for (int i = 0; i < 40; ++i) {
+        int* const row = buffer.insert(static_cast<std::size_t>(i) / 2);
+        for (int col = 0; col < 3; ++col) row[col] = 10 * i + col;
+    }
+    for (int i = 0; i < 10; ++i) buffer.erase(5);
+    buffer.resize(25);
+    ASSERT_EQ(buffer.size(), 25U);
+    for (std::size_t i = 0; i < buffer.size(); ++i) {
+        EXPECT_EQ(buffer[i][1], buffer[i][0] + 1) << i;
+        EXPECT_EQ(buffer[i][2], buffer[i][0] + 2) << i;
+    }
+    const int* const added = buffer.insert(3);
+    EXPECT_EQ(std::vector<int>(added, added + 3), std::vector<int>(3));
 }

@@ -22,10 +22,10 @@ protected:
         };
         grid.ValidateEdit = [this](int row, int col, bool&) {
             log.push_back("ValidateEdit " + at(row, col) + " " + grid.EditText() + " over " +
-                          grid.TextMatrix(row, col));
+                          std::string(grid.TextMatrix(row, col)));
         };
         grid.CellChanged = [this](int row, int col) {
-            log.push_back("CellChanged " + at(row, col) + " " + grid.TextMatrix(row, col));
+            log.push_back("CellChanged " + at(row, col) + " " + std::string(grid.TextMatrix(row, col)));
         };
         grid.AfterEdit = [this](int row, int col) { log.push_back("AfterEdit " + at(row, col)); };
     }

@@ -25,7 +25,7 @@ protected:
     }
     std::vector<std::string> texts(int col = Key) const {
         std::vector<std::string> found;
-        for (int row = 1; row < grid.Rows(); ++row) found.push_back(grid.TextMatrix(row, col));
+        for (int row = 1; row < grid.Rows(); ++row) found.emplace_back(grid.TextMatrix(row, col));
         return found;
     }
     std::vector<std::string> sorted(const std::vector<std::string>& before, SortOrder order) {

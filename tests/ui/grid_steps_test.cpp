@@ -143,7 +143,7 @@ TEST_F(GridSteps, SelectedCellsAreCopiedAsLinesBlankOnesIncluded) {
 TEST_F(GridSteps, ABlockIsPastedCellByCell) {
     std::vector<std::string> changed;
     grid.AfterEdit = [&](int row, int col) {
-        changed.push_back(at(row, col) + "=" + grid.TextMatrix(row, col));
+        changed.push_back(at(row, col) + "=" + std::string(grid.TextMatrix(row, col)));
     };
     grid.Select(1, 1);
     EXPECT_TRUE(grid.UserPasteBlock("a\tb\r\nc\td\r\n"));

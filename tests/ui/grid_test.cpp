@@ -62,7 +62,7 @@ TEST_F(GridTest, RaisesSubscriptOutOfRangeOutsideItsCells) {
 
 TEST_F(GridTest, FiresCellChangedOnEveryWriteAlsoOfAnEqualTextAndInHeadings) {
     grid.CellChanged = [&](int row, int col) {
-        log.push_back(at(row, col) + "=" + grid.TextMatrix(row, col));
+        log.push_back(at(row, col) + "=" + std::string(grid.TextMatrix(row, col)));
     };
     grid.TextMatrix(1, 2, "new");
     grid.TextMatrix(1, 2, "new");

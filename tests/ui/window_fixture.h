@@ -47,7 +47,7 @@ protected:
 
     std::vector<std::string> column(int col) const {
         std::vector<std::string> texts;
-        for (int row = 0; row < grid.Rows(); ++row) texts.push_back(grid.TextMatrix(row, col));
+        for (int row = 0; row < grid.Rows(); ++row) texts.emplace_back(grid.TextMatrix(row, col));
         return texts;
     }
 };

@@ -248,14 +248,15 @@ private:
 
     void sameText(const ui::Grid& grid, int row, int col, std::string_view text) {
         require(grid.TextMatrix(row, col) == text,
-                grid.Name() + " has '" + grid.TextMatrix(row, col) + "' in row " + std::to_string(row) +
-                    ", column " + std::to_string(col) + " and should have '" + std::string(text) + "'");
+                grid.Name() + " has '" + std::string(grid.TextMatrix(row, col)) + "' in row " +
+                    std::to_string(row) + ", column " + std::to_string(col) + " and should have '" +
+                    std::string(text) + "'");
     }
 
     /// A name that was typed stands in all tables. New rows have none until then.
     void names() {
         for (int s = 1; s <= global_.TotalSpecies; ++s) {
-            const std::string& name = form_.flxCandidateSpecies.TextMatrix(s, list::Name);
+            const std::string name(form_.flxCandidateSpecies.TextMatrix(s, list::Name));
             if (name.empty()) continue;
             const std::string_view shortName = ui::firstCharacters(name, 20);
             sameText(form_.flxSummary(0), s, 0, shortName);
@@ -271,13 +272,13 @@ private:
         entryNames(form_.flxLandUses, form_.flxLandUsesVulnerability);
         entryNames(form_.flxFunctions, form_.flxFunctionality);
         for (int f = 1; f <= global_.TotalFunctions; ++f) {
-            const std::string& name = form_.flxFunctions.TextMatrix(f, list::Name);
+            const std::string name(form_.flxFunctions.TextMatrix(f, list::Name));
             if (!name.empty()) sameText(form_.flxSummary(8), 0, f, name);
         }
     }
     void entryNames(const ui::Grid& list, const ui::Grid& entry) {
         for (int row = 1; row < list.Rows(); ++row) {
-            const std::string& name = list.TextMatrix(row, list::Name);
+            const std::string name(list.TextMatrix(row, list::Name));
             if (!name.empty()) sameText(entry, row, 0, name);
         }
     }

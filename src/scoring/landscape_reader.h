@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: 2026 The Brenica developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <optional>
+#include <string_view>
+#include <vector>
+
+#include "method/failure.h"
+#include "method/landscape.h"
+#include "ui/grid.h"
+
+/// The landscape as the tables hold it, for the method. To read it fails over no cell: one that is blank, is no number or
+/// is not there goes into the landscape as such, and fails in the step that needs it. The failure then becomes the
+/// platform's own when the cell is read once more.
+
+/// The number that a text spells; Blank for none, Unreadable for what is no number.
+double numberOf(std::string_view text, ui::DecimalSeparator separator);
+
+/// The cells of one row from column `firstCol` on.
+std::vector<double> rowOf(const ui::Grid& table, int row, int firstCol, int cols);
+/// The cells of one column from row 1 on.
+std::vector<double> columnOf(const ui::Grid& table, int col, int rows);
+/// The cells from row 1 and column `firstCol` on.
+method::Table tableOf(const ui::Grid& table, int firstCol, int rows, int cols);
+
+/// Levels of use, out of the table of one row for each species and unit.
+method::Table levelsOf(const ui::Grid& table, int species, int units);
+/// The same of one species, which counts from 1.
+std::vector<double> levelsOfSpecies(const ui::Grid& table, int species, int units);
+/// The five ratings, out of the table of one row for each species and threat.
+method::ThreatRatings ratingsOf(const ui::Grid& table, int species, int threats);
+/// The scores of each species and threat, out of the vulnerability table.
+method::Table threatScoresOf(const ui::Grid& vulnerabilityTable, int species, int threats);
+
+/// Raises what reading the cell as a number raises; Overflow for one that is a number, since then a result was too large.
+[[noreturn]] void raiseForCell(const ui::Grid& grid, int row, int col);
+
+/// What a calculation of the method failed with, if it did.
+template <class Calculation>
+std::optional<method::Failure> failureOf(Calculation calculation) {
+    try {
+        calculation();
+        return std::nullopt;
+    } catch (const method::Failure& failure) {
+        return failure;
+    }
+}

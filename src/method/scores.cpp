@@ -62,8 +62,7 @@ double rounded(double score, std::size_t species, std::size_t criterion) {
     return finite(shownTo(score, ScorePlaces), {Step::Normalisation, Quantity::Score, species, criterion});
 }
 
-CriterionScores originalScores(const Landscape& land, double threatTotal, double scaledHomeRange,
-                               std::size_t s) {
+CriterionScores rawScores(const Landscape& land, double threatTotal, double scaledHomeRange, std::size_t s) {
     CriterionScores scores;
     scores[Criterion::Heterogeneity] = heterogeneity(land.HabitatLevels.row(s), land.ZoneLevels.row(s), s);
     scores[Criterion::Area] =
@@ -78,19 +77,19 @@ void keepHighest(CriterionScores& highest, const CriterionScores& scores) {
     for (std::size_t i = 0; i < Criteria; ++i) highest[i] = std::max(highest[i], scores[i]);
 }
 
-/// The first three are rounded, the last two are only written.
+/// The first three are rounded.
 void show(const CriterionScores& scores, std::size_t species, CriterionScores& shown) {
     for (const Criterion criterion : {Criterion::Heterogeneity, Criterion::Area, Criterion::Vulnerability})
         shown[criterion] = rounded(scores[criterion], species, static_cast<std::size_t>(criterion));
     for (const Criterion criterion : {Criterion::Functionality, Criterion::SocioEconomics})
-        shown[criterion] = asWritten(scores[criterion]);
+        shown[criterion] = scores[criterion];
 }
 
 /// The numerator is the score as shown, the divisor the highest before rounding.
 void normalise(const CriterionScores& original, const CriterionScores& highest, std::size_t species,
                CriterionScores& normalised) {
     for (std::size_t i = 0; i < Criteria; ++i)
-        normalised[i] = highest[i] <= 0 ? 0 : rounded(original[i] / highest[i], species, i);
+        normalised[i] = highest[i] <= 0 ? 0 : rounded(asWritten(original[i]) / highest[i], species, i);
 }
 
 double sumOf(const CriterionScores& scores) {
@@ -160,22 +159,29 @@ std::vector<int> ranksOf(std::span<const double> values) {
     return ranks;
 }
 
-void scoreSpecies(const Landscape& landscape, std::span<const double> threatTotals,
-                  std::span<const double> scaledHomeRanges, Scores& scores) {
-    const std::size_t species = landscape.species();
-    scores = {};
-    for (std::size_t i = 0; i < Criteria; ++i) scores.Highest[i] = 0;
-    for (std::size_t s = 0; s < species; ++s) {
-        const CriterionScores original = originalScores(landscape, threatTotals[s], scaledHomeRanges[s], s);
-        keepHighest(scores.Highest, original);
-        show(original, s, scores.Original.emplace_back());
-    }
+void addSpecies(const CriterionScores& raw, Scores& scores) {
+    const std::size_t species = scores.Original.size();
+    keepHighest(scores.Highest, raw);
+    show(raw, species, scores.Original.emplace_back());
+}
+
+void scaleToHighest(Scores& scores) {
+    const std::size_t species = scores.Original.size();
     for (std::size_t s = 0; s < species; ++s)
         normalise(scores.Original[s], scores.Highest, s, scores.Normalised.emplace_back());
     for (std::size_t s = 0; s < species; ++s) {
         scores.Sum.push_back(sumOf(scores.Normalised[s]));
         scores.Aggregate.push_back(rounded(scores.Sum[s], s, Criteria));
     }
+}
+
+void scoreSpecies(const Landscape& landscape, std::span<const double> threatTotals,
+                  std::span<const double> scaledHomeRanges, Scores& scores) {
+    const std::size_t species = landscape.species();
+    scores = {};
+    for (std::size_t s = 0; s < species; ++s)
+        addSpecies(rawScores(landscape, threatTotals[s], scaledHomeRanges[s], s), scores);
+    scaleToHighest(scores);
     scores.Rank = ranksOf(scores.Sum);
     scores.ByRank.resize(species);
     for (std::size_t s = 0; s < species; ++s) scores.ByRank[static_cast<std::size_t>(scores.Rank[s]) - 1] = s;

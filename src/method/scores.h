@@ -19,13 +19,15 @@ inline constexpr int ScorePlaces = 3;  ///< decimals of every score that a table
 /// One number for each criterion.
 class CriterionScores {
 public:
+    CriterionScores() : CriterionScores(Blank) {}
+    explicit CriterionScores(double each) { scores_.fill(each); }
     double& operator[](Criterion criterion) { return scores_[static_cast<std::size_t>(criterion)]; }
     double operator[](Criterion criterion) const { return scores_[static_cast<std::size_t>(criterion)]; }
     double& operator[](std::size_t criterion) { return scores_[criterion]; }
     double operator[](std::size_t criterion) const { return scores_[criterion]; }
 
 private:
-    std::array<double, Criteria> scores_{Blank, Blank, Blank, Blank, Blank};
+    std::array<double, Criteria> scores_;
 };
 
 /// R(s), all home ranges on one scale: 3 × a(s) / max a for areas, 3 × k / n for class k of n; 0 without one, and for
@@ -52,11 +54,11 @@ std::vector<int> ranksOf(std::span<const double> values);
 
 /// The scores of all species, as the tables show them. What has not been computed is Blank or not there.
 struct Scores {
-    /// Before scaling: H, A, V to 3 decimals, F and E unrounded, in 15 digits.
+    /// Before scaling: H, A, V to 3 decimals, F and E unrounded.
     std::vector<CriterionScores> Original;
     /// The highest of each criterion before rounding, at least 0.
-    CriterionScores Highest;
-    /// Original / Highest to 3 decimals; 0 where Highest is 0.
+    CriterionScores Highest{0};
+    /// Original, in 15 digits, / Highest to 3 decimals; 0 where Highest is 0.
     std::vector<CriterionScores> Normalised;
     /// Sum of the five normalised scores, 0 to 5, as the ranks take it.
     std::vector<double> Sum;
@@ -67,8 +69,14 @@ struct Scores {
     std::vector<std::size_t> ByRank;
 };
 
-/// Computes `scores` for all species, criterion scores first, then scaling, sums and ranks. `threatTotals` is Σₜ m(s,t)
-/// to 2 decimals. Throws Failure; `scores` then holds what came before.
+/// Takes in the five scores of the next species. Throws Failure (Normalisation) at the first that is too large to be
+/// rounded; its row in `scores` then holds those before it.
+void addSpecies(const CriterionScores& raw, Scores& scores);
+/// Scaling and sums, once every species is in. Throws Failure (Normalisation); `scores` then holds what came before.
+void scaleToHighest(Scores& scores);
+
+/// Computes `scores` for all species: addSpecies for one after the other, then scaleToHighest and the ranks.
+/// `threatTotals` is Σₜ m(s,t) to 2 decimals. Throws Failure; `scores` then holds what came before.
 void scoreSpecies(const Landscape& landscape, std::span<const double> threatTotals,
                   std::span<const double> scaledHomeRanges, Scores& scores);
 

@@ -18,15 +18,21 @@ struct Cell {
     throw Failure(Step::UnitUse, cause, cell.What, cell.Species, cell.Unit);
 }
 
-std::int32_t wholeLevel(double level, const Cell& cell) {
+/// Nothing for a level that is no number or beyond 32 bits.
+std::optional<std::int32_t> wholeLevel(double level) {
     if (isBlank(level)) return 0;
-    if (!isNumber(level)) fail(Cause::NoNumber, cell);
     const double whole = nearestWhole(level);
-    if (whole < std::numeric_limits<std::int32_t>::min() ||
-        whole > std::numeric_limits<std::int32_t>::max()) {
-        fail(Cause::TooLarge, cell);
+    if (!(whole >= std::numeric_limits<std::int32_t>::min() &&
+          whole <= std::numeric_limits<std::int32_t>::max())) {
+        return std::nullopt;
     }
     return static_cast<std::int32_t>(whole);
+}
+
+std::int32_t requireLevel(double level, const Cell& cell) {
+    const std::optional<std::int32_t> whole = wholeLevel(level);
+    if (!whole) fail(isNumber(level) ? Cause::TooLarge : Cause::NoNumber, cell);
+    return *whole;
 }
 
 void add(std::int32_t& sum, std::int32_t level, const Cell& cell) {
@@ -43,7 +49,7 @@ void totalUse(const Table& levels, Quantity quantity, UseTotals& totals) {
         Use use;
         for (std::size_t unit = 0; unit < levels.columns(); ++unit) {
             const Cell cell{quantity, s, unit};
-            const std::int32_t level = wholeLevel(levels.at(s, unit), cell);
+            const std::int32_t level = requireLevel(levels.at(s, unit), cell);
             add(use.Level, level, cell);
             add(totals.LevelByUnit[unit], level, cell);
             if (level <= 0) continue;
@@ -55,13 +61,14 @@ void totalUse(const Table& levels, Quantity quantity, UseTotals& totals) {
     }
 }
 
-Use useOf(std::span<const double> levels, Quantity quantity) {
+Use useOf(std::span<const double> levels) {
     Use use;
-    for (std::size_t unit = 0; unit < levels.size(); ++unit) {
-        const Cell cell{quantity, 0, unit};
-        const std::int32_t level = wholeLevel(levels[unit], cell);
-        add(use.Level, level, cell);
-        if (level > 0) ++use.Count;
+    std::int32_t whole = 0;
+    for (const double level : levels) {
+        whole = wholeLevel(level).value_or(whole);
+        std::int32_t sum = 0;
+        if (!__builtin_add_overflow(use.Level, whole, &sum)) use.Level = sum;
+        if (whole > 0) ++use.Count;
     }
     return use;
 }
@@ -76,7 +83,8 @@ double areaUsed(std::span<const double> levels, std::span<const double> areas) {
     return area;
 }
 
-double proportionOf(double part, double whole) {
+std::optional<double> proportionOf(double part, double whole) {
+    if (!(whole > 0)) return std::nullopt;
     constexpr int Places = 3;
     const double proportion = roundTo(part / whole, Places);
     if (!std::isfinite(proportion)) throw Failure(Step::UnitUse, Cause::TooLarge, Quantity::Occupied, 0);

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -25,19 +26,20 @@ struct UseTotals {
 /// then `totals` holds the species before that one, and sums by unit that are not complete.
 void totalUse(const Table& levels, Quantity quantity, UseTotals& totals);
 
-/// The sum and the count of one row or column of levels, by the same rule and with the same failures (Column is the
-/// place in `levels`).
+/// The sum and the count of one row or column of levels. Never fails: a level that is no number or beyond 32 bits counts
+/// like the one before it, 0 for the first; one that carries the sum beyond 32 bits is left out of it.
 struct Use {
     std::int32_t Level = 0;
     std::int32_t Count = 0;
 };
-Use useOf(std::span<const double> levels, Quantity quantity);
+Use useOf(std::span<const double> levels);
 
 /// Area of the units with a level other than 0. Left out are levels that are no number, units without an area, and an
 /// area that would carry the sum out of range.
 double areaUsed(std::span<const double> levels, std::span<const double> areas);
 
-/// Upper bound of the proportion occupied, part / whole to 3 decimals. Throws Failure (UnitUse) where it is not finite.
-double proportionOf(double part, double whole);
+/// Upper bound of the proportion occupied, part / whole to 3 decimals; nothing where the whole is not above 0. Throws
+/// Failure (UnitUse) where it is not finite.
+std::optional<double> proportionOf(double part, double whole);
 
 }  // namespace method

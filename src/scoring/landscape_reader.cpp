@@ -9,11 +9,6 @@
 
 namespace {
 
-double numberAt(const ui::Grid& grid, int row, int col) {
-    if (row >= grid.Rows() || col >= grid.Cols()) return method::Unreadable;
-    return numberOf(grid.TextMatrix(row, col), grid.Form().Separator());
-}
-
 /// One column of a table of blocks: a row for each species and item.
 method::Table blocksOf(const ui::Grid& table, int col, int species, int items) {
     method::Table values(static_cast<std::size_t>(species), static_cast<std::size_t>(items));
@@ -30,6 +25,11 @@ method::Table blocksOf(const ui::Grid& table, int col, int species, int items) {
 double numberOf(std::string_view text, ui::DecimalSeparator separator) {
     if (ui::isBlank(text)) return method::Blank;
     return ui::tryReal(text, separator).value_or(method::Unreadable);
+}
+
+double numberAt(const ui::Grid& table, int row, int col) {
+    if (row >= table.Rows() || col >= table.Cols()) return method::Unreadable;
+    return numberOf(table.TextMatrix(row, col), table.Form().Separator());
 }
 
 std::vector<double> rowOf(const ui::Grid& table, int row, int firstCol, int cols) {

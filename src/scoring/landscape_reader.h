@@ -17,6 +17,7 @@
 /// The number that a text spells; Blank for none, Unreadable for what is no number.
 double numberOf(std::string_view text, ui::DecimalSeparator separator);
 
+double numberAt(const ui::Grid& table, int row, int col);
 /// The cells of one row from column `firstCol` on.
 std::vector<double> rowOf(const ui::Grid& table, int row, int firstCol, int cols);
 /// The cells of one column from row 1 on.
@@ -46,3 +47,25 @@ std::optional<method::Failure> failureOf(Calculation calculation) {
         return failure;
     }
 }
+
+struct CellPlace {
+    const ui::Grid& Grid;
+    int Row;
+    int Col;
+};
+
+/// The result of a calculation of the method; raises for the cell that `cellOf` finds for a failure.
+template <class Calculation, class CellOf>
+auto resultOf(Calculation calculation, CellOf cellOf) {
+    try {
+        return calculation();
+    } catch (const method::Failure& failure) {
+        const CellPlace cell = cellOf(failure);
+        raiseForCell(cell.Grid, cell.Row, cell.Col);
+    }
+}
+
+/// Row or column of a failure, from 0, as a table counts that has its headings before the numbers.
+inline int tableIndex(std::size_t index) { return static_cast<int>(index) + 1; }
+/// The index of a species or unit that counts from 1.
+inline std::size_t landscapeIndex(int number) { return static_cast<std::size_t>(number) - 1; }

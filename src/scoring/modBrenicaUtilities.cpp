@@ -2,86 +2,87 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "scoring/modBrenicaUtilities.h"
 
-#include <algorithm>
-#include <array>
-#include <numeric>
-
 #include "entry/modErrorHandling.h"
+#include "method/scores.h"
 #include "project/columns.h"
 #include "project/constant_tables.h"
+#include "scoring/landscape_reader.h"
 #include "ui/arrays.h"
+#include "ui/form_window.h"
 #include "ui/text.h"
 
 namespace modBrenicaUtilities {
 
 namespace {
 
-constexpr int Places = 3;
-constexpr double HomeRangeScale = 3.0;
-
-double sumOfLevels(int species, int units, const ui::Grid& grid) {
-    double sum = 0;
-    for (int unit = 1; unit <= units; ++unit) sum += grid.Real(blockRow(species, units, unit), use::Level);
-    return sum;
-}
-
-double sumOfRow(int species, int lastCol, const ui::Grid& grid) {
-    double sum = 0;
-    for (int col = 1; col <= lastCol; ++col) sum += grid.Real(species, col);
-    return ui::finite(sum);
-}
-
-/// Position of the bin with this label, from 1; 0 where none has it.
+/// Position of the bin with this label, from 1; Unreadable where none has it.
 template <class Labels>
-int binOf(std::string_view label, const Labels& labels, int count) {
+double binOf(std::string_view label, const Labels& labels, int count) {
     for (int i = 0; i < count; ++i) {
         if (ui::equalsIgnoringCase(ui::elementAt(labels, i), label)) return i + 1;
     }
-    return 0;
+    return method::Unreadable;
 }
 
-using Maxima = std::array<double, TotalCriteria>;
-
-/// The scores before normalisation; keeps the highest of each criterion, as it is before rounding.
-void writeOriginalScores(int species, double scaledHomeRange, const ScoreGrids& grids,
-                         const modGlobal& global, Maxima& maxima) {
-    Maxima scores{};
-    const auto keep = [&](std::size_t criterion, double score) {
-        scores[criterion] = score;
-        maxima[criterion] = std::max(maxima[criterion], score);
+method::HomeRanges homeRangesOf(const ui::Grid& areaGrid, int homeRangeType, const modGlobal& global) {
+    const int bins = homeRangeType == 1 ? static_cast<int>(DefaultBinLabels.size()) : global.TotalBins;
+    const auto valueOf = [&](std::string_view text) {
+        if (text.empty()) return method::Blank;
+        if (homeRangeType == 0)
+            return ui::tryReal(text, areaGrid.Form().Separator()).value_or(method::Unreadable);
+        return homeRangeType == 1 ? binOf(text, DefaultBinLabels, bins)
+                                  : binOf(text, global.UserBinLabels, bins);
     };
-    keep(0, GetHeteroScore(species, grids.Habitats, grids.JurisUnits, global));
-    keep(1, GetAreaScore(species, scaledHomeRange, grids.Area));
-    keep(2, GetVulnerabilityScore(species, grids.Vulnerability));
-    keep(3, GetFunctionScore(species, grids.Functionality, global));
-    keep(4, GetSocioEconScore(species, grids.SocioEcon));
-    for (int i = 0; i < 3; ++i) {
-        grids.Original.TextMatrix(species, i + 1,
-                                  ui::toText(ui::roundTo(scores[static_cast<std::size_t>(i)], Places)));
+    method::HomeRanges ranges;
+    if (homeRangeType != 0) {
+        ranges.In = method::HomeRanges::Kind::Classes;
+        ranges.Classes = static_cast<std::size_t>(bins);
     }
-    grids.Original.TextMatrix(species, 4, ui::toText(scores[3]));
-    grids.Original.TextMatrix(species, 5, ui::toText(scores[4]));
+    for (int species = 1; species <= global.TotalSpecies; ++species)
+        ranges.Values.push_back(valueOf(areaGrid.TextMatrix(species, area::HomeRange)));
+    return ranges;
 }
 
-/// The numerator is the rounded score shown in the grid, the divisor the maximum before rounding.
-void writeNormalisedScores(int species, const ScoreGrids& grids, const Maxima& maxima) {
-    for (int col = score::FirstCriterion; col <= score::LastCriterion; ++col) {
-        const double maximum = maxima[static_cast<std::size_t>(col - score::FirstCriterion)];
-        if (maximum <= 0) {
-            grids.Normalised.TextMatrix(species, col, "0");
-            continue;
-        }
-        const double original = grids.Original.Real(species, col - score::Aggregate);
-        grids.Normalised.TextMatrix(species, col, ui::toText(ui::roundTo(original / maximum, Places)));
+bool saysYes(const ui::Grid& grid, int species, int col) {
+    return ui::equalsIgnoringCase(grid.TextMatrix(species, col), "Y");
+}
+
+method::CriterionScores scoresOf(int species, double scaledHomeRange, const ScoreGrids& grids,
+                                 const modGlobal& global) {
+    using enum method::Criterion;
+    method::CriterionScores scores;
+    scores[Heterogeneity] = GetHeteroScore(species, grids.Habitats, grids.JurisUnits, global);
+    scores[Area] = GetAreaScore(species, scaledHomeRange, grids.Area);
+    scores[Vulnerability] = GetVulnerabilityScore(species, grids.Vulnerability);
+    scores[Functionality] = GetFunctionScore(species, grids.Functionality, global);
+    scores[SocioEconomics] = GetSocioEconScore(species, grids.SocioEcon);
+    return scores;
+}
+
+/// Those that have been calculated, from column `firstCol` on.
+void writeScores(ui::Grid& grid, int species, int firstCol, const method::CriterionScores& scores) {
+    for (std::size_t i = 0; i < method::Criteria && !method::isBlank(scores[i]); ++i)
+        grid.TextMatrix(species, firstCol + static_cast<int>(i), ui::toText(scores[i]));
+}
+
+/// Scores before normalisation.
+void writeOriginalScores(const std::vector<double>& scaledHomeRanges, const ScoreGrids& grids,
+                         const modGlobal& global, method::Scores& scores) {
+    for (int s = 1; s <= global.TotalSpecies; ++s) {
+        const method::CriterionScores raw = scoresOf(s, scaledHomeRanges[landscapeIndex(s)], grids, global);
+        const auto failure = failureOf([&] { method::addSpecies(raw, scores); });
+        writeScores(grids.Original, s, 1, scores.Original.back());
+        if (failure) ui::raise(ui::ErrorNumber::Overflow);
     }
 }
 
-double writeAggregate(int species, ui::Grid& normalised) {
-    double aggregate = 0;
-    for (int col = score::FirstCriterion; col <= score::LastCriterion; ++col)
-        aggregate += normalised.Real(species, col);
-    normalised.TextMatrix(species, score::Aggregate, ui::toText(ui::roundTo(aggregate, Places)));
-    return aggregate;
+void writeNormalisedScores(ui::Grid& normalised, method::Scores& scores) {
+    const auto failure = failureOf([&] { method::scaleToHighest(scores); });
+    for (std::size_t s = 0; s < scores.Normalised.size(); ++s)
+        writeScores(normalised, tableIndex(s), score::FirstCriterion, scores.Normalised[s]);
+    for (std::size_t s = 0; s < scores.Aggregate.size(); ++s)
+        normalised.TextMatrix(tableIndex(s), score::Aggregate, ui::toText(scores.Aggregate[s]));
+    if (failure) ui::raise(ui::ErrorNumber::Overflow);
 }
 
 }  // namespace
@@ -89,81 +90,91 @@ double writeAggregate(int species, ui::Grid& normalised) {
 void ScaleHomeRanges(std::vector<double>& scaled, const ui::Grid& areaGrid, int homeRangeType,
                      const modGlobal& global) try {
     if (global.TotalSpecies < 1) return;
-    scaled.assign(static_cast<std::size_t>(global.TotalSpecies), 0.0);
-    double maximum = homeRangeType == 1   ? static_cast<double>(DefaultBinLabels.size())
-                     : homeRangeType == 2 ? global.TotalBins
-                                          : 0.0;
-    int bin = 0;  // a label that is in no list takes the bin of the species before
-    for (int species = 1; species <= global.TotalSpecies; ++species) {
-        double& homeRange = scaled[static_cast<std::size_t>(species) - 1];
-        const std::string_view text = areaGrid.TextMatrix(species, area::HomeRange);
-        if (text.empty()) continue;
-        if (homeRangeType == 0) {
-            homeRange = areaGrid.Real(species, area::HomeRange);
-            maximum = std::max(maximum, homeRange);
-            continue;
-        }
-        const int found = homeRangeType == 1
-                              ? binOf(text, DefaultBinLabels, static_cast<int>(DefaultBinLabels.size()))
-                              : binOf(text, global.UserBinLabels, global.TotalBins);
-        if (found > 0) bin = found;
-        homeRange = bin;
-    }
-    for (double& homeRange : scaled)
-        homeRange = maximum > 0 ? ui::finite(homeRange * HomeRangeScale / maximum) : 0.0;
+    const method::HomeRanges ranges = homeRangesOf(areaGrid, homeRangeType, global);
+    scaled = resultOf([&] { return method::scaleHomeRanges(ranges); },
+                      [&](const method::Failure& failure) {
+                          return CellPlace{areaGrid, tableIndex(failure.Row), area::HomeRange};
+                      });
 } catch (...) {
     ReportError(9999, "BrenicaUtilities.ScaleHomeRanges", "");
 }
 
 double GetHeteroScore(int species, const ui::Grid& habitats, const ui::Grid& zones,
                       const modGlobal& global) try {
-    const double habitatSum = sumOfLevels(species, global.TotalHabitatTypes, habitats);
-    const double zoneSum = sumOfLevels(species, global.TotalJurisUnits, zones);
-    return ui::finite(habitatSum + habitatSum + zoneSum);
+    const auto cellOf = [&](const method::Failure& failure) {
+        const bool habitat = failure.What == method::Quantity::HabitatLevel;
+        const int units = habitat ? global.TotalHabitatTypes : global.TotalJurisUnits;
+        const int row = blockRow(species, units, tableIndex(failure.Column));
+        return CellPlace{habitat ? habitats : zones, row, use::Level};
+    };
+    return resultOf(
+        [&] {
+            return method::heterogeneity(levelsOfSpecies(habitats, species, global.TotalHabitatTypes),
+                                         levelsOfSpecies(zones, species, global.TotalJurisUnits),
+                                         landscapeIndex(species));
+        },
+        cellOf);
 } catch (...) {
     ReportError(9999, "BrenicaUtilities.GetHeteroScore", "");
 }
 
 double GetAreaScore(int species, double scaledHomeRange, const ui::Grid& areaGrid) try {
-    double areaScore = 0;
-    if (ui::equalsIgnoringCase(areaGrid.TextMatrix(species, area::Dispersal), "Y")) areaScore += 1.0;
-    if (ui::equalsIgnoringCase(areaGrid.TextMatrix(species, area::Connectivity), "Y")) areaScore += 1.0;
-    areaScore += scaledHomeRange;
-    return ui::finite(areaScore + areaGrid.Real(species, area::Occupied));
+    return resultOf(
+        [&] {
+            return method::areaScore(saysYes(areaGrid, species, area::Dispersal),
+                                     saysYes(areaGrid, species, area::Connectivity), scaledHomeRange,
+                                     numberAt(areaGrid, species, area::Occupied), landscapeIndex(species));
+        },
+        [&](const method::Failure&) {
+            return CellPlace{areaGrid, species, area::Occupied};
+        });
 } catch (...) {
     ReportError(9999, "BrenicaUtilities.GetAreaScore", "");
 }
 
 double GetVulnerabilityScore(int species, const ui::Grid& vulnerabilityGrid) try {
-    const double status = vulnerabilityGrid.Real(species, vulnerability::ConservationStatus);
-    return ui::finite((1.0 - status) + vulnerabilityGrid.Real(species, vulnerabilityGrid.Cols() - 2));
+    const int totalCol = vulnerabilityGrid.Cols() - 2;
+    return resultOf(
+        [&] {
+            return method::vulnerability(
+                numberAt(vulnerabilityGrid, species, vulnerability::ConservationStatus),
+                numberAt(vulnerabilityGrid, species, totalCol), landscapeIndex(species));
+        },
+        [&](const method::Failure& failure) {
+            const bool status = failure.What == method::Quantity::Status;
+            return CellPlace{vulnerabilityGrid, species,
+                             status ? vulnerability::ConservationStatus : totalCol};
+        });
 } catch (...) {
     ReportError(9999, "BrenicaUtilities.GetVulnerabilityScore", "");
 }
 
 double GetFunctionScore(int species, const ui::Grid& functionGrid, const modGlobal& global) try {
-    return sumOfRow(species, global.TotalFunctions, functionGrid);
+    const std::vector<double> functions = rowOf(functionGrid, species, 1, global.TotalFunctions);
+    return resultOf([&] { return method::functionality(functions, landscapeIndex(species)); },
+                    [&](const method::Failure& failure) {
+                        return CellPlace{functionGrid, species, tableIndex(failure.Column)};
+                    });
 } catch (...) {
     ReportError(9999, "BrenicaUtilities.GetFunctionScore", "");
 }
 
 double GetSocioEconScore(int species, const ui::Grid& socioEconGrid) try {
-    return sumOfRow(species, TotalSocioEcon, socioEconGrid);
+    const std::vector<double> values = rowOf(socioEconGrid, species, 1, TotalSocioEcon);
+    return resultOf([&] { return method::socioEconomics(values, landscapeIndex(species)); },
+                    [&](const method::Failure& failure) {
+                        return CellPlace{socioEconGrid, species, tableIndex(failure.Column)};
+                    });
 } catch (...) {
     ReportError(9999, "BrenicaUtilities.GetSocioEconScore", "");
 }
 
 std::vector<int> GetRanks(std::vector<double>& values) try {
-    // A stable sort leaves equal values in the order in which an exchange sort of neighbours leaves them.
-    std::vector<std::size_t> positions(values.size());
-    std::iota(positions.begin(), positions.end(), std::size_t{0});
-    std::stable_sort(positions.begin(), positions.end(),
-                     [&](std::size_t a, std::size_t b) { return values[a] < values[b]; });
-    std::stable_sort(values.begin(), values.end());
-    std::vector<int> ranks(values.size());
-    for (std::size_t k = 0; k < positions.size(); ++k) {
-        ranks[positions[k]] = static_cast<int>(positions.size() - k);
-    }
+    const std::vector<int> ranks = method::ranksOf(values);
+    std::vector<double> ascending(values.size());
+    for (std::size_t i = 0; i < values.size(); ++i)
+        ascending[values.size() - static_cast<std::size_t>(ranks[i])] = values[i];
+    values = std::move(ascending);
     return ranks;
 } catch (...) {
     ReportError(9999, "BrenicaUtilities.GetRanks", "");
@@ -172,20 +183,15 @@ std::vector<int> GetRanks(std::vector<double>& values) try {
 void UpdateScores(const std::vector<double>& scaledHomeRanges, const ScoreGrids& grids,
                   modGlobal& global) try {
     const int species = global.TotalSpecies;
-    Maxima maxima{};
-    for (int s = 1; s <= species; ++s) {
-        writeOriginalScores(s, scaledHomeRanges[static_cast<std::size_t>(s) - 1], grids, global, maxima);
-    }
-    for (int s = 1; s <= species; ++s) writeNormalisedScores(s, grids, maxima);
-    std::vector<double> aggregates;
-    for (int s = 1; s <= species; ++s) aggregates.push_back(writeAggregate(s, grids.Normalised));
-
-    const std::vector<int> ranks = GetRanks(aggregates);
+    method::Scores scores;
+    writeOriginalScores(scaledHomeRanges, grids, global, scores);
+    writeNormalisedScores(grids.Normalised, scores);
+    const std::vector<int> ranks = GetRanks(scores.Sum);
     global.SpeciesRanks.assign(static_cast<std::size_t>(species), 0);
     for (int s = 1; s <= species; ++s) {
-        const int rank = ranks[static_cast<std::size_t>(s) - 1];
+        const int rank = ranks[landscapeIndex(s)];
         grids.Normalised.TextMatrix(s, score::Rank, ui::toText(rank));
-        global.SpeciesRanks[static_cast<std::size_t>(rank) - 1] = s;
+        global.SpeciesRanks[landscapeIndex(rank)] = s;
         if (rank == 1) global.TopRankedSpecies = grids.Normalised.TextMatrix(s, 0);
     }
     global.ScoresCalculated = true;

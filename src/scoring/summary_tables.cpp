@@ -1,39 +1,26 @@
 // SPDX-FileCopyrightText: 2026 The Brenica developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "entry/modErrorHandling.h"
+#include "method/use.h"
 #include "project/frmBrenica.h"
 #include "project/pages.h"
-#include "ui/text.h"
+#include "scoring/landscape_reader.h"
 
 namespace {
 
 constexpr int UseTab = 1;
 constexpr int SpeciesByThreatTab = 6;
 
-struct UseTotals {
-    int Levels = 0;
-    int Count = 0;
-    int Level = 0;  // of the cell read last; one that is no number counts like it
-
-    void add(const ui::Grid& grid, int row, int col) {
-        succeeds([&] { Level = ui::isBlank(grid.TextMatrix(row, col)) ? 0 : grid.Long(row, col); });
-        succeeds([&] { Levels = ui::addLong(Levels, Level); });
-        if (Level > 0) ++Count;
-    }
-};
-
 void redoColumnTotals(ui::Grid& grid, int col, int species) {
-    UseTotals totals;
-    for (int row = 1; row <= species; ++row) totals.add(grid, row, col);
-    succeeds([&] { grid.TextMatrix(grid.Rows() - 2, col, ui::toText(totals.Levels)); });
-    succeeds([&] { grid.TextMatrix(grid.Rows() - 1, col, ui::toText(totals.Count)); });
+    const method::Use use = method::useOf(columnOf(grid, col, species));
+    succeeds([&] { grid.TextMatrix(grid.Rows() - 2, col, ui::toText(use.Level)); });
+    succeeds([&] { grid.TextMatrix(grid.Rows() - 1, col, ui::toText(use.Count)); });
 }
 
 void redoRowTotals(ui::Grid& grid, int row, int units) {
-    UseTotals totals;
-    for (int col = 1; col <= units; ++col) totals.add(grid, row, col);
-    succeeds([&] { grid.TextMatrix(row, grid.Cols() - 2, ui::toText(totals.Levels)); });
-    succeeds([&] { grid.TextMatrix(row, grid.Cols() - 1, ui::toText(totals.Count)); });
+    const method::Use use = method::useOf(rowOf(grid, row, 1, units));
+    succeeds([&] { grid.TextMatrix(row, grid.Cols() - 2, ui::toText(use.Level)); });
+    succeeds([&] { grid.TextMatrix(row, grid.Cols() - 1, ui::toText(use.Count)); });
 }
 
 }  // namespace

@@ -1,52 +1,39 @@
 // SPDX-FileCopyrightText: 2026 The Brenica developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "entry/modErrorHandling.h"
+#include "method/use.h"
 #include "project/frmBrenica.h"
+#include "scoring/landscape_reader.h"
 #include "scoring/totals_block.h"
-#include "ui/arrays.h"
 #include "ui/text.h"
 
 namespace {
 
-/// A cell of the cross table: blank counts 0, a fraction is rounded half to even.
-int levelOf(const ui::Grid& grid, int row, int col) {
-    return ui::isBlank(grid.TextMatrix(row, col)) ? 0 : grid.Long(row, col);
-}
-
-struct UseLabels {
+struct UseTexts {
     const char* CountBySpecies;
     const char* TotalByUnit;
 };
 
 /// Adds the totals block to a cross table of species and units, or fills it anew.
-void calculateUse(ui::Grid& grid, int species, int units, const UseLabels& labels) {
+void calculateUse(ui::Grid& grid, int species, int units, method::Quantity level, const UseTexts& texts) {
     if (species < 1 || units < 1) return;
-    std::vector<int> levelByUnit(static_cast<std::size_t>(units));
-    std::vector<int> speciesByUnit(static_cast<std::size_t>(units));
     extendForTotals(grid, species + 1, units + 1);
     const int lastRow = grid.Rows() - 1;
     const int lastCol = grid.Cols() - 1;
-    writeTotalsLabels(grid, {"Total by species", labels.CountBySpecies, labels.TotalByUnit, "No. species"},
+    writeTotalsLabels(grid, {"Total by species", texts.CountBySpecies, texts.TotalByUnit, "No. species"},
                       lastRow - 1, lastCol - 1);
     clearTotalsColours(grid);
-    for (int s = 1; s <= species; ++s) {
-        int total = 0;
-        int count = 0;
-        for (int unit = 1; unit <= units; ++unit) {
-            const int level = levelOf(grid, s, unit);
-            int& unitTotal = levelByUnit[static_cast<std::size_t>(unit) - 1];
-            total = ui::addLong(total, level);
-            unitTotal = ui::addLong(unitTotal, level);
-            if (level <= 0) continue;
-            ++count;
-            ++speciesByUnit[static_cast<std::size_t>(unit) - 1];
-        }
-        grid.TextMatrix(s, lastCol - 1, ui::toText(total));
-        grid.TextMatrix(s, lastCol, ui::toText(count));
+    method::UseTotals totals;
+    const auto failure =
+        failureOf([&] { method::totalUse(tableOf(grid, 1, species, units), level, totals); });
+    for (std::size_t s = 0; s < totals.LevelBySpecies.size(); ++s) {
+        grid.TextMatrix(tableIndex(s), lastCol - 1, ui::toText(totals.LevelBySpecies[s]));
+        grid.TextMatrix(tableIndex(s), lastCol, ui::toText(totals.UnitsBySpecies[s]));
     }
-    for (int unit = 1; unit <= units; ++unit) {
-        grid.TextMatrix(lastRow - 1, unit, ui::toText(levelByUnit[static_cast<std::size_t>(unit) - 1]));
-        grid.TextMatrix(lastRow, unit, ui::toText(speciesByUnit[static_cast<std::size_t>(unit) - 1]));
+    if (failure) raiseForCell(grid, tableIndex(failure->Row), tableIndex(failure->Column));
+    for (std::size_t unit = 0; unit < totals.LevelByUnit.size(); ++unit) {
+        grid.TextMatrix(lastRow - 1, tableIndex(unit), ui::toText(totals.LevelByUnit[unit]));
+        grid.TextMatrix(lastRow, tableIndex(unit), ui::toText(totals.SpeciesByUnit[unit]));
     }
     paintTotals(grid);
 }
@@ -67,21 +54,13 @@ struct OccupancySource {
     bool AreasEntered;
 };
 
-/// Area of the units with a level other than 0; a level that is no number, or a unit without an area, is left out.
-double areaUsed(const OccupancySource& source, int species) {
-    double area = 0;
-    for (int unit = 1; unit <= source.Units; ++unit) {
-        succeeds([&] {
-            if (source.Table.TextMatrix(species, unit).empty() || source.Table.Real(species, unit) == 0)
-                return;
-            area = ui::finite(area + ui::elementAt(source.Areas, unit - 1));
-        });
-    }
-    return area;
+std::optional<double> proportionOf(double part, double whole) try {
+    return method::proportionOf(part, whole);
+} catch (const method::Failure&) {
+    ui::raise(ui::ErrorNumber::Overflow);
 }
 
 std::string occupancySentence(const OccupancySource& source, int species, const OccupancyTexts& texts) {
-    constexpr int Places = 3;
     if (source.Units < 1) return "";
     int used = 0;
     succeeds([&] { used = source.Table.Long(species, source.Table.Cols() - 1); });
@@ -89,16 +68,16 @@ std::string occupancySentence(const OccupancySource& source, int species, const 
         return std::string(" used or required the proportion of the landscape occupied according to ") +
                texts.According + " is " + ui::toText(proportion) + " or less.";
     };
-    if (source.AreaTotal > 0 && source.AreasEntered) {
-        const double area = areaUsed(source, species);
-        return std::string("\r\n") + texts.Start + ui::toText(used) + texts.UnitsWithAreas +
-               " (Area = " + ui::toText(area) + ") out of " + ui::toText(source.Units) +
-               " (Area = " + ui::toText(source.AreaTotal) + ")" +
-               ending(ui::roundTo(area / source.AreaTotal, Places));
+    if (!source.AreasEntered) {
+        return std::string("\r\n") + texts.Start + ui::toText(used) + texts.Units + " out of " +
+               ui::toText(source.Units) + ending(proportionOf(used, source.Units).value());
     }
-    if (source.AreasEntered) return "";
-    return std::string("\r\n") + texts.Start + ui::toText(used) + texts.Units + " out of " +
-           ui::toText(source.Units) + ending(ui::roundTo(static_cast<double>(used) / source.Units, Places));
+    const double area = method::areaUsed(rowOf(source.Table, species, 1, source.Units), source.Areas);
+    const std::optional<double> proportion = proportionOf(area, source.AreaTotal);
+    if (!proportion) return "";
+    return std::string("\r\n") + texts.Start + ui::toText(used) + texts.UnitsWithAreas +
+           " (Area = " + ui::toText(area) + ") out of " + ui::toText(source.Units) +
+           " (Area = " + ui::toText(source.AreaTotal) + ")" + ending(*proportion);
 }
 
 }  // namespace
@@ -121,7 +100,7 @@ void frmBrenica::realignLevels(const ParameterList& list) {
 void frmBrenica::CalculateHabitatUse() try {
     realignLevels(parameterList(ListKind::HabitatTypes));
     calculateUse(flxSummary(summary::HabitatUse), global_.TotalSpecies, global_.TotalHabitatTypes,
-                 {"No. habitats", "Total by habitat"});
+                 method::Quantity::HabitatLevel, {"No. habitats", "Total by habitat"});
 } catch (...) {
     ReportError(9999, "Brenica.CalculateHabitatUse", "");
 }
@@ -129,7 +108,7 @@ void frmBrenica::CalculateHabitatUse() try {
 void frmBrenica::CalculateJurisUnitUse() try {
     realignLevels(parameterList(ListKind::JurisUnits));
     calculateUse(flxSummary(summary::JurisUnitUse), global_.TotalSpecies, global_.TotalJurisUnits,
-                 {"No. Manag. zones", "Total by MZ"});
+                 method::Quantity::ZoneLevel, {"No. Manag. zones", "Total by MZ"});
 } catch (...) {
     ReportError(9999, "Brenica.CalculateJurisUnitUse", "");
 }

@@ -68,9 +68,18 @@ TEST(Use, a_level_or_a_sum_beyond_32_bits_is_too_large) {
 
 TEST(Use, one_row_by_the_same_rule) {
     const std::vector<double> levels = {2, Blank, 0, 1.5, -1};
-    const Use use = useOf(levels, Level);
+    const Use use = useOf(levels);
     EXPECT_EQ(use.Level, 3);
     EXPECT_EQ(use.Count, 2);
+}
+
+TEST(Use, of_one_row_never_fails) {
+    const std::vector<double> levels = {Unreadable, 2, Unreadable, 3e9, Blank, Unreadable};
+    EXPECT_EQ(useOf(levels).Level, 6) << "each counts like the one before it";
+    EXPECT_EQ(useOf(levels).Count, 3);
+    const std::vector<double> large = {2147483647, 1, -7};
+    EXPECT_EQ(useOf(large).Level, 2147483640) << "1 would carry the sum beyond 32 bits";
+    EXPECT_EQ(useOf(large).Count, 2);
 }
 
 TEST(Use, the_area_used_takes_any_level_but_0_and_passes_over_what_is_no_number) {
@@ -80,7 +89,9 @@ TEST(Use, the_area_used_takes_any_level_but_0_and_passes_over_what_is_no_number)
 
 TEST(Use, the_proportion_has_3_decimals) {
     EXPECT_EQ(proportionOf(2, 3), 0.667);
-    EXPECT_THROW(proportionOf(1, 0), Failure);
+    EXPECT_EQ(proportionOf(1, 0), std::nullopt);
+    EXPECT_EQ(proportionOf(1, -1), std::nullopt);
+    EXPECT_THROW(proportionOf(1, 1e-308), Failure);
 }
 
 }  // namespace

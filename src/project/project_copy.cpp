@@ -46,7 +46,7 @@ public:
     CarryingLine(const FileLine& line, ProjectCopy& copy) : line_(line), copy_(copy) {}
 
     void append() {
-        appendLine(copy_.Text, line_, [this](std::string& text, int row, const std::string& cell) {
+        appendLine(copy_.Text, line_, [this](std::string& text, int row, std::string_view cell) {
             if (cell.size() == 1 && isPlain(cell.front()) && row != ShownSpecies) {
                 text.push_back(cell.front());
             } else {
@@ -59,11 +59,11 @@ public:
 private:
     static bool isPlain(char character) { return character != ',' && character != '\r' && character != ' '; }
 
-    void appendCell(std::string& text, int row, const std::string& cell) {
+    void appendCell(std::string& text, int row, std::string_view cell) {
         const bool onlyName = line_.Rows == 1 && ui::isBlank(cell) && makesList(line_.Key);
         const bool endsOpening = row == ShownSpecies && !isShownAsLevel(cell);
         if (onlyName || endsOpening || isLost(row, cell)) {
-            copy_.Uncarried.push_back({line_.Grid->Name(), row, line_.Column, cell, true});
+            copy_.Uncarried.push_back({line_.Grid->Name(), row, line_.Column, std::string(cell), true});
         }
         if (onlyName) text += BlankName;
         if (onlyName || endsOpening) return;
@@ -99,7 +99,8 @@ private:
 /// of its texts.
 void noteShown(ProjectCopy& copy, const ui::Grid& grid, int lastCol) {
     for (int col = 1; col <= lastCol; ++col) {
-        copy.Uncarried.push_back({grid.Name(), ShownSpecies, col, grid.TextMatrix(ShownSpecies, col), false});
+        copy.Uncarried.push_back(
+            {grid.Name(), ShownSpecies, col, std::string(grid.TextMatrix(ShownSpecies, col)), false});
     }
 }
 
@@ -121,7 +122,7 @@ ProjectCopy frmBrenica::TakeCopy() const {
     writeLines([&](const FileLine& line) { CarryingLine(line, copy).append(); });
     for (int bin = 1; HomeRangeType != 2 && bin <= global_.TotalBins; ++bin) {
         copy.Uncarried.push_back(
-            {flxBins.Name(), bin, list::Name, flxBins.TextMatrix(bin, list::Name), true});
+            {flxBins.Name(), bin, list::Name, std::string(flxBins.TextMatrix(bin, list::Name)), true});
     }
     for (const Level& level : Levels) {
         const ui::TextBox& box = this->*level.Box;
@@ -229,12 +230,15 @@ CellInWords frmBrenica::inWords(const UncarriedCell& cell) const {
         const ui::TextBox* box = const_cast<frmBrenica*>(this)->levelNamed(cell.Grid);
         return {box != nullptr ? box->AccessibleName() : cell.Grid, "", "", cell.Text};
     }
-    return {grid->AccessibleName(), rowInWords(*grid, cell.Row), grid->TextMatrix(0, cell.Column), cell.Text};
+    return {grid->AccessibleName(), rowInWords(*grid, cell.Row),
+            std::string(grid->TextMatrix(0, cell.Column)), cell.Text};
 }
 
 /// A row of a list by its number; one of a table by the species and, where there is one row for each, by the unit.
 std::string frmBrenica::rowInWords(const ui::Grid& grid, int row) const {
-    const auto nameOf = [](const ui::Grid& names, int at) { return names.TextMatrix(at, list::Name); };
+    const auto nameOf = [](const ui::Grid& names, int at) {
+        return std::string(names.TextMatrix(at, list::Name));
+    };
     if (!grid.Name().starts_with("flxSummary")) return ui::toText(row);
     for (const ParameterList& list : parameterLists_) {
         if (list.LongMember == ParameterList::NoMember || &grid != &flxSummary(list.LongMember)) continue;

@@ -84,7 +84,7 @@ void frmBrenica::SaveProject(const std::string& path) try {
     std::string text;
     writeLines([&](const FileLine& line) {
         text.clear();
-        appendLine(text, line, [](std::string& to, int, const std::string& cell) { to += cell; });
+        appendLine(text, line, [](std::string& to, int, std::string_view cell) { to += cell; });
         files_.Print(SaveFileNumber, text);
     });
     files_.Close(SaveFileNumber);

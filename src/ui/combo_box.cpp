@@ -15,7 +15,7 @@ ComboBox::ComboBox(Control& container, std::string name, std::vector<std::string
 
 const std::string& ComboBox::List(int index) const {
     if (index < 0 || index >= ListCount()) raise(ErrorNumber::InvalidPropertyValue);
-    return items_[static_cast<std::size_t>(index)];
+    return *items_[static_cast<std::size_t>(index)];
 }
 
 void ComboBox::ListIndex(int index) {

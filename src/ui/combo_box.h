@@ -28,7 +28,7 @@ public:
     std::string Text() const;
 
     void AddItem(std::string text) {
-        items_.insert(items_.size(), std::move(text));
+        *items_.insert(items_.size()) = std::move(text);
         reportChange();
     }
     /// Raises InvalidProcedureCall where there is no such item. Removing the chosen item leaves none chosen.

@@ -30,7 +30,8 @@ struct Program {
             if (const auto* grid = dynamic_cast<const ui::Grid*>(control)) {
                 texts.push_back(std::to_string(grid->Rows()) + " by " + std::to_string(grid->Cols()));
                 for (int row = 0; row < grid->Rows(); ++row) {
-                    for (int col = 0; col < grid->Cols(); ++col) texts.push_back(grid->TextMatrix(row, col));
+                    for (int col = 0; col < grid->Cols(); ++col)
+                        texts.emplace_back(grid->TextMatrix(row, col));
                 }
             } else if (const auto* box = dynamic_cast<const ui::ComboBox*>(control)) {
                 texts.push_back(std::to_string(box->ListIndex()));

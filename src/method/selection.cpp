@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <utility>
 
 namespace method {
 
@@ -21,19 +22,21 @@ int countOf(std::span<const Word> words) {
 
 }  // namespace
 
-void Selection::load(const Landscape& landscape, const Table& threatScores,
-                     std::span<const CriterionScores> normalised, std::span<const double> aggregates) {
+void Selection::load(const Landscape& landscape, Table threatScores) {
     landscape_ = &landscape;
-    threatScores_ = threatScores;
+    threatScores_ = std::move(threatScores);
     highestThreats_.clear();
-    firstRows_.assign(landscape.species(), {});
+    coverageLoaded_ = false;
+    remainder_.load(landscape, UnitLayout(landscape.habitats(), landscape.zones(), landscape.threats()));
+}
+
+void Selection::loadScores(std::span<const CriterionScores> normalised, std::span<const double> aggregates) {
+    firstRows_.assign(landscape_->species(), {});
     for (std::size_t s = 0; s < firstRows_.size(); ++s) {
         firstRows_[s].Species = s;
         firstRows_[s].Aggregate = aggregates[s];
         firstRows_[s].Scores = normalised[s];
     }
-    coverageLoaded_ = false;
-    remainder_.load(landscape, UnitLayout(landscape.habitats(), landscape.zones(), landscape.threats()));
 }
 
 void Selection::start(const Levels& levels) {

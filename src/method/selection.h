@@ -72,14 +72,15 @@ public:
 ///     use(selection.suite());
 class Selection {
 public:
-    /// M(s,t) to 2 decimals, and the first pass's scores: normalised ones and their sum, to 3 decimals. The landscape
-    /// must outlive the selection; all else is copied. REQUIRES: a row of each for every species.
-    void load(const Landscape& landscape, const Table& threatScores,
-              std::span<const CriterionScores> normalised, std::span<const double> aggregates);
-    /// The same with the scores as they have been computed.
+    /// The landscape and M(s,t) to 2 decimals. The landscape must outlive the selection; all else is copied.
+    void load(const Landscape& landscape, Table threatScores);
+    /// What the first pass begins with: normalised scores and their sum, to 3 decimals. REQUIRES: load(), and one of each
+    /// for every species.
+    void loadScores(std::span<const CriterionScores> normalised, std::span<const double> aggregates);
+    /// Both, as they have been computed.
     void load(const Landscape& landscape, const Assessment& assessment) {
-        load(landscape, assessment.Threats.Scores, assessment.Species.Normalised,
-             assessment.Species.Aggregate);
+        load(landscape, assessment.Threats.Scores);
+        loadScores(assessment.Species.Normalised, assessment.Species.Aggregate);
     }
 
     /// Who takes part, and from which level on a unit is covered. Throws Failure (Start): statuses first, then the
@@ -88,7 +89,7 @@ public:
 
     /// The passes. `chooser` is asked where species lie within the margin of error; a listener costs what it does, none
     /// costs nothing. Throws Failure, or what the two throw; suite() then tells how far it came. In particular a pass in
-    /// which all are omitted fails (Selection, NoRow), since there is nobody left to pick. REQUIRES: start()
+    /// which all are omitted fails (Selection, NoRow), since there is nobody left to pick. REQUIRES: loadScores(), start()
     void run(Chooser& chooser, Listener* listener = nullptr);
 
     const Suite& suite() const { return suite_; }

@@ -2,16 +2,34 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "entry/modErrorHandling.h"
 #include "project/frmBrenica.h"
+#include "scoring/landscape_reader.h"
 #include "selection/selection.h"
 #include "ui/text.h"
 #include "ui/wait_pointer.h"
 
 namespace {
 
-std::vector<int> thresholds(const ui::Grid& units, int count) {
-    std::vector<int> levels;
-    for (int unit = 1; unit <= count; ++unit) levels.push_back(units.Long(unit, list::LevelOfUse));
-    return levels;
+/// What a selection works on. The levels and ratings are those of the tables by species.
+method::Landscape landscapeOf(const frmBrenica& form, const modGlobal& global) {
+    const int species = global.TotalSpecies;
+    const auto member = [&](int index) -> const ui::Grid& { return form.flxSummary(index); };
+    method::Landscape landscape;
+    landscape.HabitatLevels = levelsOf(member(summary::HabitatsBySpecies), species, global.TotalHabitatTypes);
+    landscape.ZoneLevels = levelsOf(member(summary::JurisUnitsBySpecies), species, global.TotalJurisUnits);
+    landscape.HabitatThresholds = columnOf(form.flxHabitatTypes, list::LevelOfUse, global.TotalHabitatTypes);
+    landscape.ZoneThresholds = columnOf(form.flxJurisUnits, list::LevelOfUse, global.TotalJurisUnits);
+    landscape.Ratings = ratingsOf(member(summary::ThreatsBySpecies), species, global.TotalLandUses);
+    landscape.Status = columnOf(member(summary::Vulnerability), vulnerability::ConservationStatus, species);
+    return landscape;
+}
+
+/// The cell over which a selection could not start.
+CellPlace startCell(const frmBrenica& form, const method::Failure& failure) {
+    const int row = tableIndex(failure.Row);
+    if (failure.What == method::Quantity::HabitatThreshold)
+        return {form.flxHabitatTypes, row, list::LevelOfUse};
+    if (failure.What == method::Quantity::ZoneThreshold) return {form.flxJurisUnits, row, list::LevelOfUse};
+    return {form.flxSummary(summary::Vulnerability), row, vulnerability::ConservationStatus};
 }
 
 }  // namespace
@@ -45,14 +63,16 @@ void frmBrenica::cmdComplement_Click() try {
     global_.ConservationStatusRepresentation = txtCCSRep.Real();
     for (ui::Grid& grid : flxCompResults) grid.Rows(1);
 
-    SelectionInput input;
-    for (int species = 1; species <= global_.TotalSpecies; ++species) {
-        const double status =
-            flxSummary(summary::Vulnerability).Real(species, vulnerability::ConservationStatus);
-        input.SpeciesRemoved.push_back(!(status <= global_.ConservationStatusRepresentation));
-    }
-    input.HabitatThresholds = thresholds(flxHabitatTypes, global_.TotalHabitatTypes);
-    input.JurisUnitThresholds = thresholds(flxJurisUnits, global_.TotalJurisUnits);
+    const method::Landscape landscape = landscapeOf(*this, global_);
+    method::Selection selection;
+    selection.load(landscape, threatScoresOf(flxSummary(summary::Vulnerability), global_.TotalSpecies,
+                                             global_.TotalLandUses));
+    const auto failure = failureOf([&] {
+        selection.start({.Margin = global_.ErrorMargin,
+                         .ThreatRepresentation = global_.ThreatRepresentation,
+                         .ConservationStatus = global_.ConservationStatusRepresentation});
+    });
+    if (failure) modBrenicaUtilities::raiseFailure(*failure, startCell(*this, *failure));
 
     // Back in candidate order, however the user sorted it, so that row i is candidate i.
     flxScoresSort(0).Select(0, score::SortKey);
@@ -62,7 +82,7 @@ void frmBrenica::cmdComplement_Click() try {
     global_.ExcludedSpeciesList.clear();
     global_.ExcludedSpeciesCount = 0;
     modBrenicaUtilities::cmdComplement_Click(
-        platform(), global_, std::move(input),
+        platform(), global_, selection,
         {flxCompResults(0), flxScoresSort(0), flxBrenicSuite, flxHabitatTypes, flxJurisUnits,
          flxSummary(summary::HabitatsBySpecies), flxSummary(summary::JurisUnitsBySpecies),
          flxSummary(summary::ThreatsBySpecies), flxSummary(summary::Vulnerability), flxCompResults(1),

@@ -3,119 +3,74 @@
 #include "selection/selection.h"
 #include "selection_test.h"
 
-using modBrenicaUtilities::Check4ErrorMargin;
 using modBrenicaUtilities::SelectErrorMarginSpecies;
-using testing::ElementsAre;
 
 namespace {
 
 constexpr int Start = 3;  // first row of the block, below an earlier one
 
-struct BlockRow {
+struct BandRow {
     const char* Name;
-    const char* Aggregate;
-    const char* Heterogeneity = "0";
-    const char* Threats = "0";
-    const char* SocioEcon = "0";
-    const char* AddHabitats = "0";
-    const char* AddZones = "0";
-    const char* AddThreats = "0";
+    double Aggregate;
+    double Heterogeneity = 0;
+    double Threats = 0;
+    double SocioEcon = 0;
+    method::PerKind<int> Adds{};
 };
+
+method::PerKind<int> adds(int habitats, int zones, int threats) {
+    method::PerKind<int> units;
+    units[method::Unit::Habitat] = habitats;
+    units[method::Unit::Zone] = zones;
+    units[method::Unit::Threat] = threats;
+    return units;
+}
 
 }  // namespace
 
-/// The two steps on a block that is filled by hand, candidate i being its i-th row.
+/// The dialogues on a block that is filled by hand.
 class MarginOfError : public SelectionTest {
 protected:
-    void fill(const std::vector<BlockRow>& rows) {
-        ui::Grid& grid = results();
-        size_ = static_cast<int>(rows.size());
-        grid.Rows(Start + size_ + 1);
-        for (int i = 0; i < size_; ++i) {
-            const BlockRow& row = rows[static_cast<std::size_t>(i)];
-            const char* texts[] = {row.Name,      "",  row.Aggregate, row.Heterogeneity, "0",
-                                   row.Threats,   "0", row.SocioEcon, row.AddHabitats,   row.AddZones,
-                                   row.AddThreats};
-            for (int col = 0; col < 11; ++col) grid.TextMatrix(Start + i, col, texts[col]);
-            grid.TextMatrix(Start + i, result::Candidate, std::to_string(i + 1));
+    void fill(const std::vector<BandRow>& rows) {
+        results().Rows(Start + static_cast<int>(rows.size()) + 1);
+        order_.clear();
+        rows_.clear();
+        for (const BandRow& row : rows) {
+            const auto species = static_cast<std::uint32_t>(rows_.size());
+            results().TextMatrix(Start + static_cast<int>(species), result::Name, row.Name);
+            order_.push_back(species);
+            method::BlockRow& filled = rows_.emplace_back();
+            filled.Species = species;
+            filled.Aggregate = row.Aggregate;
+            filled.Scores[method::Criterion::Heterogeneity] = row.Heterogeneity;
+            filled.Scores[method::Criterion::Vulnerability] = row.Threats;
+            filled.Scores[method::Criterion::SocioEconomics] = row.SocioEcon;
+            filled.Adds = row.Adds;
         }
-        removed_.assign(rows.size(), false);
+        removed_.assign(rows.size(), 0);
     }
-    void remove(int candidate) { removed_[static_cast<std::size_t>(candidate) - 1] = true; }
-
-    int check(double margin) { return Check4ErrorMargin(margin, results(), Start, size_, removed_, offset_); }
+    /// Takes a row, from 1, out of the race.
+    void remove(std::size_t row) { removed_[row - 1] = 1; }
 
     /// The row in the block, from 1, that is picked of the top row at `offset` and `count` rows below.
-    int pick(int offset, int count, const std::vector<std::string>& answers) {
+    int pick(std::size_t offset, std::size_t count, const std::vector<std::string>& answers) {
         platform.Answers.assign(answers.begin(), answers.end());
         platform.Transcript.clear();
-        return SelectErrorMarginSpecies(platform, results(), Start, offset, count, removed_) - Start + 1;
+        const method::Block block(order_, rows_, removed_);
+        return static_cast<int>(
+                   SelectErrorMarginSpecies(platform, results(), Start, {block, offset, count})) +
+               1;
     }
 
-    std::vector<int> greenRows() {
-        std::vector<int> rows;
-        for (int i = 0; i < size_; ++i) {
-            if (colourOf(Start + i, 0) == MarginGreen) rows.push_back(i + 1);
-        }
-        return rows;
-    }
-
-    int offset_ = -1;
-    int size_ = 0;
-    Flags removed_;
+    std::vector<std::uint32_t> order_;
+    std::vector<method::BlockRow> rows_;
+    std::vector<std::uint8_t> removed_;
 };
 
-TEST_F(MarginOfError, IsAPercentageOfTheTopScore) {
-    fill({{"A", "4"}, {"B", "3"}, {"C", "2.999"}});
-    EXPECT_EQ(check(25), 1);
-    EXPECT_EQ(offset_, 0);
-    EXPECT_THAT(greenRows(), ElementsAre(1, 2));
-}
-
-TEST_F(MarginOfError, OfZeroCountsOnlyEqualScores) {
-    fill({{"A", "4"}, {"B", "4"}, {"C", "3.999"}});
-    EXPECT_EQ(check(0), 1);
-    EXPECT_THAT(greenRows(), ElementsAre(1, 2));
-}
-
-TEST_F(MarginOfError, OfAHundredCountsEveryScoreFromZeroOn) {
-    fill({{"A", "4"}, {"B", "2"}, {"C", "0"}, {"D", "-0.001"}});
-    EXPECT_EQ(check(100), 2);
-    EXPECT_THAT(greenRows(), ElementsAre(1, 2, 3));
-}
-
-TEST_F(MarginOfError, OfATopScoreOfZeroIsABandOfZero) {
-    fill({{"A", "0"}, {"B", "0"}, {"C", "-1"}});
-    EXPECT_EQ(check(100), 1);
-}
-
-TEST_F(MarginOfError, StartsAtTheTopSurvivingSpecies) {
-    fill({{"A", "9"}, {"B", "8"}, {"C", "4"}, {"D", "3"}, {"E", "1"}});
-    remove(1);
-    remove(2);
-    EXPECT_EQ(check(25), 1);
-    EXPECT_EQ(offset_, 2);
-    EXPECT_THAT(greenRows(), ElementsAre(3, 4));
-}
-
-TEST_F(MarginOfError, CountsAnOmittedSpeciesInTheBandAndDoesNotPaintIt) {
-    fill({{"A", "4"}, {"B", "4"}, {"C", "4"}});
-    remove(2);
-    EXPECT_EQ(check(0), 2);
-    EXPECT_THAT(greenRows(), ElementsAre(1, 3));
-}
-
-TEST_F(MarginOfError, FailsWhereNoSpeciesSurvives) {
-    fill({{"A", "4"}});
-    remove(1);
-    const ui::RunTimeError error = failureOf([&] { check(5); });
-    EXPECT_EQ(error.Description, reportOf("BrenicaUtilities.Check4ErrorMargin", 13, "Type mismatch"));
-}
-
 TEST_F(MarginOfError, ShowsTheSpeciesAndTheirScoresInTheFirstDialogue) {
-    fill({{"Otter", "4.12345", "0.5", "1", "0.25", "2", "1", "0"},
-          {"Badger", "4", "0.33333", "0.1234", "1", "0", "3", "4"},
-          {"Adder", "3.9", "0", "0", "0.5", "5", "0", "1"}});
+    fill({{"Otter", 4.12345, 0.5, 1, 0.25, adds(2, 1, 0)},
+          {"Badger", 4, 0.33333, 0.1234, 1, adds(0, 3, 4)},
+          {"Adder", 3.9, 0, 0, 0.5, adds(5, 0, 1)}});
     EXPECT_EQ(pick(0, 2, {"a"}), 1);
     ASSERT_EQ(platform.Transcript.size(), 1U);
     EXPECT_EQ(lastBox().BoxKind, ShownBox::Kind::Input);
@@ -137,13 +92,13 @@ TEST_F(MarginOfError, ShowsTheSpeciesAndTheirScoresInTheFirstDialogue) {
 }
 
 TEST_F(MarginOfError, ProposesTheAggregateScore) {
-    fill({{"A", "4", "0"}, {"B", "4", "1"}});
+    fill({{"A", 4, 0}, {"B", 4, 1}});
     EXPECT_EQ(pick(0, 1, {}), 1);
     EXPECT_EQ(lastBox().Answer, "a");
 }
 
 TEST_F(MarginOfError, LeavesRemovedSpeciesOutOfTheDialogue) {
-    fill({{"Top", "5"}, {"Otter", "4"}, {"Badger", "4"}, {"Adder", "4"}});
+    fill({{"Top", 5}, {"Otter", 4}, {"Badger", 4}, {"Adder", 4}});
     remove(1);
     remove(3);
     pick(1, 2, {"a"});
@@ -151,7 +106,7 @@ TEST_F(MarginOfError, LeavesRemovedSpeciesOutOfTheDialogue) {
 }
 
 TEST_F(MarginOfError, AsksNothingWhereOnlyOmittedSpeciesAreInTheBand) {
-    fill({{"Top", "5"}, {"Otter", "4"}, {"Badger", "4"}});
+    fill({{"Top", 5}, {"Otter", 4}, {"Badger", 4}});
     remove(1);
     remove(3);
     EXPECT_EQ(pick(1, 1, {"e"}), 2);
@@ -159,7 +114,7 @@ TEST_F(MarginOfError, AsksNothingWhereOnlyOmittedSpeciesAreInTheBand) {
 }
 
 TEST_F(MarginOfError, AnswersAreTrimmedAndTakenInAnyCase) {
-    fill({{"A", "4", "1", "1", "1"}, {"B", "4", "2", "0", "0"}});
+    fill({{"A", 4, 1, 1, 1}, {"B", 4, 2, 0, 0}});
     EXPECT_EQ(pick(0, 1, {"A"}), 1);
     EXPECT_EQ(pick(0, 1, {" b "}), 2);
     EXPECT_EQ(pick(0, 1, {"B"}), 2);
@@ -169,7 +124,7 @@ TEST_F(MarginOfError, AnswersAreTrimmedAndTakenInAnyCase) {
 }
 
 TEST_F(MarginOfError, AnyOtherAnswerAddsTheFirstSpeciesWithAMessage) {
-    fill({{"A", "4"}, {"B", "4", "9", "9", "9"}});
+    fill({{"A", 4}, {"B", 4, 9, 9, 9}});
     for (const char* answer : {"", "x", "f", "ab", "1"}) {
         SCOPED_TRACE(answer);
         EXPECT_EQ(pick(0, 1, {answer}), 1);
@@ -182,7 +137,7 @@ TEST_F(MarginOfError, AnyOtherAnswerAddsTheFirstSpeciesWithAMessage) {
 }
 
 TEST_F(MarginOfError, TheFirstSpeciesOfAnInvalidAnswerIsTheFirstRowOfTheBlock) {
-    fill({{"Omitted", "5"}, {"B", "4"}, {"C", "4"}});
+    fill({{"Omitted", 5}, {"B", 4}, {"C", 4}});
     remove(1);
     EXPECT_EQ(pick(1, 1, {"x"}), 1);
     EXPECT_EQ(pick(1, 1, {"e", "x"}), 1);
@@ -192,25 +147,25 @@ TEST_F(MarginOfError, TheFirstSpeciesOfAnInvalidAnswerIsTheFirstRowOfTheBlock) {
 TEST_F(MarginOfError, ComparesOnHeterogeneityOrThreats) {
     struct Case {
         const char* What;
-        std::vector<const char*> Values;
+        std::vector<double> Values;
         int Picked;
         bool Tie;
     };
     const Case cases[] = {
-        {"none beats the first", {"3", "1", "2"}, 1, false},
-        {"one beats the first", {"3", "4", "2"}, 2, false},
-        {"the last that beats it, not the best", {"3", "9", "4"}, 3, false},
-        {"equal to the first", {"3", "1", "3"}, 2, true},
-        {"equal to each other", {"3", "4", "4"}, 3, false},
-        {"a tie beside one that beats it", {"3", "9", "3"}, 2, true},
+        {"none beats the first", {3, 1, 2}, 1, false},
+        {"one beats the first", {3, 4, 2}, 2, false},
+        {"the last that beats it, not the best", {3, 9, 4}, 3, false},
+        {"equal to the first", {3, 1, 3}, 2, true},
+        {"equal to each other", {3, 4, 4}, 3, false},
+        {"a tie beside one that beats it", {3, 9, 3}, 2, true},
     };
     for (const char* answer : {"b", "c"}) {
         for (const Case& c : cases) {
             SCOPED_TRACE(std::string(answer) + ": " + c.What);
-            std::vector<BlockRow> rows;
-            for (const char* value : c.Values) {
+            std::vector<BandRow> rows;
+            for (const double value : c.Values) {
                 const bool heterogeneity = std::string(answer) == "b";
-                rows.push_back({"S", "4", heterogeneity ? value : "7", heterogeneity ? "7" : value});
+                rows.push_back({"S", 4, heterogeneity ? value : 7, heterogeneity ? 7 : value});
             }
             fill(rows);
             EXPECT_EQ(pick(0, 2, {answer, "2"}), c.Picked);
@@ -220,33 +175,33 @@ TEST_F(MarginOfError, ComparesOnHeterogeneityOrThreats) {
 }
 
 TEST_F(MarginOfError, TheReferenceIsTheFirstRowOfTheBlockEvenIfItWasOmitted) {
-    fill({{"Omitted", "5", "9"}, {"B", "4", "1"}, {"C", "4", "2"}});
+    fill({{"Omitted", 5, 9}, {"B", 4, 1}, {"C", 4, 2}});
     remove(1);
     EXPECT_EQ(pick(1, 1, {"b"}), 1);
 }
 
 TEST_F(MarginOfError, ComparingDoesNotSkipRemovedSpecies) {
-    fill({{"A", "4", "1"}, {"Omitted", "4", "2"}, {"C", "4", "0"}});
+    fill({{"A", 4, 1}, {"Omitted", 4, 2}, {"C", 4, 0}});
     remove(2);
     EXPECT_EQ(pick(0, 2, {"b"}), 2);
 }
 
 TEST_F(MarginOfError, ComparingOnSocioEconomicsLooksAtTheSecondRowThroughout) {
-    fill({{"A", "4", "0", "0", "2"}, {"B", "4", "0", "0", "3"}, {"C", "4", "0", "0", "1"}});
+    fill({{"A", 4, 0, 0, 2}, {"B", 4, 0, 0, 3}, {"C", 4, 0, 0, 1}});
     EXPECT_EQ(pick(0, 2, {"d"}), 3);
     EXPECT_EQ(platform.Transcript.size(), 1U);
 
-    fill({{"A", "4", "0", "0", "2"}, {"B", "4", "0", "0", "1"}, {"C", "4", "0", "0", "9"}});
+    fill({{"A", 4, 0, 0, 2}, {"B", 4, 0, 0, 1}, {"C", 4, 0, 0, 9}});
     EXPECT_EQ(pick(0, 2, {"d"}), 1);
     EXPECT_EQ(platform.Transcript.size(), 1U);
 
-    fill({{"A", "4", "0", "0", "2"}, {"B", "4", "0", "0", "2"}, {"C", "4", "0", "0", "9"}});
+    fill({{"A", 4, 0, 0, 2}, {"B", 4, 0, 0, 2}, {"C", 4, 0, 0, 9}});
     EXPECT_EQ(pick(0, 2, {"d", "3"}), 3);
     EXPECT_EQ(platform.Transcript.size(), 2U);
 }
 
 TEST_F(MarginOfError, ListsTheSpeciesByNumberInTheSecondDialogue) {
-    fill({{"Otter", "4"}, {"Badger", "4"}, {"Adder", "4"}});
+    fill({{"Otter", 4}, {"Badger", 4}, {"Adder", 4}});
     EXPECT_EQ(pick(0, 2, {"e"}), 1);
     ASSERT_EQ(platform.Transcript.size(), 2U);
     EXPECT_EQ(lastBox().BoxKind, ShownBox::Kind::Input);
@@ -256,7 +211,7 @@ TEST_F(MarginOfError, ListsTheSpeciesByNumberInTheSecondDialogue) {
 }
 
 TEST_F(MarginOfError, TakesTheRowOfTheNumberTyped) {
-    fill({{"Omitted", "5"}, {"Otter", "4"}, {"Badger", "4"}, {"Adder", "4"}});
+    fill({{"Omitted", 5}, {"Otter", 4}, {"Badger", 4}, {"Adder", 4}});
     remove(1);
     EXPECT_EQ(pick(1, 2, {"e", "1"}), 2);
     EXPECT_EQ(pick(1, 2, {"e", " 2 "}), 3);
@@ -264,7 +219,7 @@ TEST_F(MarginOfError, TakesTheRowOfTheNumberTyped) {
 }
 
 TEST_F(MarginOfError, TheNumbersShownSkipRemovedSpeciesAndTheRowsTakenDoNot) {
-    fill({{"Otter", "4"}, {"Omitted", "4"}, {"Adder", "4"}});
+    fill({{"Otter", 4}, {"Omitted", 4}, {"Adder", 4}});
     remove(2);
     EXPECT_EQ(pick(0, 2, {"e", "2"}), 2);
     EXPECT_EQ(lastBox().Text, "Enter the number of the candidate species\r1: Otter\r2: Adder\r");
@@ -272,7 +227,7 @@ TEST_F(MarginOfError, TheNumbersShownSkipRemovedSpeciesAndTheRowsTakenDoNot) {
 }
 
 TEST_F(MarginOfError, AnUnknownNumberAddsTheFirstSpeciesWithAMessage) {
-    fill({{"A", "4"}, {"B", "4"}});
+    fill({{"A", 4}, {"B", 4}});
     for (const char* answer : {"", "0", "3", "1.0", "B", "-1"}) {
         SCOPED_TRACE(answer);
         EXPECT_EQ(pick(0, 1, {"e", answer}), 1);
@@ -285,8 +240,16 @@ TEST_F(MarginOfError, AnUnknownNumberAddsTheFirstSpeciesWithAMessage) {
 }
 
 TEST_F(MarginOfError, ReportsAScoreThatIsNoNumber) {
-    fill({{"A", "4"}, {"B", "4", "much"}});
+    fill({{"A", 4}, {"B", 4, method::Unreadable}});
+    results().TextMatrix(Start + 1, result::Heterogeneity, "much");
     const ui::RunTimeError error = failureOf([&] { pick(0, 1, {"b"}); });
+    EXPECT_EQ(error.Description, reportOf("BrenicaUtilities.SelectErrorMarginSpecies", 13, "Type mismatch"));
+    EXPECT_THAT(platform.Transcript, testing::IsEmpty());
+}
+
+TEST_F(MarginOfError, ReportsABandThatReachesIntoTheBlankRow) {
+    fill({{"A", 4}, {"B", 4}});
+    const ui::RunTimeError error = failureOf([&] { pick(1, 1, {"a"}); });
     EXPECT_EQ(error.Description, reportOf("BrenicaUtilities.SelectErrorMarginSpecies", 13, "Type mismatch"));
 }
 

@@ -3,8 +3,9 @@
 #include <array>
 
 #include "entry/modErrorHandling.h"
+#include "scoring/landscape_reader.h"
 #include "selection/selection.h"
-#include "ui/arrays.h"
+#include "ui/numbers.h"
 
 /// Which pick covered a unit first, and what stops the steps that look for it.
 

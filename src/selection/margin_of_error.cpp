@@ -6,6 +6,7 @@
 
 #include "entry/modErrorHandling.h"
 #include "project/columns.h"
+#include "scoring/landscape_reader.h"
 #include "selection/selection.h"
 #include "ui/text.h"
 

@@ -7,9 +7,10 @@
 
 #include "method/selection.h"
 #include "project/modGlobal.h"
-#include "scoring/landscape_reader.h"
 #include "ui/grid.h"
 #include "ui/platform.h"
+
+struct CellPlace;
 
 /// The grids that a selection reads and fills.
 struct SelectionGrids {

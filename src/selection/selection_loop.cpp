@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "entry/modErrorHandling.h"
 #include "project/columns.h"
+#include "scoring/landscape_reader.h"
 #include "selection/result_colours.h"
 #include "selection/selection.h"
 #include "ui/text.h"

@@ -363,6 +363,76 @@ TEST(Selection, an_omitted_species_may_be_chosen_and_is_dropped_without_a_word) 
         << "the dropped species counts twice, so that the race ends with one left in it";
 }
 
+/// Remembers which rows of the first pass lie within the margin, and how many a chooser is told.
+class MarginWatch : public Listener, public Chooser {
+public:
+    MarginWatch(const std::vector<double>& aggregates, double margin) {
+        const Landscape land = emptyLandscape(aggregates.size(), 1, 1, 1);
+        Assessment assessment;
+        assess(land, assessment);
+        assessment.Species.Aggregate = aggregates;
+        select(land, assessment, {.Margin = margin}, *this, this);
+    }
+
+    std::vector<std::size_t> Rows;
+    std::size_t Count = 0;
+
+private:
+    void withinMargin(std::size_t offset) override {
+        if (!chosen_) Rows.push_back(offset);
+    }
+    std::size_t choose(const MarginBand& band) override {
+        if (!chosen_) Count = band.Count;
+        chosen_ = true;
+        return band.Top;
+    }
+    void pickOmitted(std::size_t) override { chosen_ = true; }
+    void joined(std::size_t, int, const Additions&) override { chosen_ = true; }
+
+    bool chosen_ = false;
+};
+
+TEST(Margin, is_a_percentage_of_the_top_aggregate) {
+    const MarginWatch watch({2.999, 4, 3}, 25);
+    EXPECT_EQ(watch.Count, 1U);
+    EXPECT_THAT(watch.Rows, ElementsAre(0, 1, 0)) << "the top row is told again as the pick";
+}
+
+TEST(Margin, of_0_takes_in_equal_aggregates_alone) {
+    EXPECT_EQ(MarginWatch({4, 4, 3.999}, 0).Count, 1U);
+    EXPECT_EQ(MarginWatch({4, 3.999, 3.998}, 0).Count, 0U);
+}
+
+TEST(Margin, of_100_takes_in_every_aggregate_from_0_on) {
+    EXPECT_EQ(MarginWatch({4, 2, 0, -0.001}, 100).Count, 2U);
+}
+
+TEST(Margin, of_a_top_aggregate_of_0_is_a_band_of_0) { EXPECT_EQ(MarginWatch({0, 0, -1}, 100).Count, 1U); }
+
+TEST(Margin, starts_at_the_top_species_in_the_race_and_counts_omitted_ones_below_it) {
+    struct Watch : TakeTop {
+        std::size_t choose(const MarginBand& band) override {
+            Bands.emplace_back(band.Top, band.Count);
+            return TakeTop::choose(band);
+        }
+        std::vector<std::pair<std::size_t, std::size_t>> Bands;
+    } chooser;
+    // In the second pass species 3, which leads, and 1, which comes last, add nothing.
+    Landscape land = emptyLandscape(5, 3, 1, 1);
+    land.HabitatLevels = tableOf({{3, 0, 0}, {0, 0, 0}, {0, 2, 0}, {0, 1, 0}, {0, 0, 2}});
+    for (std::size_t s = 0; s < 5; ++s) land.Functions.at(s, 0) = s == 1 || s == 3 ? 3 : 1;
+    land.Functions.at(0, 0) = 3;
+    land.Dispersal = {1, 1, 0, 0, 0};
+    Diary diary;
+    Assessment assessment;
+    assess(land, assessment);
+    select(land, assessment, {.Margin = 100}, chooser, &diary);
+    EXPECT_THAT(diary.Text(), HasSubstr("sorted 3 2 4 1\n"));
+    EXPECT_THAT(diary.Text(), HasSubstr("omitted 3\nmargin 1\nmargin 2\nmargin 1\n"));
+    ASSERT_GE(chooser.Bands.size(), 2U);
+    EXPECT_THAT(chooser.Bands[1], testing::Pair(1, 2));
+}
+
 TEST(Selection, what_a_listener_or_a_chooser_throws_passes_through) {
     struct Refuses : Listener {
         void sorted(const Block&) override { throw std::runtime_error("no more"); }

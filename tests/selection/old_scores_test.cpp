@@ -189,8 +189,8 @@ TEST_F(ScoresInOrderOfRank, TheReportRanksTheSpeciesThatAreLeft) {
     platform.Files.push_back(folder.file("results.txt"));
     form.cmdExportResults.UserClick();
     EXPECT_FALSE(files.IsOpen(1));
-    const std::string aggregates[] = {form.flxScores(0).TextMatrix(1, score::Aggregate),
-                                      form.flxScores(0).TextMatrix(2, score::Aggregate)};
+    const std::string aggregates[] = {std::string(form.flxScores(0).TextMatrix(1, score::Aggregate)),
+                                      std::string(form.flxScores(0).TextMatrix(2, score::Aggregate))};
     EXPECT_THAT(readFile(folder.file("results.txt")),
                 testing::StartsWith("Brenic Species by Rank with Aggregate Score:\r\n1. Species 3  (" +
                                     aggregates[1] + ")\r\n2. Species 2  (" + aggregates[0] + ")\r\n\r\n"));

@@ -36,7 +36,7 @@ TEST_F(PickedRows, TheTopRowIsGreenInItsFirstColumnAloneWhenAnotherIsChosen) {
     openForSelection(twoEqual().set("HeteroHabitat Population", "2,2,2,2").set("HeteroJU Individual", "2,2"));
     type(form.txtErrorMargin, "100");
     select({"e", "2"});
-    const std::string top = results().TextMatrix(1, result::Name);
+    const std::string top(results().TextMatrix(1, result::Name));
     ASSERT_THAT(suite(), testing::Contains(results().TextMatrix(2, result::Name)));
     ASSERT_NE(suite()[1], top);
     EXPECT_EQ(colourOf(1, 0), MarginGreen);

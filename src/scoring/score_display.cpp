@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Brenica developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <array>
+#include <span>
 
 #include "entry/modErrorHandling.h"
 #include "project/frmBrenica.h"
@@ -20,8 +21,7 @@ constexpr std::array OriginalTips = {
     "Candidate species vulnerability score", "Candidate species functionality score",
     "Candidate species socioeconomic score"};
 
-template <class Tips>
-const char* tipAt(const Tips& tips, int col) {
+const char* tipAt(std::span<const char* const> tips, int col) {
     const auto index = static_cast<std::size_t>(col) - 1;
     return col >= 1 && index < tips.size() ? tips[index] : "";
 }

@@ -184,7 +184,6 @@ inline constexpr const char* Procedures[] = {
     "BrenicaUtilities.GetHeteroScore",
     "BrenicaUtilities.GetRanks",
     "BrenicaUtilities.GetSocioEconScore",
-    "BrenicaUtilities.GetThreatImpact",
     "BrenicaUtilities.GetUnitsUsed",
     "BrenicaUtilities.GetVulnerabilityScore",
     "BrenicaUtilities.HighlightCoverUnitsUsed",

@@ -47,6 +47,16 @@ bool saysYes(const ui::Grid& grid, int species, int col) {
     return ui::equalsIgnoringCase(grid.TextMatrix(species, col), "Y");
 }
 
+/// `score` of the values of one row.
+template <class Score>
+double scoreOfRow(const ui::Grid& grid, int species, int cols, Score score) {
+    const std::vector<double> values = rowOf(grid, species, 1, cols);
+    return resultOf([&] { return score(values, landscapeIndex(species)); },
+                    [&](const method::Failure& failure) {
+                        return CellPlace{grid, species, tableIndex(failure.Column)};
+                    });
+}
+
 method::CriterionScores scoresOf(int species, double scaledHomeRange, const ScoreGrids& grids,
                                  const modGlobal& global) {
     using enum method::Criterion;
@@ -150,21 +160,13 @@ double GetVulnerabilityScore(int species, const ui::Grid& vulnerabilityGrid) try
 }
 
 double GetFunctionScore(int species, const ui::Grid& functionGrid, const modGlobal& global) try {
-    const std::vector<double> functions = rowOf(functionGrid, species, 1, global.TotalFunctions);
-    return resultOf([&] { return method::functionality(functions, landscapeIndex(species)); },
-                    [&](const method::Failure& failure) {
-                        return CellPlace{functionGrid, species, tableIndex(failure.Column)};
-                    });
+    return scoreOfRow(functionGrid, species, global.TotalFunctions, method::functionality);
 } catch (...) {
     ReportError(9999, "BrenicaUtilities.GetFunctionScore", "");
 }
 
 double GetSocioEconScore(int species, const ui::Grid& socioEconGrid) try {
-    const std::vector<double> values = rowOf(socioEconGrid, species, 1, TotalSocioEcon);
-    return resultOf([&] { return method::socioEconomics(values, landscapeIndex(species)); },
-                    [&](const method::Failure& failure) {
-                        return CellPlace{socioEconGrid, species, tableIndex(failure.Column)};
-                    });
+    return scoreOfRow(socioEconGrid, species, TotalSocioEcon, method::socioEconomics);
 } catch (...) {
     ReportError(9999, "BrenicaUtilities.GetSocioEconScore", "");
 }

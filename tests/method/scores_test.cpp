@@ -135,4 +135,14 @@ TEST(Scores, a_sum_that_is_too_large_fails_in_its_own_step) {
     EXPECT_EQ(failureOf([&] { assess(land, assessment); }).At, Step::Normalisation);
 }
 
+TEST(Scores, a_sum_whose_15_digits_are_too_large_fails_when_it_is_read) {
+    Landscape land = emptyLandscape(1, 1, 1, 1);
+    land.Functions.at(0, 0) = 1.7976931348623157e308;
+    Assessment assessment;
+    const Failure failure = failureOf([&] { assess(land, assessment); });
+    EXPECT_EQ(failure.At, Step::Normalisation);
+    EXPECT_EQ(failure.Column, static_cast<std::size_t>(Criterion::Functionality));
+    EXPECT_EQ(assessment.Species.Original[0][Criterion::Functionality], 1.7976931348623157e308);
+}
+
 }  // namespace

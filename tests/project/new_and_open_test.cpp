@@ -13,7 +13,7 @@ using State = std::map<std::string, std::string>;
 std::string cellsOf(const ui::Grid& grid) {
     std::string texts;
     for (int row = 0; row < grid.Rows(); ++row) {
-        for (int col = 0; col < grid.Cols(); ++col) texts += grid.TextMatrix(row, col) + "|";
+        for (int col = 0; col < grid.Cols(); ++col) texts += std::string(grid.TextMatrix(row, col)) + "|";
         texts += "\n";
     }
     return texts;

@@ -95,7 +95,7 @@ TEST_F(ProjectCopyTest, CellsAreNamedInWords) {
     form.flxSummary(summary::HabitatsBySpecies).TextMatrix(3, use::Level, "1,5");
     form.flxSummary(summary::ThreatsBySpecies).TextMatrix(2, threat::Recovery, "2,5");
     form.flxSummary(summary::Area).TextMatrix(2, area::Occupied, "0,3");
-    const auto heading = [](const ui::Grid& grid, int col) { return grid.TextMatrix(0, col); };
+    const auto heading = [](const ui::Grid& grid, int col) { return std::string(grid.TextMatrix(0, col)); };
     EXPECT_THAT(lostInWords(),
                 ElementsAre("Habitat types | 2 | " + heading(form.flxHabitatTypes, list::Area) + " | 0,5",
                             "Habitat use by species | Species 2, Habitat 1 | " +

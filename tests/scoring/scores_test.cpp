@@ -5,6 +5,7 @@
 
 using modBrenicaUtilities::GetRanks;
 using testing::ElementsAre;
+using testing::Not;
 
 class Scores : public ScoringTest {
 protected:
@@ -149,6 +150,28 @@ TEST_F(Scores, ReportAHomeRangeThatIsNoNumber) {
     open(ProjectText(2, 1, 1, 1).set("Home ranges", "5,large"));
     EXPECT_EQ(description(6), reportOf("BrenicaUtilities.ScaleHomeRanges", 13, "Type mismatch"));
     EXPECT_FALSE(global.ScoresCalculated);
+}
+
+TEST_F(Scores, ReportAHomeRangeThatIsTooLarge) {
+    open(ProjectText(2, 1, 1, 1).set("Home ranges", "5,1e308"));
+    EXPECT_EQ(description(6), reportOf("BrenicaUtilities.ScaleHomeRanges", 6, "Overflow"));
+}
+
+TEST_F(Scores, StayAsFarAsTheyWereCalculated) {
+    open(ProjectText(3, 1, 1, 1).set("Landscape Occupied", "1,1e306,1"));  // a thousand times it is too large
+    EXPECT_EQ(description(6), reportOf("BrenicaUtilities.UpdateScores", 6, "Overflow"));
+    EXPECT_THAT(columnOf(original(), 1), ElementsAre("H", Not(""), Not(""), ""));
+    EXPECT_THAT(columnOf(original(), 2), ElementsAre("A", Not(""), "", ""));
+    EXPECT_FALSE(global.ScoresCalculated);
+}
+
+TEST_F(Scores, StayUpToTheNormalisedOneThatIsTooLarge) {
+    // The greatest number: its 15 digits are beyond the range.
+    open(ProjectText(2, 1, 1, 1).set("Function1", "0,1.7976931348623157e308"));
+    EXPECT_EQ(description(6), reportOf("BrenicaUtilities.UpdateScores", 6, "Overflow"));
+    EXPECT_THAT(original().TextMatrix(2, 4), testing::StartsWith("179769313486232000"));
+    EXPECT_THAT(columnOf(normalised(), 6), ElementsAre("F", "0", ""));
+    EXPECT_THAT(columnOf(normalised(), 5), ElementsAre("V", Not(""), Not("")));
 }
 
 TEST_F(Scores, ReportTheFunctionThatFails) {

@@ -328,6 +328,8 @@ class Maker:
 
     def renumber(self, lines):
         numbered = [line for line in lines if line[0][-1:].isdigit()]
+        if not numbered:
+            return lines
         line = self.rng.choice(numbered)
         stem = line[0].rstrip("0123456789")
         line[0] = stem + self.rng.choice(("", "0", "99", "X", " 2", "1.5", "-1", "007", "2 3", "1e0"))

@@ -36,7 +36,7 @@ FormWatch::FormWatch(frmBrenica& form, ui::Files& files) : form_(form), files_(f
     files_.Closed = [this](ui::FileMode mode, int number) {
         if (const auto kind = commandOf(mode, number)) forget(*kind);
     };
-    form_.SelectionRefused = [this] { scoresTooOld_ = true; };
+    form_.SelectionRefused = [this](SelectionObstacle obstacle) { obstacle_ = obstacle; };
 }
 
 FormWatch::~FormWatch() {
@@ -51,7 +51,7 @@ FailedCommand FormWatch::failureOf(const ui::FileFault& fault, Kind kind) const 
 }
 
 void FormWatch::look(bool programEnds) {
-    scoresTooOld_ = scoresTooOld_ && form_.Global().ScoresCalculated && form_.CurrentMainTab != page::Scores;
+    lookAtObstacle();
     const auto fault = files_.LastFault();
     if (!fault) return;
     files_.ClearLastFault();
@@ -60,6 +60,14 @@ void FormWatch::look(bool programEnds) {
     if (kind == Kind::Open && programEnds) kind = Kind::Import;
     forget(*kind);
     failures_.insert(failures_.begin(), failureOf(*fault, *kind));
+}
+
+/// What is changed on other pages tells when the results come back on view.
+void FormWatch::lookAtObstacle() {
+    if (!obstacle_) return;
+    const int shown = form_.CurrentMainTab;
+    if (!form_.Global().ScoresCalculated || shown == page::Scores) obstacle_ = {};
+    if (obstacle_ && shown == page::Results) obstacle_ = form_.FindSelectionObstacle();
 }
 
 void FormWatch::forget(Kind kind) {

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "project/selection_obstacle.h"
 #include "ui/files.h"
 
 class frmBrenica;
@@ -43,15 +44,16 @@ public:
     /// Open, Import and the export of results, which share a file number.
     bool readingIsBlocked() const;
 
-    /// A selection was asked for that the scores are too old for; until they are new, or somebody forgets it.
-    bool scoresAreTooOld() const { return scoresTooOld_; }
-    void forgetOldScores() { scoresTooOld_ = false; }
+    /// What has kept a selection from running, until it is out of the way or somebody forgets it.
+    std::optional<SelectionObstacle> selectionObstacle() const { return obstacle_; }
+    void forgetObstacle() { obstacle_ = {}; }
 
 private:
+    void lookAtObstacle();
     FailedCommand failureOf(const ui::FileFault& fault, FailedCommand::Kind kind) const;
 
     frmBrenica& form_;
     ui::Files& files_;
     std::vector<FailedCommand> failures_;
-    bool scoresTooOld_ = false;
+    std::optional<SelectionObstacle> obstacle_;
 };

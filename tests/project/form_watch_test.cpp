@@ -51,7 +51,7 @@ TEST_F(FormWatching, NothingIsKeptWhileAllGoesWell) {
     EXPECT_THAT(watch.failures(), IsEmpty());
     EXPECT_FALSE(watch.savingIsBlocked());
     EXPECT_FALSE(watch.readingIsBlocked());
-    EXPECT_FALSE(watch.scoresAreTooOld());
+    EXPECT_FALSE(watch.selectionObstacle());
 }
 
 TEST_F(FormWatching, ASaveThatCannotBeginBlocksNothing) {
@@ -164,26 +164,61 @@ TEST_F(FormWatching, AFailureCanBeForgotten) {
     EXPECT_THAT(watch.failures(), IsEmpty());
 }
 
-TEST_F(FormWatching, OldScoresAreNamedUntilTheScoresPageIsShown) {
-    open(ProjectText(2, 2, 2, 2));
-    walkTo(7);
-    form.SelectionRefused();
-    watch.look();
-    EXPECT_TRUE(watch.scoresAreTooOld());
+/// A selection that was refused since a species was added after the scores.
+class RefusedSelection : public FormWatching {
+protected:
+    void SetUp() override {
+        open(ProjectText(2, 2, 2, 2));
+        walkTo(7);
+        goTo(1);
+        addSpecies({"Newt"});
+        goTo(4);
+        goTo(7);
+        form.cmdComplement.UserClick();
+        watch.look();
+        ASSERT_EQ(watch.selectionObstacle(), SelectionObstacle::OldScores);
+    }
+};
+
+TEST_F(RefusedSelection, IsNamedUntilTheScoresPageIsShown) {
     goTo(4);
     watch.look();
-    EXPECT_TRUE(watch.scoresAreTooOld());
+    EXPECT_TRUE(watch.selectionObstacle());
+    goTo(1);
+    type(form.txtRemoveSpeciesIndex, "3");
+    form.cmdRemoveSpecies.UserClick();
     goTo(6);
     watch.look();
-    EXPECT_FALSE(watch.scoresAreTooOld());
+    EXPECT_FALSE(watch.selectionObstacle());
 }
 
-TEST_F(FormWatching, OldScoresGoWithTheirProject) {
-    open(ProjectText(2, 2, 2, 2));
-    walkTo(7);
-    form.SelectionRefused();
+TEST_F(RefusedSelection, IsNamedUntilTheResultsPageFindsNothingInItsWay) {
+    goTo(1);
+    type(form.txtRemoveSpeciesIndex, "3");
+    form.cmdRemoveSpecies.UserClick();
+    watch.look();
+    EXPECT_TRUE(watch.selectionObstacle());
+    goTo(4);
+    goTo(7);
+    watch.look();
+    EXPECT_FALSE(watch.selectionObstacle());
+}
+
+TEST_F(RefusedSelection, TellsTheReasonThatThereIsNow) {
+    goTo(1);
+    for (int i = 0; i < 3; ++i) {
+        type(form.txtRemoveSpeciesIndex, "1");
+        form.cmdRemoveSpecies.UserClick();
+    }
+    goTo(4);
+    goTo(7);
+    watch.look();
+    EXPECT_EQ(watch.selectionObstacle(), SelectionObstacle::NoSpecies);
+}
+
+TEST_F(RefusedSelection, GoesWithItsProject) {
     form.ProjectChanged = false;
     form.mnuNewProject.UserClick();
     watch.look();
-    EXPECT_FALSE(watch.scoresAreTooOld());
+    EXPECT_FALSE(watch.selectionObstacle());
 }

@@ -63,5 +63,7 @@ inline constexpr const char* Box = "%1 (“%2”)";
 inline constexpr const char* MoreCells = "%1 and %2 more";
 inline constexpr const char* NotCarriedKept = "They stand in the window and in the safety copy.";
 inline constexpr const char* ScoresFirst = "Go to Aggregate Scores first.";
+inline constexpr const char* StatusFirst = "A species has no conservation status (CCS). Enter it first.";
+inline constexpr const char* SpeciesFirst = "There is no species to select from.";
 
 }  // namespace desktop::own_texts

@@ -81,9 +81,10 @@ void StripLines::addFailures(std::vector<StripLine>& lines) {
                  follow();
              }});
     }
-    if (!watch_.scoresAreTooOld()) return;
-    lines.push_back({own_texts::ScoresFirst, {}, StripTone::Note, {}, [this] {
-                         watch_.forgetOldScores();
+    const auto obstacle = watch_.selectionObstacle();
+    if (!obstacle) return;
+    lines.push_back({strip_words::notSelected(*obstacle), {}, StripTone::Note, {}, [this] {
+                         watch_.forgetObstacle();
                          follow();
                      }});
 }

@@ -112,6 +112,15 @@ QString failure(const FailedCommand& failed, bool blocked) {
     return {};
 }
 
+QString notSelected(SelectionObstacle obstacle) {
+    switch (obstacle) {
+        case SelectionObstacle::NoSpecies: return said(own_texts::SpeciesFirst);
+        case SelectionObstacle::NoStatus: return said(own_texts::StatusFirst);
+        case SelectionObstacle::OldScores: return said(own_texts::ScoresFirst);
+    }
+    return {};
+}
+
 QString notKept(const QString& reason) { return said(own_texts::NotKept).arg(clause(reason)); }
 
 QString notCarried(const QList<LostText>& cellsLost) {

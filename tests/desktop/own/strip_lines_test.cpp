@@ -453,12 +453,21 @@ private slots:
         StripWindow w;
         w.open(ProjectText(2, 2, 2, 2));
         for (int page = 2; page <= 7; ++page) w.goTo(page);
-        w.run([&] { w.form->SelectionRefused(); });
+        const auto refuse = [&](SelectionObstacle obstacle) {
+            w.run([&] {
+                w.form->tabBrenica.UserSelectTab(4);
+                w.form->SelectionRefused(obstacle);
+            });
+        };
+        refuse(SelectionObstacle::NoSpecies);
+        QCOMPARE(w.lines(), QStringList("There is no species to select from."));
+        refuse(SelectionObstacle::NoStatus);
+        QCOMPARE(w.lines(), QStringList("A species has no conservation status (CCS). Enter it first."));
+        refuse(SelectionObstacle::OldScores);
         QCOMPARE(w.lines(), QStringList("Go to Aggregate Scores first."));
         w.goTo(6);
         QVERIFY(!w.strip().isVisible());
-        w.goTo(7);
-        w.run([&] { w.form->SelectionRefused(); });
+        refuse(SelectionObstacle::OldScores);
         w.click("Go to", "Close this message");
         QVERIFY(!w.strip().isVisible());
     }

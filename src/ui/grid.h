@@ -258,7 +258,6 @@ private:
     CellRange selection() const;
     template <class Change>
     void changeFormats(Change change);
-    void setCurrent(int row, int col);
     bool mayLeaveFor(int row, int col);
     bool isBody(int row, int col) const {
         return contains(row, col) && row >= fixedRows_ && col >= fixedCols_;

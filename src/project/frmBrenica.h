@@ -69,7 +69,7 @@ public:
     void rebuildUserBins();
 
     // project/project_copy.cpp: what stands beside the described commands, for whoever keeps copies of the project
-    ui::Event<ProjectStep, const std::string&> ProjectStepTaken;
+    ui::SharedEvent<ProjectStep, const std::string&> ProjectStepTaken;
     /// Raises what a save would raise where lists and tables are out of step.
     ProjectCopy TakeCopy() const;
     /// Project > Open with this file chosen, the save question included. Does nothing once a file has failed to open

@@ -80,6 +80,7 @@ FileLine frmBrenica::homeRangeLine() const {
 
 /// An error leaves the file as far as it was written, and open.
 void frmBrenica::SaveProject(const std::string& path) try {
+    ProjectStepTaken(ProjectStep::Saving, path);
     files_.Open(path, ui::FileMode::Output, SaveFileNumber);
     std::string text;
     writeLines([&](const FileLine& line) {

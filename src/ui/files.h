@@ -26,6 +26,7 @@ struct FileFault {
     RunTimeError Error;
     FileMode Mode = FileMode::Input;
     int Number = 0;
+    bool ReadWhole = false;  ///< the file was read to its end and closed; what it holds is at fault
 };
 
 /// Files opened under a number, as long as they are used. Reading gives UTF-8 without a byte order mark, whatever the

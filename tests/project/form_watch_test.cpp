@@ -121,6 +121,32 @@ TEST_F(FormWatching, AFileThatCannotBeReadToItsEndBlocksReading) {
     EXPECT_EQ(watch.failures()[0].Reason, "File already open");
 }
 
+TEST_F(FormWatching, NewEndsWhatAFailedOpeningHasLeft) {
+    saveTo(path_);
+    openFrom(folder.file("missing.brn"));
+    form.mnuNewProject.UserClick();
+    EXPECT_THAT(watch.failures(), IsEmpty());
+}
+
+TEST_F(FormWatching, ANewThatIsNotCarriedOutEndsNothing) {
+    openFrom(folder.file("missing.brn"));
+    addSpecies({"Ant"});
+    platform.Answers = {"yes"};  // and Cancel in the dialogue
+    form.mnuNewProject.UserClick();
+    EXPECT_EQ(only().What, Kind::Open);
+}
+
+TEST_F(FormWatching, AnImportSaysNothingOfAFailedOpening) {
+    openFrom(folder.file("missing.brn"));
+    writeFile(folder.file("species.txt"), "Ant\r\n");
+    platform.Files = {folder.file("species.txt")};
+    platform.Answers = {"no"};
+    form.mnuImportData.UserClick();
+    watch.look();
+    EXPECT_EQ(global.TotalSpecies, 1);
+    EXPECT_EQ(only().What, Kind::Open);
+}
+
 TEST_F(FormWatching, AnExportOfResultsThatFailsHalfWayBlocksReading) {
     fail(Operation::Write, ui::ErrorNumber::DiskFull);
     exportResults(folder.file("results.txt"));

@@ -17,6 +17,7 @@ inline constexpr const char* HideCopies = "Hide them";
 
 // A copy: the project, when it was written, and what it holds.
 inline constexpr const char* NewProject = "A new project";
+inline constexpr const char* NamelessCopy = "A safety copy";
 inline constexpr const char* Today = "today %1";
 inline constexpr const char* Yesterday = "yesterday %1";
 inline constexpr const char* OnDay = "%1, %2";
@@ -41,6 +42,7 @@ inline constexpr const char* SavedNowhere =
     "Nothing was saved: Yes in that question names no file. Save the project first, then answer No.";
 inline constexpr const char* NotOpened = "%1 could not be opened: %2.";
 inline constexpr const char* NotReadFurther = "%1 could not be read beyond line %2: %3.";
+inline constexpr const char* NotShownWhole = "%1 was read, but cannot be shown whole: %2.";
 inline constexpr const char* WindowEmptied = "The window was emptied before.";
 inline constexpr const char* ReadSoFar = "The window shows what stands before that line.";
 inline constexpr const char* SaveWouldReplace = "A save still proposes %1.";

@@ -280,7 +280,8 @@ void frmBrenica::OpenProject(const std::string& path) {
         if (global_.ProjectVersion.empty()) convertVersion1Project();
         ProjectLoading = false;
     } catch (...) {
-        files_.NoteFault({path, lines, CurrentError(), ui::FileMode::Input, OpenFileNumber});
+        const bool readWhole = !files_.IsOpen(OpenFileNumber);
+        files_.NoteFault({path, lines, CurrentError(), ui::FileMode::Input, OpenFileNumber, readWhole});
         ReportError(9999, "Brenica.OpenProject", "");
     }
 }

@@ -62,6 +62,8 @@ public:
     int LinesEnded() const { return linesEnded_; }
     /// Keeps a failure that whoever reads the file found in what it holds.
     void NoteFault(FileFault fault) { lastFault_ = std::move(fault); }
+    /// The same at the place that an open file has reached.
+    void NoteFault(int number, const RunTimeError& error);
 
 private:
     struct CloseStream {

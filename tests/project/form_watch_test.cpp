@@ -174,6 +174,38 @@ TEST_F(FormWatching, AnImportAndATableThatEndTheProgramAreNamed) {
     EXPECT_EQ(watch.failures().front().Path, folder.file("missing/table.txt"));
 }
 
+TEST_F(FormWatching, ASaveThatFailsByItsTablesIsOneThatFailedHalfWay) {
+    open(ProjectText(2, 1, 1, 1));
+    form.flxSummary(summary::Functionality).Rows(2);
+    saveTo(path_);
+    EXPECT_EQ(only().What, Kind::Save);
+    EXPECT_EQ(only().Path, path_);
+    EXPECT_EQ(only().Reason, "Subscript out of range");
+    EXPECT_EQ(only().Line, 24) << "lines that stand in the file";
+    EXPECT_TRUE(watch.savingIsBlocked());
+}
+
+TEST_F(FormWatching, ASaveWithoutANameTakesNothingBackThatABrokenOneHasTold) {
+    addSpecies({"Ant"});
+    fail(Operation::Write, ui::ErrorNumber::DiskFull);
+    saveTo(path_);
+    mend();
+    platform.Answers = {"yes"};
+    platform.Files = {path_};
+    form.mnuExit.UserClick();
+    watch.look();
+    EXPECT_EQ(only().Path, path_);
+    EXPECT_EQ(only().Reason, "Disk full");
+}
+
+TEST_F(FormWatching, AFileThatWasReadWholeIsToldAsSuch) {
+    std::string text = ProjectText(1, 1, 1, 1).remove("Project Version").set("Habitat Area", "wide").text();
+    writeFile(path_, text);
+    openFrom(path_);
+    EXPECT_TRUE(only().ReadWhole);
+    EXPECT_FALSE(watch.readingIsBlocked());
+}
+
 TEST_F(FormWatching, ACancelledCommandIsNoFailure) {
     form.mnuSaveProject.UserClick();
     watch.look();

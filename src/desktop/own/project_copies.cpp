@@ -206,7 +206,7 @@ void ProjectCopies::keep(ProjectCopy copy) {
                   reason = QString::fromUtf8(fault.what());
               }
               QMetaObject::invokeMethod(this, [this, id, reason] {
-                  if (id == id_) setWhyNotKept(reason);
+                  if (id == id_ && isKept_) setWhyNotKept(reason);  // none may be wanted by now
               });
           }});
 }

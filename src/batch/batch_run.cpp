@@ -116,7 +116,8 @@ bool BatchRun::openProject() {
     const bool wasRead = !fault || fault->Line > 0;
     if (wasRead && files_.LinesEnded() == 0)
         return sayUnreadable("no line ends in CR, as those of a project do");
-    if (fault) return sayUnreadable(withBreaks(fault->Error.Description, " "), fault->Line);
+    if (fault)
+        return sayUnreadable(withBreaks(fault->Error.Description, " "), fault->ReadWhole ? 0 : fault->Line);
     return global_.ProjectFileName == options_.Project || sayUnreadable("cannot be opened");
 }
 

@@ -69,14 +69,19 @@ void frmBrenica::flxFunctions_CellChanged(int row, int col) try {
     ReportError(9999, "Brenica.flxFunctions_CellChanged", "");
 }
 
-/// What happens already has a probability of 1. The current cell moves on in either case.
+/// What happens already has a probability of 1. The current cell moves on in either case; an imported text that is no
+/// number has no rule to keep.
 void frmBrenica::flxLandUses_BeforeRowColChange(int oldRow, int oldCol) try {
     if (oldRow <= 0 || (oldCol != list::Urgency && oldCol != list::Probability)) return;
     if (flxLandUses.TextMatrix(oldRow, list::Urgency).empty()) return;
     if (flxLandUses.TextMatrix(oldRow, list::Probability).empty()) return;
-    const int urgency = flxLandUses.Long(oldRow, list::Urgency);
-    const int probability = flxLandUses.Long(oldRow, list::Probability);
-    if (urgency != MostUrgent || probability == 1) return;
+    int urgency = 0;
+    int probability = 0;
+    const bool numbers = succeeds([&] {
+        urgency = flxLandUses.Long(oldRow, list::Urgency);
+        probability = flxLandUses.Long(oldRow, list::Probability);
+    });
+    if (!numbers || urgency != MostUrgent || probability == 1) return;
     platform().showMessage("With a value of 3 for Urgency the Probability of Occurrence must be 1.",
                            "Invalid value", ui::MessageIcon::Exclamation);
     flxLandUses.TextMatrix(oldRow, list::Probability, "1");

@@ -20,6 +20,8 @@ inline constexpr std::array CriterionNames = {"Heterogeneity", "Area", "Vulnerab
 inline constexpr std::array DefaultBinLabels = {"0 - 1 km2",   "1 - 10 km2",   "10 - 25 km2",
                                                 "25 - 50 km2", "50 - 100 km2", "100+ km2"};
 
+inline constexpr std::array BinHeadings = {"No.", "Breakpoint"};
+
 /// The level of use that covers a habitat or zone, until the user chooses another.
 inline constexpr const char* DefaultLevelOfUse = "2";
 

@@ -106,7 +106,7 @@ void frmBrenica::setUpListPages() {
         "Home ranges selected from a set of predefined intervals for each candidate species");
     optHomeRangeType(2).ToolTipText(
         "Home ranges selected from a set of user-defined intervals for each candidate species");
-    setUp(flxBins, {"No.", "Breakpoint"});
+    modFlexGridUtilities::InitFlexGrid(flxBins, static_cast<int>(BinHeadings.size()), BinHeadings, false, 1);
     setUp(flxFunctions, {"No.", "Functions"});
 }
 

@@ -33,33 +33,66 @@ std::optional<Kind> commandOf(ui::FileMode mode, int number) {
 }  // namespace
 
 FormWatch::FormWatch(frmBrenica& form, ui::Files& files) : form_(form), files_(files) {
+    // What a failed opening has left ends with the next project; Import closes the same number.
     files_.Closed = [this](ui::FileMode mode, int number) {
-        if (const auto kind = commandOf(mode, number)) forget(*kind);
+        const auto kind = commandOf(mode, number);
+        if (kind && kind != Kind::Open) forget(*kind);
     };
-    form_.SelectionRefused = [this] { scoresTooOld_ = true; };
+    form_.ProjectStepTaken.Join(this, [this](ProjectStep step, const std::string&) { noteStep(step); });
+    form_.SelectionRefused = [this](SelectionObstacle obstacle) { obstacle_ = obstacle; };
 }
 
 FormWatch::~FormWatch() {
     files_.Closed = nullptr;
+    form_.ProjectStepTaken.Leave(this);
     form_.SelectionRefused = nullptr;
 }
 
+/// New and Open end what a failed opening has left in the window. What it has left open stays so.
+void FormWatch::noteStep(ProjectStep step) {
+    if (step != ProjectStep::Left) return;
+    if (!readingIsBlocked()) return forget(Kind::Open);
+    for (FailedCommand& failure : failures_) failure.IsInView = false;
+}
+
+/// A save under another name, or New, has given the project another path.
+void FormWatch::followSavesTo() {
+    for (FailedCommand& failure : failures_) {
+        if (failure.SavesTo != form_.Global().ProjectFileName) failure.SavesTo.clear();
+    }
+}
+
 FailedCommand FormWatch::failureOf(const ui::FileFault& fault, Kind kind) const {
-    FailedCommand failure{kind, fault.Path, fault.Line, fault.Error.Description};
+    FailedCommand failure{kind, fault.Path, fault.Line, fault.Error.Description, fault.ReadWhole};
     if (kind == Kind::Open) failure.SavesTo = form_.Global().ProjectFileName;
     return failure;
 }
 
 void FormWatch::look(bool programEnds) {
-    scoresTooOld_ = scoresTooOld_ && form_.Global().ScoresCalculated && form_.CurrentMainTab != page::Scores;
+    lookAtObstacle();
+    followSavesTo();
     const auto fault = files_.LastFault();
     if (!fault) return;
     files_.ClearLastFault();
     auto kind = commandOf(fault->Mode, fault->Number);
     if (!kind) return;
     if (kind == Kind::Open && programEnds) kind = Kind::Import;
-    forget(*kind);
-    failures_.insert(failures_.begin(), failureOf(*fault, *kind));
+    // The save that failed half-way stands there already, and tells what no save without a name can change.
+    if (kind == Kind::Save && fault->Path.empty() && savingIsBlocked()) return;
+    note(failureOf(*fault, *kind));
+}
+
+void FormWatch::note(FailedCommand failure) {
+    forget(failure.What);
+    failures_.insert(failures_.begin(), std::move(failure));
+}
+
+/// What is changed on other pages tells when the results come back on view.
+void FormWatch::lookAtObstacle() {
+    if (!obstacle_) return;
+    const int shown = form_.CurrentMainTab;
+    if (!form_.Global().ScoresCalculated || shown == page::Scores) obstacle_ = {};
+    if (obstacle_ && shown == page::Results) obstacle_ = form_.FindSelectionObstacle();
 }
 
 void FormWatch::forget(Kind kind) {

@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "project/project_copy.h"
+#include "project/selection_obstacle.h"
 #include "ui/files.h"
 
 class frmBrenica;
@@ -18,8 +20,10 @@ struct FailedCommand {
     std::string Path;    ///< empty where the command itself named no file
     int Line = 0;        ///< reached in the file, 0 before the first
     std::string Reason;  ///< a description without a full stop
-    std::string
-        SavesTo{};  ///< of a failed opening: the path that a save proposes all the same; empty for none
+    // Of a failed opening.
+    bool ReadWhole = false;  ///< the file was read to its end, and what it holds is at fault
+    bool IsInView = true;    ///< the window still shows what the opening has left
+    std::string SavesTo{};   ///< the path that a save proposes all the same; empty for none
 };
 
 /// Looks on while a form runs and keeps what has gone wrong in silence, for whoever tells the user: each failure as long
@@ -37,21 +41,26 @@ public:
     /// The newest first, one for each kind of command.
     const std::vector<FailedCommand>& failures() const { return failures_; }
     void forget(FailedCommand::Kind kind);
+    /// Keeps a failure that others have seen.
+    void note(FailedCommand failure);
 
     // What a failure has left behind for the rest of the run.
     bool savingIsBlocked() const;
     /// Open, Import and the export of results, which share a file number.
     bool readingIsBlocked() const;
 
-    /// A selection was asked for that the scores are too old for; until they are new, or somebody forgets it.
-    bool scoresAreTooOld() const { return scoresTooOld_; }
-    void forgetOldScores() { scoresTooOld_ = false; }
+    /// What has kept a selection from running, until it is out of the way or somebody forgets it.
+    std::optional<SelectionObstacle> selectionObstacle() const { return obstacle_; }
+    void forgetObstacle() { obstacle_ = {}; }
 
 private:
+    void noteStep(ProjectStep step);
+    void followSavesTo();
+    void lookAtObstacle();
     FailedCommand failureOf(const ui::FileFault& fault, FailedCommand::Kind kind) const;
 
     frmBrenica& form_;
     ui::Files& files_;
     std::vector<FailedCommand> failures_;
-    bool scoresTooOld_ = false;
+    std::optional<SelectionObstacle> obstacle_;
 };

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -16,6 +17,7 @@
 #include "project/modGlobal.h"
 #include "project/project_copy.h"
 #include "project/project_file_writer.h"
+#include "project/selection_obstacle.h"
 #include "scoring/export_tables.h"
 #include "ui/event.h"
 #include "ui/files.h"
@@ -62,8 +64,12 @@ public:
     /// The lines of a project file, in their order.
     void writeLines(const TakeFileLine& take) const;
 
+    // project/recalculation.cpp
+    /// Labels and box of the user-defined bins follow the breakpoints, if there are any.
+    void rebuildUserBins();
+
     // project/project_copy.cpp: what stands beside the described commands, for whoever keeps copies of the project
-    ui::Event<ProjectStep, const std::string&> ProjectStepTaken;
+    ui::SharedEvent<ProjectStep, const std::string&> ProjectStepTaken;
     /// Raises what a save would raise where lists and tables are out of step.
     ProjectCopy TakeCopy() const;
     /// Project > Open with this file chosen, the save question included. Does nothing once a file has failed to open
@@ -192,9 +198,10 @@ public:
 
     // selection/complementarity.cpp
     void cmdComplement_Click();
-    /// Fires in the place of a selection when entries were added to the lists since the last scores, which Aggregate
-    /// Scores would bring up to date. The form says nothing; whoever watches may.
-    ui::Event<> SelectionRefused;
+    /// Fires in the place of a selection that something keeps from running. The form says nothing; whoever watches may.
+    ui::Event<SelectionObstacle> SelectionRefused;
+    /// What would keep a selection with the levels of the last one from running to its end.
+    std::optional<SelectionObstacle> FindSelectionObstacle() const;
     void InitComplementarity();
 
     // selection/results_display.cpp
@@ -298,7 +305,6 @@ private:
     void leavePage(int left);
     void enterPage(int entered, int left);
     void calculateTables();
-    void rebuildUserBins();
     void updateAreaTotals();
     void updateAreaTotal(const ui::Grid& units, int count, std::vector<double>& areas, double& total,
                          bool& entered);
@@ -398,7 +404,8 @@ private:
     void appendRecord(int importCase, const std::vector<std::string>& fields);
 
     // selection/complementarity.cpp
-    bool scoresServe() const;
+    bool readsRatings(int threatNumber) const;
+    bool lacksGrades(int species, const std::vector<int>& threatsRead) const;
 
     // selection/results_export.cpp
     void printResult(std::string_view line);

@@ -111,6 +111,9 @@ void frmBrenica::clearLists() {
          {&flxCandidateSpecies, &flxHabitatTypes, &flxJurisUnits, &flxLandUses, &flxBins, &flxFunctions}) {
         grid->Rows(1);
     }
+    // A negative number of new breakpoints takes the row of the headings away.
+    for (int col = 0; col < static_cast<int>(BinHeadings.size()); ++col)
+        flxBins.TextMatrix(0, col, BinHeadings[static_cast<std::size_t>(col)]);
     fraCriteria(CurrentCriteriaTab - 1).Visible(false);
     tabCriteria.SelectedItem(1);
     CurrentCriteriaTab = 1;
@@ -126,10 +129,9 @@ void frmBrenica::clearCriteria() {
     flxJurisUnitHetero.Rows(1);
     optHomeRangeType(0).Value(true);
     HomeRangeType = 0;
-    if (!optHomeRangeType(0).Value()) {  // the answer No has put the former type back on
-        optHomeRangeType(0).Value(true);
-        flxBins.Enabled(false);
-    }
+    if (!optHomeRangeType(0).Value())
+        optHomeRangeType(0).Value(true);  // the answer No has put the former one on
+    flxBins.Enabled(false);
     enableBinControls(false);
     showHomeRangeControls(0);
     cbxDispersalYN.ListIndex(0);

@@ -45,6 +45,7 @@ struct CellInWords {
 enum class ProjectStep {
     Left,    ///< New or Open is about to give the form another project, whatever becomes of that
     Opened,  ///< a file was read; the text is its path
+    Saving,  ///< a file is about to be written, which empties it first; the text is its path
     Saved,   ///< a file was written; the text is its path
     Broken,  ///< a save has failed half-way: the file at the path, the project's own as a rule, is cut short
     GivenUp  ///< the user wants to exit without saving what has changed

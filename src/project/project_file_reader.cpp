@@ -199,9 +199,7 @@ void ProjectFileReader::readUserBins(const Values& values) {
     form_.flxBins.Rows(bins + 1);
     global_.TotalBins = bins;
     fillNames(form_.flxBins, Values(values.begin() + 1, values.end()));
-    if (modFlexGridUtilities::GetColContents(form_.flxBins, 1, form_.UserBinBreakpoints) < 1) return;
-    modGeneralUtilities::ConstructIntervals(form_.UserBinBreakpoints, global_.UserBinLabels);
-    modGeneralUtilities::UpdateComboBox(form_.cbxUserDefBinsHR, global_.UserBinLabels);
+    form_.rebuildUserBins();
 }
 
 /// Version 1 told only whether a unit is used: unused and 0 become "0", used becomes "2", other levels stay.
@@ -212,7 +210,9 @@ std::string_view ProjectFileReader::levelOfVersion1(std::string_view level) cons
     return value == 1 ? DefaultLevelOfUse : level;
 }
 
+/// A list of one blank name reads as no list, but its data lines are there: they are passed over.
 void ProjectFileReader::readLevelsOfUse(const Row& row, Values values) {
+    if (global_.TotalSpecies == 0 || global_.*row.Units == 0) return;
     ui::Grid& levels = form_.flxSummary(row.Member);
     ui::Grid& table = form_.flxSummary(row.SecondMember);
     clip(values, levels);
@@ -236,10 +236,10 @@ void ProjectFileReader::readSummaryColumn(const Row& row, Values values) {
     fillColumn(grid, row.Column, values);
 }
 
-/// Older programs write ratings even where there is no activity to rate.
+/// Passed over without species, too. Older programs write ratings even where there is no activity to rate.
 void ProjectFileReader::readThreatRatings(const Row& row, Values values) {
     const int threats = global_.TotalLandUses;
-    if (threats == 0) return;
+    if (threats == 0 || global_.TotalSpecies == 0) return;
     ui::Grid& bySpecies = form_.flxSummary(row.Member);
     ui::Grid& byThreat = form_.flxSummary(row.SecondMember);
     clip(values, bySpecies);
@@ -254,11 +254,13 @@ void ProjectFileReader::readThreatRatings(const Row& row, Values values) {
     }
 }
 
+/// No species is left without a row by a line that is too short, nor given grades before it is there.
 void ProjectFileReader::readNumberedColumn(const Row& row, Values values) {
     ui::Grid& grid = form_.flxSummary(row.Member);
-    const int count = static_cast<int>(values.size());
+    const int count = std::max(static_cast<int>(values.size()), global_.TotalSpecies);
     if (grid.Rows() - 1 != count) grid.Rows(count + 1);
     fillColumn(grid, column_, values);
+    if (global_.TotalSpecies == 0) grid.Rows(1);
 }
 
 /// A file that cannot be opened fails to the caller as it is. Any later failure leaves the grids as far as they came,
@@ -278,7 +280,8 @@ void frmBrenica::OpenProject(const std::string& path) {
         if (global_.ProjectVersion.empty()) convertVersion1Project();
         ProjectLoading = false;
     } catch (...) {
-        files_.NoteFault({path, lines, CurrentError(), ui::FileMode::Input, OpenFileNumber});
+        const bool readWhole = !files_.IsOpen(OpenFileNumber);
+        files_.NoteFault({path, lines, CurrentError(), ui::FileMode::Input, OpenFileNumber, readWhole});
         ReportError(9999, "Brenica.OpenProject", "");
     }
 }

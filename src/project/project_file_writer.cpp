@@ -78,8 +78,9 @@ FileLine frmBrenica::homeRangeLine() const {
     return line;
 }
 
-/// An error leaves the file as far as it was written, and open.
+/// An error leaves the file as far as it was written, and open; one that is not the disk's is noted beside it.
 void frmBrenica::SaveProject(const std::string& path) try {
+    ProjectStepTaken(ProjectStep::Saving, path);
     files_.Open(path, ui::FileMode::Output, SaveFileNumber);
     std::string text;
     writeLines([&](const FileLine& line) {
@@ -90,6 +91,12 @@ void frmBrenica::SaveProject(const std::string& path) try {
     files_.Close(SaveFileNumber);
     ProjectStepTaken(ProjectStep::Saved, path);
 } catch (...) {
-    if (files_.IsOpen(SaveFileNumber)) ProjectStepTaken(ProjectStep::Broken, path);
+    if (files_.IsOpen(SaveFileNumber)) {
+        const ui::RunTimeError error = CurrentError();
+        succeeds([&] {
+            if (!files_.LastFault()) files_.NoteFault(SaveFileNumber, error);
+        });
+        ProjectStepTaken(ProjectStep::Broken, path);
+    }
     ReportError(9999, "Brenica.SaveProject", "");
 }

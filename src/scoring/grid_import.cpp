@@ -99,7 +99,7 @@ void frmBrenica::appendRecord(int importCase, const std::vector<std::string>& fi
                                       {flxBins, global_.TotalBins},
                                       {flxFunctions, global_.TotalFunctions}};
     const auto& [grid, total] = targets[importCase - 1];
-    const int row = grid.Rows();
+    const int row = std::max(grid.Rows(), 1);  // a list that has lost its headings has no row at all
     total = row;
     switch (importCase) {
         case 1: UpdateOtherSpeciesFlexGrids(1, row - 1); break;
@@ -114,6 +114,6 @@ void frmBrenica::appendRecord(int importCase, const std::vector<std::string>& fi
     const std::vector<std::string> stored = fieldsToStore(importCase, fields, separator());
     for (std::size_t i = 0; i < stored.size(); ++i) grid.TextMatrix(row, static_cast<int>(i) + 1, stored[i]);
     const bool unit = importCase == 2 || importCase == 3;
-    if (unit && !stored.empty() && grid.TextMatrix(row, list::LevelOfUse).empty())
+    if (unit && !stored.empty() && ui::isBlank(grid.TextMatrix(row, list::LevelOfUse)))
         grid.TextMatrix(row, list::LevelOfUse, DefaultLevelOfUse);
 }

@@ -1,5 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Brenica developers
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <algorithm>
+
 #include "entry/modErrorHandling.h"
 #include "project/frmBrenica.h"
 #include "scoring/landscape_reader.h"
@@ -34,33 +36,74 @@ CellPlace startCell(const frmBrenica& form, const method::Failure& failure) {
 
 }  // namespace
 
-/// Whether the scores are those of the species, habitats, zones and activities that there are now. What was added since
-/// they were calculated has blank cells, which no selection can read.
-bool frmBrenica::scoresServe() const {
-    const int species = global_.TotalSpecies;
-    const auto filled = [&](const ui::Grid& grid, int rowsPerSpecies, int col) {
-        for (int row = 1; row <= species * rowsPerSpecies; ++row) {
-            if (ui::isBlank(grid.TextMatrix(row, col))) return false;
+/// A threat to which nobody is exposed is represented by every species: the first pick covers it, and its ratings are
+/// never read.
+bool frmBrenica::readsRatings(int threatNumber) const {
+    if (!(global_.ThreatRepresentation > 0)) return false;
+    const ui::Grid& scores = flxSummary(summary::Vulnerability);
+    for (int species = 1; species <= global_.TotalSpecies; ++species) {
+        const auto score =
+            ui::tryReal(scores.TextMatrix(species, threatNumber + vulnerability::ThreatOffset), separator());
+        if (score && *score > 0) return true;
+    }
+    return false;
+}
+
+/// Whether a grade of a species is blank that a selection in which it takes part reads: what was added to the lists
+/// since the scores has none.
+bool frmBrenica::lacksGrades(int species, const std::vector<int>& threatsRead) const {
+    const auto lacksLevel = [&](int member, int units) {
+        for (int unit = 1; unit <= units; ++unit) {
+            if (ui::isBlank(flxSummary(member).TextMatrix(blockRow(species, units, unit), use::Level)))
+                return true;
         }
-        return true;
+        return false;
     };
-    const auto rated = [&](int col) {
-        return filled(flxSummary(summary::ThreatsBySpecies), global_.TotalLandUses, col);
+    const auto lacksRating = [&](int threatNumber) {
+        const int row = blockRow(species, global_.TotalLandUses, threatNumber);
+        return ui::isBlank(flxSummary(summary::ThreatsBySpecies).TextMatrix(row, threat::Severity)) ||
+               ui::isBlank(flxSummary(summary::ThreatsBySpecies).TextMatrix(row, threat::Recovery)) ||
+               ui::isBlank(flxSummary(summary::ThreatsBySpecies).TextMatrix(row, threat::Proportion));
     };
-    return species > 0 && filled(flxScores(0), 1, score::Aggregate) &&
-           filled(flxSummary(summary::HabitatsBySpecies), global_.TotalHabitatTypes, use::Level) &&
-           filled(flxSummary(summary::JurisUnitsBySpecies), global_.TotalJurisUnits, use::Level) &&
-           rated(threat::Severity) && rated(threat::Recovery) && rated(threat::Proportion);
+    return lacksLevel(summary::HabitatsBySpecies, global_.TotalHabitatTypes) ||
+           lacksLevel(summary::JurisUnitsBySpecies, global_.TotalJurisUnits) ||
+           std::any_of(threatsRead.begin(), threatsRead.end(), lacksRating);
+}
+
+std::optional<SelectionObstacle> frmBrenica::FindSelectionObstacle() const {
+    const int total = global_.TotalSpecies;
+    if (total < 1) return SelectionObstacle::NoSpecies;
+    const auto blankIn = [&](const ui::Grid& grid, int col) {
+        for (int species = 1; species <= total; ++species) {
+            if (ui::isBlank(grid.TextMatrix(species, col))) return true;
+        }
+        return false;
+    };
+    const ui::Grid& vulnerabilities = flxSummary(summary::Vulnerability);
+    if (blankIn(flxScores(0), score::Aggregate)) return SelectionObstacle::OldScores;
+    if (blankIn(vulnerabilities, vulnerability::ConservationStatus)) return SelectionObstacle::NoStatus;
+
+    std::vector<int> threatsRead;
+    for (int t = 1; t <= global_.TotalLandUses; ++t) {
+        if (readsRatings(t)) threatsRead.push_back(t);
+    }
+    for (int species = 1; species <= total; ++species) {
+        const auto status =
+            ui::tryReal(vulnerabilities.TextMatrix(species, vulnerability::ConservationStatus), separator());
+        const bool takesPart = status && *status <= global_.ConservationStatusRepresentation;
+        if (takesPart && lacksGrades(species, threatsRead)) return SelectionObstacle::OldScores;
+    }
+    return {};
 }
 
 /// Runs one whole selection, from the levels in the boxes to the report.
 void frmBrenica::cmdComplement_Click() try {
     const ui::WaitPointer wait(platform());
     if (!global_.ScoresCalculated) return;
-    if (!scoresServe()) return SelectionRefused();
     global_.ErrorMargin = txtErrorMargin.Real();
     global_.ThreatRepresentation = txtThreatRep.Real();
     global_.ConservationStatusRepresentation = txtCCSRep.Real();
+    if (const auto obstacle = FindSelectionObstacle()) return SelectionRefused(*obstacle);
     for (ui::Grid& grid : flxCompResults) grid.Rows(1);
 
     const method::Landscape landscape = landscapeOf(*this, global_);

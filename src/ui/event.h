@@ -3,6 +3,7 @@
 #pragma once
 
 #include <functional>
+#include <map>
 #include <utility>
 
 namespace ui {
@@ -22,6 +23,22 @@ public:
 
 private:
     std::function<void(Arguments...)> handler_;
+};
+
+/// An event that several listen to, each under its own address until it leaves.
+template <class... Arguments>
+class SharedEvent {
+public:
+    void Join(const void* listener, std::function<void(Arguments...)> handler) {
+        handlers_[listener] = std::move(handler);
+    }
+    void Leave(const void* listener) { handlers_.erase(listener); }
+    void operator()(Arguments... arguments) const {
+        for (const auto& [listener, handler] : handlers_) handler(arguments...);
+    }
+
+private:
+    std::map<const void*, std::function<void(Arguments...)>> handlers_;
 };
 
 }  // namespace ui

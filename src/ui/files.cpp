@@ -105,6 +105,11 @@ void Files::load(OpenFile& file) {
     }
 }
 
+void Files::NoteFault(int number, const RunTimeError& error) {
+    const OpenFile& file = find(number);
+    NoteFault({file.Path, file.Line, error, file.Mode, file.Number});
+}
+
 void Files::Open(const std::string& path, FileMode mode, int number) {
     OpenFile file;
     file.Path = path;

@@ -26,6 +26,7 @@ struct FileFault {
     RunTimeError Error;
     FileMode Mode = FileMode::Input;
     int Number = 0;
+    bool ReadWhole = false;  ///< the file was read to its end and closed; what it holds is at fault
 };
 
 /// Files opened under a number, as long as they are used. Reading gives UTF-8 without a byte order mark, whatever the
@@ -61,6 +62,8 @@ public:
     int LinesEnded() const { return linesEnded_; }
     /// Keeps a failure that whoever reads the file found in what it holds.
     void NoteFault(FileFault fault) { lastFault_ = std::move(fault); }
+    /// The same at the place that an open file has reached.
+    void NoteFault(int number, const RunTimeError& error);
 
 private:
     struct CloseStream {

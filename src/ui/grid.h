@@ -233,7 +233,6 @@ private:
     void keepCurrentCellInside();
     CellTable::Range selection() const;
     void changeFormats(const std::function<void(CellFormat&)>& change);
-    void setCurrent(int row, int col);
     bool mayLeaveFor(int row, int col);
     bool isBody(int row, int col) const {
         return contains(row, col) && row >= fixedRows_ && col >= fixedCols_;

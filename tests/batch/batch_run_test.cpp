@@ -10,6 +10,12 @@ using testing::StartsWith;
 
 class BatchRunExit : public BatchTest {};
 
+TEST_F(BatchRunExit, AProjectThatCannotBeShownWholeIsNamedWithoutALine) {
+    EXPECT_EQ(run(ProjectText(1, 1, 1, 1).set("Data Quality1", "x")), ExitUnreadableProject);
+    EXPECT_THAT(err.str(), StartsWith("brenica-batch: " + projectPath() + ": "));
+    EXPECT_THAT(err.str(), HasSubstr("Type mismatch"));
+}
+
 TEST_F(BatchRunExit, DonePrintsTheSuiteAndWhatStaysUncovered) {
     EXPECT_EQ(run(oneCoversAll()), ExitDone);
     EXPECT_EQ(

@@ -376,9 +376,14 @@ TEST_F(UrgencyRule, DoesNotLookAtOtherColumns) {
     EXPECT_EQ(form.flxLandUses.TextMatrix(1, 3), "0.4");
 }
 
-TEST_F(UrgencyRule, FailsOnATextThatIsNoNumber) {
-    enter("often", "0.4");
-    form.flxLandUses.UserMoveTo(1, 2);
-    const auto failure = failureOf([&] { form.flxLandUses.UserMoveTo(2, 1); });
-    EXPECT_EQ(failure.Description, reportOf("Brenica.flxLandUses_BeforeRowColChange", 13, "Type mismatch"));
+TEST_F(UrgencyRule, PassesOverATextThatIsNoNumber) {
+    for (const auto& [urgency, probability] :
+         {std::pair{"often", "0.4"}, {"3", "50%"}, {"3", "-99999999999"}, {"Urgency", "Probability"}}) {
+        enter(urgency, probability);
+        form.flxLandUses.UserMoveTo(1, 2);
+        EXPECT_NO_THROW(form.flxLandUses.UserMoveTo(2, 1)) << urgency << ' ' << probability;
+        EXPECT_THAT(platform.Transcript, IsEmpty());
+        EXPECT_EQ(form.flxLandUses.TextMatrix(1, 3), probability);
+        EXPECT_EQ(form.flxLandUses.Row(), 2);
+    }
 }

@@ -51,7 +51,7 @@ TEST_F(FormWatching, NothingIsKeptWhileAllGoesWell) {
     EXPECT_THAT(watch.failures(), IsEmpty());
     EXPECT_FALSE(watch.savingIsBlocked());
     EXPECT_FALSE(watch.readingIsBlocked());
-    EXPECT_FALSE(watch.scoresAreTooOld());
+    EXPECT_FALSE(watch.selectionObstacle());
 }
 
 TEST_F(FormWatching, ASaveThatCannotBeginBlocksNothing) {
@@ -121,6 +121,32 @@ TEST_F(FormWatching, AFileThatCannotBeReadToItsEndBlocksReading) {
     EXPECT_EQ(watch.failures()[0].Reason, "File already open");
 }
 
+TEST_F(FormWatching, NewEndsWhatAFailedOpeningHasLeft) {
+    saveTo(path_);
+    openFrom(folder.file("missing.brn"));
+    form.mnuNewProject.UserClick();
+    EXPECT_THAT(watch.failures(), IsEmpty());
+}
+
+TEST_F(FormWatching, ANewThatIsNotCarriedOutEndsNothing) {
+    openFrom(folder.file("missing.brn"));
+    addSpecies({"Ant"});
+    platform.Answers = {"yes"};  // and Cancel in the dialogue
+    form.mnuNewProject.UserClick();
+    EXPECT_EQ(only().What, Kind::Open);
+}
+
+TEST_F(FormWatching, AnImportSaysNothingOfAFailedOpening) {
+    openFrom(folder.file("missing.brn"));
+    writeFile(folder.file("species.txt"), "Ant\r\n");
+    platform.Files = {folder.file("species.txt")};
+    platform.Answers = {"no"};
+    form.mnuImportData.UserClick();
+    watch.look();
+    EXPECT_EQ(global.TotalSpecies, 1);
+    EXPECT_EQ(only().What, Kind::Open);
+}
+
 TEST_F(FormWatching, AnExportOfResultsThatFailsHalfWayBlocksReading) {
     fail(Operation::Write, ui::ErrorNumber::DiskFull);
     exportResults(folder.file("results.txt"));
@@ -148,6 +174,37 @@ TEST_F(FormWatching, AnImportAndATableThatEndTheProgramAreNamed) {
     EXPECT_EQ(watch.failures().front().Path, folder.file("missing/table.txt"));
 }
 
+TEST_F(FormWatching, ASaveThatFailsByItsTablesIsOneThatFailedHalfWay) {
+    open(ProjectText(2, 1, 1, 1));
+    form.flxSummary(summary::Functionality).Rows(2);
+    saveTo(path_);
+    EXPECT_EQ(only().What, Kind::Save);
+    EXPECT_EQ(only().Path, path_);
+    EXPECT_EQ(only().Reason, "Subscript out of range");
+    EXPECT_EQ(only().Line, 24) << "lines that stand in the file";
+    EXPECT_TRUE(watch.savingIsBlocked());
+}
+
+TEST_F(FormWatching, ASaveWithoutANameTakesNothingBackThatABrokenOneHasTold) {
+    addSpecies({"Ant"});
+    fail(Operation::Write, ui::ErrorNumber::DiskFull);
+    saveTo(path_);
+    mend();
+    platform.Answers = {"yes"};
+    platform.Files = {path_};
+    form.mnuExit.UserClick();
+    watch.look();
+    EXPECT_EQ(only().Path, path_);
+    EXPECT_EQ(only().Reason, "Disk full");
+}
+
+TEST_F(FormWatching, AFileThatWasReadWholeIsToldAsSuch) {
+    writeFile(path_, ProjectText(1, 1, 1, 1).set("Data Quality1", "x").text());
+    openFrom(path_);
+    EXPECT_TRUE(only().ReadWhole);
+    EXPECT_FALSE(watch.readingIsBlocked());
+}
+
 TEST_F(FormWatching, ACancelledCommandIsNoFailure) {
     form.mnuSaveProject.UserClick();
     watch.look();
@@ -164,26 +221,61 @@ TEST_F(FormWatching, AFailureCanBeForgotten) {
     EXPECT_THAT(watch.failures(), IsEmpty());
 }
 
-TEST_F(FormWatching, OldScoresAreNamedUntilTheScoresPageIsShown) {
-    open(ProjectText(2, 2, 2, 2));
-    walkTo(7);
-    form.SelectionRefused();
-    watch.look();
-    EXPECT_TRUE(watch.scoresAreTooOld());
+/// A selection that was refused since a species was added after the scores.
+class RefusedSelection : public FormWatching {
+protected:
+    void SetUp() override {
+        open(ProjectText(2, 2, 2, 2));
+        walkTo(7);
+        goTo(1);
+        addSpecies({"Newt"});
+        goTo(4);
+        goTo(7);
+        form.cmdComplement.UserClick();
+        watch.look();
+        ASSERT_EQ(watch.selectionObstacle(), SelectionObstacle::OldScores);
+    }
+};
+
+TEST_F(RefusedSelection, IsNamedUntilTheScoresPageIsShown) {
     goTo(4);
     watch.look();
-    EXPECT_TRUE(watch.scoresAreTooOld());
+    EXPECT_TRUE(watch.selectionObstacle());
+    goTo(1);
+    type(form.txtRemoveSpeciesIndex, "3");
+    form.cmdRemoveSpecies.UserClick();
     goTo(6);
     watch.look();
-    EXPECT_FALSE(watch.scoresAreTooOld());
+    EXPECT_FALSE(watch.selectionObstacle());
 }
 
-TEST_F(FormWatching, OldScoresGoWithTheirProject) {
-    open(ProjectText(2, 2, 2, 2));
-    walkTo(7);
-    form.SelectionRefused();
+TEST_F(RefusedSelection, IsNamedUntilTheResultsPageFindsNothingInItsWay) {
+    goTo(1);
+    type(form.txtRemoveSpeciesIndex, "3");
+    form.cmdRemoveSpecies.UserClick();
+    watch.look();
+    EXPECT_TRUE(watch.selectionObstacle());
+    goTo(4);
+    goTo(7);
+    watch.look();
+    EXPECT_FALSE(watch.selectionObstacle());
+}
+
+TEST_F(RefusedSelection, TellsTheReasonThatThereIsNow) {
+    goTo(1);
+    for (int i = 0; i < 3; ++i) {
+        type(form.txtRemoveSpeciesIndex, "1");
+        form.cmdRemoveSpecies.UserClick();
+    }
+    goTo(4);
+    goTo(7);
+    watch.look();
+    EXPECT_EQ(watch.selectionObstacle(), SelectionObstacle::NoSpecies);
+}
+
+TEST_F(RefusedSelection, GoesWithItsProject) {
     form.ProjectChanged = false;
     form.mnuNewProject.UserClick();
     watch.look();
-    EXPECT_FALSE(watch.scoresAreTooOld());
+    EXPECT_FALSE(watch.selectionObstacle());
 }

@@ -13,9 +13,8 @@ protected:
     std::vector<std::pair<ProjectStep, std::string>> steps;
 
     void SetUp() override {
-        form.ProjectStepTaken = [this](ProjectStep step, const std::string& path) {
-            steps.emplace_back(step, path);
-        };
+        form.ProjectStepTaken.Join(
+            this, [this](ProjectStep step, const std::string& path) { steps.emplace_back(step, path); });
     }
     /// What a save would lose, as "grid row column text".
     std::vector<std::string> lost() const {
@@ -134,7 +133,7 @@ TEST_F(ProjectCopyTest, StepsAreTold) {
     const std::string path = folder.file("project.brn");
     platform.Files = {path};
     form.mnuSaveProject.UserClick();
-    EXPECT_THAT(steps, ElementsAre(Pair(ProjectStep::Saved, path)));
+    EXPECT_THAT(steps, ElementsAre(Pair(ProjectStep::Saving, path), Pair(ProjectStep::Saved, path)));
     steps.clear();
     form.UserOpenFile(path);
     EXPECT_THAT(steps, ElementsAre(Pair(ProjectStep::Left, ""), Pair(ProjectStep::Opened, path)));
@@ -146,7 +145,8 @@ TEST_F(ProjectCopyTest, StepsAreTold) {
 TEST_F(ProjectCopyTest, FailedSavesAndOpensAreNotToldAsDone) {
     platform.Files = {folder.file("none/project.brn")};
     form.mnuSaveProject.UserClick();
-    EXPECT_THAT(steps, IsEmpty());
+    EXPECT_THAT(steps, ElementsAre(Pair(ProjectStep::Saving, folder.file("none/project.brn"))));
+    steps.clear();
     form.UserOpenFile(folder.file("none.brn"));
     EXPECT_THAT(steps, ElementsAre(Pair(ProjectStep::Left, "")));
 }
@@ -156,7 +156,8 @@ TEST_F(ProjectCopyTest, ExitIsGivingUpOnlyAfterNo) {
     platform.Answers = {"yes"};
     platform.Files = {folder.file("project.brn")};
     form.mnuExit.UserClick();
-    EXPECT_THAT(steps, IsEmpty());
+    EXPECT_THAT(steps, ElementsAre(Pair(ProjectStep::Saving, "")));
+    steps.clear();
     platform.Answers = {"no"};
     form.mnuExit.UserClick();
     EXPECT_THAT(steps, ElementsAre(Pair(ProjectStep::GivenUp, "")));

@@ -306,6 +306,85 @@ TEST_F(ProjectFile, PassesOverRatingsWhileThereAreNoActivities) {
     EXPECT_EQ(save(), sound);
 }
 
+/// What the saved file says when it is opened, and saved again.
+TEST_F(ProjectFile, OpensAgainWithAListOfOneBlankName) {
+    struct Shape {
+        std::vector<std::string> Species, Habitats, Zones, Activities;
+    };
+    for (const Shape& shape :
+         std::vector<Shape>{{{"Ant", "Bee"}, {""}, {}, {}},
+                            {{"Ant"}, {}, {""}, {}},
+                            {{"Ant", "Bee"}, {"Reed"}, {""}, {"Dams"}},
+                            {{""}, {"Reed", "Bog"}, {"North", "South"}, {"Dams", "Roads"}},
+                            {{"Ant"}, {"Reed"}, {"North"}, {""}}}) {
+        form.ProjectChanged = false;
+        form.mnuNewProject.UserClick();
+        addSpecies(shape.Species);
+        addHabitats(shape.Habitats);
+        addZones(shape.Zones);
+        addActivities(shape.Activities);
+        goTo(3);
+        form.flxHabitatHetero.UserEditCell(1, 1, "3");
+        form.flxJurisUnitHetero.UserEditCell(1, 1, "3");
+        goTo(1);
+        const std::string saved = save();
+        openText(saved);
+        EXPECT_FALSE(form.ProjectLoading);
+        EXPECT_FALSE(files.IsOpen(1));
+        EXPECT_FALSE(files.LastFault());
+        const auto there = [](const std::vector<std::string>& names) {
+            return names.size() == 1 && names[0].empty() ? 0 : static_cast<int>(names.size());
+        };
+        EXPECT_EQ(global.TotalSpecies, there(shape.Species));
+        EXPECT_EQ(global.TotalHabitatTypes, there(shape.Habitats));
+        EXPECT_EQ(global.TotalJurisUnits, there(shape.Zones));
+        EXPECT_EQ(global.TotalLandUses, there(shape.Activities));
+    }
+}
+
+TEST_F(ProjectFile, GivesNoGradesToASpeciesThatIsNotThereYet) {
+    ProjectText project(1, 1, 1, 2);
+    for (const char* key : {"VulnerabilitybySpecies Severity", "VulnerabilitybySpecies Recovery",
+                            "VulnerabilitybySpecies Proportion"})
+        project.set(key, "1,2");
+    open(project.set("Common Name", "")
+             .set("Function1", "3")
+             .set("Socio-Econ1", "2")
+             .set("Data Quality1", "4"));
+    EXPECT_EQ(global.TotalSpecies, 0);
+    addSpecies({"Ant"});
+    for (int activity = 1; activity <= 2; ++activity) {
+        for (const int col : {threat::Severity, threat::Recovery, threat::Proportion})
+            EXPECT_EQ(form.flxSummary(summary::ThreatsBySpecies).TextMatrix(activity, col), "");
+    }
+    for (const int member : {summary::Functionality, summary::SocioEcon, summary::DataQuality})
+        EXPECT_EQ(form.flxSummary(member).TextMatrix(1, 1), "") << member;
+}
+
+TEST_F(ProjectFile, ANameWithACommaCostsPlacesButNoRow) {
+    ProjectText project(3, 1, 1, 1);
+    open(project.set("Common Name", "Ant, red,Bee,Cat"));
+    ASSERT_EQ(global.TotalSpecies, 4);
+    EXPECT_EQ(form.flxSummary(summary::Functionality).Rows(), 5);
+    EXPECT_NO_THROW(form.flxCandidateSpecies.UserEditCell(4, list::Name, "Lynx"));
+    EXPECT_THAT(save(), HasSubstr("\r\nFunction1 = 1,1,1,\r\n"));
+    EXPECT_FALSE(files.IsOpen(2));
+}
+
+TEST_F(ProjectFile, TheLastLineOfBinsIsTheOneThatCounts) {
+    std::string text = ProjectText(2, 1, 1, 1)
+                           .set("Home-range definition", "user-defined bins,1,2")
+                           .set("Home ranges", "2+ km2,1 - 2 km2")
+                           .text();
+    const std::string line = "Home-range definition = ";
+    text.insert(text.find(line), line + "user-defined bins,5,10\r\n");
+    openText(text);
+    EXPECT_EQ(form.cbxUserDefBinsHR.ListCount(), 2);
+    walkTo(4);
+    EXPECT_EQ(form.flxSummary(summary::Area).TextMatrix(1, area::HomeRange), "2+ km2");
+    EXPECT_EQ(form.flxSummary(summary::Area).TextMatrix(2, area::HomeRange), "1 - 2 km2");
+}
+
 /// Files without a version line.
 class Version1File : public FormTest {
 protected:

@@ -182,7 +182,7 @@ class frmBrenica(Lists, Criteria, Project, Scoring, Selection):
         if page == 1:
             self.UpdateSpeciesList()
         elif page == 2 and self.HomeRangeType == 2:
-            self.readBreakpoints(clear=True)
+            self.readBreakpoints()
             self.readAreas()
         elif page == 3 and self.TotalSpecies >= 1 and self.CurrentCriteriaTab == 3:
             self.flxSummary[5].TextMatrix(self.CurrentSpeciesIndex, 1, self.txtCCS.Text)

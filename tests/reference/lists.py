@@ -369,15 +369,14 @@ class Lists:
         """Set the kind; the controls that it enables and shows hold no data."""
         self.HomeRangeType = index
 
-    def readBreakpoints(self, clear):
+    def readBreakpoints(self):
         """Breakpoints into labels and into the list of the user-defined bins."""
         breakpoints = GetColContents(self.flxBins, 1)
         if breakpoints is None:
             return
         self.UserBinBreakpoints = breakpoints
         self.UserBinLabels = ConstructIntervals(breakpoints)
-        if clear:
-            self.cbxUserDefBinsHR.Clear()
+        self.cbxUserDefBinsHR.Clear()
         UpdateComboBox(self.cbxUserDefBinsHR, self.UserBinLabels)
 
     @staticmethod

@@ -165,21 +165,24 @@ class Project:
         return action
 
     def grades(self, grid):
-        """A numbered line into its column; the grid takes the line's length."""
+        """A numbered line into its column; the grid takes the line's length, but has a row for each species."""
 
         def action(values, col):
-            if grid.Rows - 1 != len(values):
-                grid.Rows = len(values) + 1
+            rows = max(len(values), self.TotalSpecies) + 1
+            if grid.Rows != rows:
+                grid.Rows = rows
             for i, value in enumerate(values, 1):
                 grid.TextMatrix(i, col, value)
+            if self.TotalSpecies == 0:
+                grid.Rows = 1
 
         return action
 
     def ratings(self, colBySpecies, colByThreat):
-        """Ratings by species and then by activity, into both orders; passed over without activities."""
+        """Ratings by species and then by activity, into both orders; passed over where one of the two is missing."""
 
         def action(values, _):
-            if self.TotalLandUses == 0:
+            if self.TotalLandUses == 0 or self.TotalSpecies == 0:
                 return
             bySpecies, byThreat = self.flxSummary[6], self.flxSummary[7]
             values = self.clipped(values, bySpecies)
@@ -251,7 +254,7 @@ class Project:
             self.flxBins.Rows = len(values)
             self.TotalBins = len(values) - 1
             self.fillList(self.flxBins, values[1:])
-            self.readBreakpoints(clear=False)
+            self.readBreakpoints()
         self.UpdateHRInfo(kind)
 
     def readHabitatLevels(self, values, _):
@@ -263,7 +266,9 @@ class Project:
         self.readLevels(values, self.flxSummary[3], self.flxSummary[1], self.TotalJurisUnits)
 
     def readLevels(self, values, long, wide, count):
-        """Levels into the long and the wide table; version 1 knew only 0 and 1."""
+        """Levels into the long and the wide table; version 1 knew only 0 and 1. Passed over without species or units."""
+        if self.TotalSpecies == 0 or count == 0:
+            return
         s = unit = 1
         for i, value in enumerate(self.clipped(values, long), 1):
             if self.ProjectVersion == "":

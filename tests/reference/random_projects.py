@@ -15,7 +15,7 @@ from dataclasses import dataclass, field
 DEFAULT_BINS = ("0 - 1 km2", "1 - 10 km2", "10 - 25 km2", "25 - 50 km2", "50 - 100 km2", "100+ km2")
 WORDS = ("Wolf", "Lynx", "Otter", "Marsh", "Oak", "River", "Dry", "Upper", "Crane", "Logging", "Dam", "Peat",
          "Éland", "Straße", "Łoś", "Ωmega", "Niño", "森林", "O'Hara", 'the "old"', "a=b", "back\\slash", "K-2")
-STATES = ("removal", "old areas", "no activities")
+STATES = ("removal", "old areas", "no activities", "list of one blank", "comma in a name", "two lines of bins")
 EXACT_LENGTHS = (19, 20, 21, 25, 26, 27, 28, 29, 40)
 
 
@@ -68,18 +68,19 @@ class Maker:
         self.A, self.F = rng.randint(1, 6), rng.randint(1, 7)
         levels = self.makeLevels()
         lines = self.makeLines(float(levels.get("conservation-status", "1")))
-        if kind == "gap":
-            self.addGaps(lines)
-        elif kind == "blank":
-            self.blankNames(lines)
-        elif kind == "malformed":
-            lines = self.breakFile(lines)
-        elif kind == "removal":
-            self.blankForRemoval(lines)
-        elif kind == "old areas":
-            self.shortenAreas(lines)
-        elif kind == "no activities":
-            self.takeActivitiesAway(lines)
+        spoil = {
+            "gap": self.addGaps,
+            "blank": self.blankNames,
+            "malformed": self.breakFile,
+            "removal": self.blankForRemoval,
+            "old areas": self.shortenAreas,
+            "no activities": self.takeActivitiesAway,
+            "list of one blank": self.blankList,
+            "comma in a name": self.commaInName,
+            "two lines of bins": self.repeatBins,
+        }
+        if kind in spoil:
+            lines = spoil[kind](lines) or lines
         agreed = ("yes",) if kind == "removal" else ("yes", "yes", "no")
         answers = [rng.choice(agreed) for _ in range(self.questions)] + self.makeAnswers()
         return Case(number, kind, self.encode(lines, kind), levels, answers, self.version, self.notes)
@@ -274,6 +275,26 @@ class Maker:
                 last = line
                 self.notes.append(f"{key} at the end")
 
+    def blankList(self, lines):
+        """A list of one blank name is written as none; the data lines behind it stay."""
+        key = self.rng.choice(("Common Name", "Habitat Type", "Jurisdictional Unit", "Land Use"))
+        self.values(lines, key)[:] = [""]
+        self.notes.append(f"{key} of one blank")
+
+    def commaInName(self, lines):
+        """A comma makes two entries of one; every later value of the list moves."""
+        key = self.rng.choice(("Common Name", "Common Name", "Habitat Type", "Jurisdictional Unit", "Land Use"))
+        values = self.values(lines, key)
+        values[self.rng.randrange(len(values))] = "Ant, red"
+        self.notes.append(f"comma in {key}")
+
+    def repeatBins(self, lines):
+        """Other breakpoints stand before those that count."""
+        definition = next(line for line in lines if line[0] == "Home-range definition")
+        before = ["Home-range definition", ["user-defined bins", "5", "10"]]
+        lines.insert(lines.index(definition), before)
+        self.notes.append("bins before the bins")
+
     def breakFile(self, lines):
         """One or two faults of the file itself."""
         for fault in self.rng.sample(
@@ -328,6 +349,8 @@ class Maker:
 
     def renumber(self, lines):
         numbered = [line for line in lines if line[0][-1:].isdigit()]
+        if not numbered:
+            return lines
         line = self.rng.choice(numbered)
         stem = line[0].rstrip("0123456789")
         line[0] = stem + self.rng.choice(("", "0", "99", "X", " 2", "1.5", "-1", "007", "2 3", "1e0"))

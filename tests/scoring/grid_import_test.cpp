@@ -140,10 +140,39 @@ TEST_F(GridImport, TakesABreakpointOrAFunctionFromTheOnlyOrTheSecondField) {
 TEST_F(GridImport, AUnitWithoutALevelOfUseGetsTheOneOfAnAddedUnit) {
     for (const int kind : {Habitats, Zones}) {
         openList(kind);
-        import("1\tBog\t12\t\r\nFen\t3\t\r\nMoor\t3\t0\r\nHeath\t\r\n1\t2\t3\t4\t5\r\n");
+        import("1\tBog\t12\t\r\nFen\t3\t\r\nMoor\t3\t0\r\nHeath\t\r\nMire\t3\t \r\n1\t2\t3\t4\t5\r\n");
         EXPECT_THAT(columnOf(list(kind), list::LevelOfUse),
-                    ElementsAre("Level of Use", "2", "2", "0", "2", ""));
+                    ElementsAre("Level of Use", "2", "2", "0", "2", "2", ""));
     }
+}
+
+TEST_F(GridImport, ARowForAHeadingTextAsAProbabilityIsLeftInPeace) {
+    openList(Activities);
+    import("No.\tHuman Activity\tUrgency\tProbability of occurence\r\n1\tDams\t1\t50%\r\n");
+    for (const int row : {1, 2}) {
+        for (const int col : {2, 3}) {
+            form.flxLandUses.UserMoveTo(row, col);
+            EXPECT_NO_THROW(form.flxLandUses.UserMoveTo(3 - row, 1));
+        }
+    }
+    EXPECT_NO_THROW(form.optLandChar(Habitats).UserClick());
+}
+
+TEST_F(GridImport, TheFirstBreakpointIsOneAlsoWhereTheHeadingsWereLost) {
+    openList(Bins);
+    form.optHomeRangeType(2).UserClick();
+    form.txtTotalBins.SelStart(0);
+    form.txtTotalBins.SelLength(1);
+    form.txtTotalBins.UserPaste("-1");
+    form.cmdUpdateBins.UserClick();
+    ASSERT_EQ(form.flxBins.Rows(), 0);
+    import("5\r\n10\r\n");
+    EXPECT_EQ(global.TotalBins, 2);
+    EXPECT_THAT(columnOf(form.flxBins, list::Name), ElementsAre("", "5", "10"));
+    EXPECT_THAT(save(), testing::HasSubstr("user-defined bins,5,10\r\n"));
+    form.ProjectChanged = false;
+    form.mnuNewProject.UserClick();
+    EXPECT_THAT(rowOf(form.flxBins, 0), ElementsAre("No.", "Breakpoint"));
 }
 
 TEST_F(GridImport, FitsTheListAsAnAdditionDoes) {

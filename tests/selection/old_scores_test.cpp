@@ -10,9 +10,13 @@ using testing::IsEmpty;
 class OldScores : public SelectionTest {
 protected:
     int Refused = 0;
+    SelectionObstacle Obstacle = SelectionObstacle::OldScores;
 
     void SetUp() override {
-        form.SelectionRefused = [this] { ++Refused; };
+        form.SelectionRefused = [this](SelectionObstacle obstacle) {
+            ++Refused;
+            Obstacle = obstacle;
+        };
     }
     void removeSpecies(int row) {
         type(form.txtRemoveSpeciesIndex, std::to_string(row));
@@ -25,8 +29,29 @@ protected:
         ASSERT_THAT(suite(), ElementsAre("Common Name", "Species 1", "Species 2", "Species 3"));
         goTo(page);
     }
+    void addActivity(const std::string& name) {
+        addActivities({name});
+        ASSERT_TRUE(form.flxLandUses.UserEditCell(2, list::Urgency, "1"));
+        ASSERT_TRUE(form.flxLandUses.UserEditCell(2, list::Probability, "1"));
+    }
+    /// Grades a species on the second activity, as many of the three ratings as are asked for.
+    void rate(int species, const std::string& grade, int ratings) {
+        goTo(3);
+        form.cbxSpeciesName.UserChoose(species - 1);
+        for (int col = 1; col <= ratings; ++col)
+            ASSERT_TRUE(form.flxLandUsesVulnerability.UserEditCell(2, col, grade));
+    }
+    void expectSuite(int pageBefore) {
+        goTo(pageBefore);
+        goTo(7);
+        Refused = 0;
+        platform.Transcript.clear();
+        EXPECT_NO_THROW(select());
+        EXPECT_EQ(Refused, 0);
+        EXPECT_EQ(textsOf("Selection Report").size(), 1U);
+    }
     /// Presses the command, which must leave everything as it was but tell whoever watches.
-    void expectRefusal(int pageBefore) {
+    void expectRefusal(int pageBefore, SelectionObstacle obstacle = SelectionObstacle::OldScores) {
         goTo(pageBefore);
         goTo(7);
         ASSERT_TRUE(form.cmdComplement.Enabled());
@@ -36,6 +61,7 @@ protected:
         Refused = 0;
         select();
         EXPECT_EQ(Refused, 1);
+        EXPECT_EQ(Obstacle, obstacle);
         EXPECT_EQ(suite(), suiteBefore);
         EXPECT_EQ(columnOf(results(), result::Name), passesBefore);
         EXPECT_THAT(platform.Transcript, IsEmpty());
@@ -72,30 +98,69 @@ TEST_F(OldScores, SelectNothingWhileAnAddedZoneHasNoLevels) {
     expectRefusal(4);
 }
 
-TEST_F(OldScores, SelectNothingWhileAnAddedActivityHasNoRatings) {
+/// Nobody is exposed to it, so that the first pick covers it and nobody reads its ratings.
+TEST_F(OldScores, ServeWhileAnAddedActivityHasNoRatingsAtAll) {
     selectAndGoTo(2);
-    addActivities({"Dams"});
-    ASSERT_TRUE(form.flxLandUses.UserEditCell(2, list::Urgency, "1"));
-    ASSERT_TRUE(form.flxLandUses.UserEditCell(2, list::Probability, "1"));
-    for (int species = 1; species <= 3; ++species) {
+    addActivity("Dams");
+    expectSuite(4);
+}
+
+TEST_F(OldScores, SelectNothingWhileAnAddedActivityIsRatedForSomeSpecies) {
+    selectAndGoTo(2);
+    addActivity("Dams");
+    rate(1, "1", 3);
+    for (int species = 2; species <= 3; ++species) {
+        for (int ratings = 0; ratings < 3; ++ratings) {
+            rate(species, "1", ratings);
+            expectRefusal(4);
+        }
+        rate(species, "1", 3);
+    }
+    expectSuite(4);
+}
+
+TEST_F(OldScores, ServeWithBlankRatingsWhereEveryThreatIsRepresentedByAll) {
+    selectAndGoTo(2);
+    addActivity("Dams");
+    rate(1, "1", 3);
+    expectRefusal(4);
+    type(form.txtThreatRep, "0");
+    EXPECT_NO_THROW(select());
+    EXPECT_EQ(textsOf("Selection Report").size(), 1U);
+}
+
+TEST_F(OldScores, ServeWithBlanksOfSpeciesThatTakeNoPart) {
+    openForSelection(oneHabitatEach().set("Conservation Status", "0.2,0.4,0.9"));
+    goTo(2);
+    addHabitats({"Bog"});
+    for (int species = 1; species <= 2; ++species) {
         goTo(3);
         form.cbxSpeciesName.UserChoose(species - 1);
-        for (int col = 1; col <= 3; ++col) {
-            expectRefusal(4);
-            goTo(3);
-            ASSERT_TRUE(form.flxLandUsesVulnerability.UserEditCell(2, col, "1"));
-        }
+        ASSERT_TRUE(form.flxHabitatHetero.UserEditCell(4, 1, "3"));
     }
-    goTo(4);
-    goTo(7);
+    expectRefusal(4);
+    type(form.txtCCSRep, "0.5");
     EXPECT_NO_THROW(select());
-    EXPECT_EQ(Refused, 1) << "the ratings are there, and the old scores do";
+    EXPECT_EQ(textsOf("Selection Report").size(), 1U);
+}
+
+TEST_F(OldScores, SelectNothingWhileASpeciesHasNoConservationStatus) {
+    selectAndGoTo(4);
+    form.tabCriteriaSummary.UserSelectTab(4);
+    form.chkAllowSummaryEdit.UserClick();
+    ASSERT_TRUE(
+        form.flxSummary(summary::Vulnerability).UserEditCell(2, vulnerability::ConservationStatus, ""));
+    expectRefusal(5, SelectionObstacle::NoStatus);
+    goTo(4);
+    ASSERT_TRUE(
+        form.flxSummary(summary::Vulnerability).UserEditCell(2, vulnerability::ConservationStatus, "1"));
+    expectSuite(5);
 }
 
 TEST_F(OldScores, SelectNothingWhenNoSpeciesIsLeft) {
     selectAndGoTo(1);
     for (int i = 0; i < 3; ++i) removeSpecies(1);
-    expectRefusal(4);
+    expectRefusal(4, SelectionObstacle::NoSpecies);
 }
 
 TEST_F(OldScores, ServeAgainAfterAggregateScores) {

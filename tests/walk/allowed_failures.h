@@ -71,21 +71,6 @@ inline constexpr AllowedFailure AllowedFailures[] = {
     // For the same reason it can ask for more rows than there is room for.
     {Deed::AddBins, 7, "FlexGridUtilities.UpdateFlexGrid"},
     {Deed::AddBins, 6, "FlexGridUtilities.UpdateFlexGrid"},
-    // Import does not look at what its fields hold, and a probability in the cell editor is held to 1 by its leading
-    // digits alone. The rule of urgency and probability converts both cells when the current cell moves away or the
-    // page is left.
-    {Deed::EditCell, 13, "Brenica.flxLandUses_BeforeRowColChange"},
-    {Deed::EditCell, 6, "Brenica.flxLandUses_BeforeRowColChange"},
-    {Deed::MoveCell, 13, "Brenica.flxLandUses_BeforeRowColChange"},
-    {Deed::MoveCell, 6, "Brenica.flxLandUses_BeforeRowColChange"},
-    {Deed::MouseDown, 13, "Brenica.flxLandUses_BeforeRowColChange"},
-    {Deed::MouseDown, 6, "Brenica.flxLandUses_BeforeRowColChange"},
-    {Deed::MoveRow, 13, "Brenica.flxLandUses_BeforeRowColChange"},
-    {Deed::MoveRow, 6, "Brenica.flxLandUses_BeforeRowColChange"},
-    {Deed::ClickOption, 13, "Brenica.flxLandUses_BeforeRowColChange"},
-    {Deed::ClickOption, 6, "Brenica.flxLandUses_BeforeRowColChange"},
-    {Deed::SelectPage, 13, "Brenica.flxLandUses_BeforeRowColChange"},
-    {Deed::SelectPage, 6, "Brenica.flxLandUses_BeforeRowColChange"},
     // An imported area that is no number stays as it stands until the areas are summed.
     {Deed::SelectPage, 13, "FlexGridUtilities.GetAreaTotal"},
     {Deed::SelectPage, 6, "FlexGridUtilities.GetAreaTotal"},
@@ -96,8 +81,7 @@ inline constexpr AllowedFailure AllowedFailures[] = {
     {Deed::SelectPage, 13, "BrenicaUtilities.GetVulnerabilityScore"},
     {Deed::SelectPage, 13, "BrenicaUtilities.ScaleHomeRanges"},
     {Deed::SelectPage, 6, "BrenicaUtilities.ScaleHomeRanges"},
-    // The form converts every conservation status and every level of use that a unit asks for before it selects; the
-    // summary table takes a blank status, import a blank or any other level.
+    // The form converts every level of use that a unit asks for before it selects; import takes any text for one.
     {Deed::Select, 13, "Brenica.cmdComplement_Click"},
     {Deed::Select, 6, "Brenica.cmdComplement_Click"},
     // When no species is left in the race the scan for the pick runs into the blank row that closes the block.

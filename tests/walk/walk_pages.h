@@ -68,7 +68,7 @@ public:
         act(Deed::Select, "", [&] {
             const bool enabled = form_.cmdComplement.Enabled();
             bool refused = false;
-            form_.SelectionRefused = [&refused] { refused = true; };
+            form_.SelectionRefused = [&refused](SelectionObstacle) { refused = true; };
             form_.cmdComplement.UserClick();
             form_.SelectionRefused = nullptr;
             const bool reported = !walker_.platform.Transcript.empty() &&

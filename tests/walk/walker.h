@@ -320,10 +320,6 @@ inline std::string Walker::saveNow() {
 /// list at all: then what is opened again may not fit.
 inline bool Walker::savesInStep() {
     if (DamagedFile) return false;
-    for (const ui::Grid* grid : {&form.flxCandidateSpecies, &form.flxHabitatTypes, &form.flxJurisUnits,
-                                 &form.flxLandUses, &form.flxFunctions, &form.flxBins}) {
-        if (grid->Rows() == 2 && ui::isBlank(grid->TextMatrix(1, list::Name))) return false;
-    }
     for (const ui::Control* control : form.Controls()) {
         const auto* grid = dynamic_cast<const ui::Grid*>(control);
         if (grid == nullptr) continue;

@@ -75,23 +75,37 @@ void CopyFolder::keep(const QString& id, CopyRecord record, const ProjectCopy& c
     record.Time = QDateTime::currentDateTime();
     record.Process = QCoreApplication::applicationPid();
     record.Now = contentFor(copy);
-    const auto before = written_.find(id);
-    if (before != written_.end()) record.Before = before->second.Now;
+    record.Before = contentThere(id);
+    written_.erase(id);
     disk_.replace(file(id, RecordEnding), record.toJson());
     const bool isThere = record.Before && record.Before->Hash == record.Now.Hash;
     if (!isThere) {
         disk_.replace(copyFile(id), QByteArray::fromRawData(copy.Text.data(), record.Now.Length));
     }
-    written_[id] = std::move(record);
+    written_[id] = std::move(record.Now);
+}
+
+/// What the copy's file holds. After a failure only the disk knows how far that write came.
+std::optional<CopyContent> CopyFolder::contentThere(const QString& id) const {
+    if (const auto written = written_.find(id); written != written_.end()) return written->second;
+    const auto text = contentOf(copyFile(id));
+    const auto record = recordThere(id);
+    const CopyContent* content = record && text ? record->contentOf(*text) : nullptr;
+    return content != nullptr ? std::optional(*content) : std::nullopt;
+}
+
+std::optional<CopyRecord> CopyFolder::recordThere(const QString& id) const {
+    const auto json = contentOf(file(id, RecordEnding));
+    return json ? CopyRecord::fromJson(*json) : std::nullopt;
 }
 
 void CopyFolder::leave(const QString& id) {
     const std::lock_guard guard(mutex_);
-    const auto written = written_.find(id);
-    if (written != written_.end()) {
-        written->second.Left = true;
+    auto record = locks_.contains(id) ? recordThere(id) : std::nullopt;
+    if (record) {
+        record->Left = true;
         try {
-            disk_.replace(file(id, RecordEnding), written->second.toJson());
+            disk_.replace(file(id, RecordEnding), record->toJson());
         } catch (const DiskFault&) {
             // It is announced all the same.
         }
@@ -141,8 +155,7 @@ std::optional<CopyOffer> CopyFolder::offer(const QString& id) try {
     const int shared = disk_.lock(file(id, LockEnding), true);
     if (shared < 0) return std::nullopt;
     const auto text = contentOf(copyFile(id));
-    const auto json = contentOf(file(id, RecordEnding));
-    const auto record = json ? CopyRecord::fromJson(*json) : std::nullopt;
+    const auto record = recordThere(id);
     const CopyContent* content = record && text ? record->contentOf(*text) : nullptr;
     ::close(shared);
 
@@ -158,8 +171,9 @@ std::optional<CopyOffer> CopyFolder::offer(const QString& id) try {
         if (hold(id)) removeFiles(id);
         return std::nullopt;
     }
+    offer.IsNameless = !record;
+    if (record) offer.ProjectPath = record->ProjectPath;
     if (content == nullptr) return offer;
-    offer.ProjectPath = record->ProjectPath;
     offer.Species = content->Rest.Species;
     offer.Saved = record->Saved;
     const auto lost = content->Rest.lostBySaving();
@@ -175,15 +189,14 @@ std::optional<CopyFolder::Found> CopyFolder::claim(const QString& id) try {
     const std::lock_guard guard(mutex_);
     if (locks_.contains(id) || !QFileInfo::exists(copyFile(id)) || !hold(id)) return std::nullopt;
     const auto text = contentOf(copyFile(id));
-    const auto json = contentOf(file(id, RecordEnding));
-    auto record = json ? CopyRecord::fromJson(*json) : std::nullopt;
+    auto record = recordThere(id);
     const CopyContent* content = record && text ? record->contentOf(*text) : nullptr;
     if (content == nullptr) {
         letGo(id);
         return std::nullopt;
     }
     record->Now = CopyContent(*content);
-    written_[id] = *record;
+    written_[id] = record->Now;
     ProjectCopy copy = record->Now.Rest;
     copy.Text = text->toStdString();
     return Found{std::move(*record), std::move(copy)};

@@ -57,13 +57,15 @@ private:
     bool hold(const QString& id);
     void letGo(const QString& id);
     void removeFiles(const QString& id);
+    std::optional<CopyContent> contentThere(const QString& id) const;
+    std::optional<CopyRecord> recordThere(const QString& id) const;
     std::optional<CopyOffer> offer(const QString& id);
 
     const QString path_;
     Disk disk_;
     std::mutex mutex_;
-    std::map<QString, int> locks_;           ///< descriptors, by the copies held
-    std::map<QString, CopyRecord> written_;  ///< of the copies held, as they were written last
+    std::map<QString, int> locks_;            ///< descriptors, by the copies held
+    std::map<QString, CopyContent> written_;  ///< of the copies held, where the last write has not failed
 };
 
 }  // namespace desktop

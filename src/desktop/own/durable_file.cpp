@@ -95,9 +95,14 @@ void Disk::remove(const QString& path) const {
     });
 }
 
-bool Disk::sync(const QString& path) const {
-    const Descriptor file(openFile(QFile::encodeName(path), O_RDONLY | O_NONBLOCK));
-    return file.number() >= 0 && ::fsync(file.number()) == 0;
+void Disk::sync(const QString& path) const {
+    const Descriptor file(
+        attempt(Call::Open, path, [&] { return openFile(QFile::encodeName(path), O_RDONLY | O_NONBLOCK); }));
+    attempt(Call::Sync, path, [&] {
+        const int synced = ::fsync(file.number());
+        const bool cannotSync = synced != 0 && (errno == EINVAL || errno == ENOTSUP);
+        return cannotSync ? 0 : synced;
+    });
 }
 
 int Disk::lock(const QString& path, bool shared) const {

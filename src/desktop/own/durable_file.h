@@ -25,12 +25,12 @@ public:
     /// Makes the folder and those above it for the user alone, where they are not there yet.
     void makeFolder(const QString& path) const;
     /// Puts the content there in one step: to a temporary name beside it that is synced, then renamed. When it fails,
-    /// the file is what it was before. The folder is there.
+    /// the file is what it was before, or the new one where only the folder could not be synced. The folder is there.
     void replace(const QString& path, const QByteArray& content) const;
     /// Removes the file; one that is not there is removed already.
     void remove(const QString& path) const;
-    /// Takes care that what another program part has written there is on the disk; false where that cannot be had.
-    bool sync(const QString& path) const;
+    /// Takes care that what another program part has written there is on the disk, where its file system can do so.
+    void sync(const QString& path) const;
     /// Opens the file, which is made where it is not there, and locks it until it is closed or the program ends in
     /// whatever way: for itself, or so that others may share it. -1 where another program holds it.
     int lock(const QString& path, bool shared) const;

@@ -17,6 +17,7 @@ inline constexpr const char* HideCopies = "Hide them";
 
 // A copy: the project, when it was written, and what it holds.
 inline constexpr const char* NewProject = "A new project";
+inline constexpr const char* NamelessCopy = "A safety copy";
 inline constexpr const char* Today = "today %1";
 inline constexpr const char* Yesterday = "yesterday %1";
 inline constexpr const char* OnDay = "%1, %2";
@@ -41,6 +42,7 @@ inline constexpr const char* SavedNowhere =
     "Nothing was saved: Yes in that question names no file. Save the project first, then answer No.";
 inline constexpr const char* NotOpened = "%1 could not be opened: %2.";
 inline constexpr const char* NotReadFurther = "%1 could not be read beyond line %2: %3.";
+inline constexpr const char* NotShownWhole = "%1 was read, but cannot be shown whole: %2.";
 inline constexpr const char* WindowEmptied = "The window was emptied before.";
 inline constexpr const char* ReadSoFar = "The window shows what stands before that line.";
 inline constexpr const char* SaveWouldReplace = "A save still proposes %1.";
@@ -63,5 +65,7 @@ inline constexpr const char* Box = "%1 (“%2”)";
 inline constexpr const char* MoreCells = "%1 and %2 more";
 inline constexpr const char* NotCarriedKept = "They stand in the window and in the safety copy.";
 inline constexpr const char* ScoresFirst = "Go to Aggregate Scores first.";
+inline constexpr const char* StatusFirst = "A species has no conservation status (CCS). Enter it first.";
+inline constexpr const char* SpeciesFirst = "There is no species to select from.";
 
 }  // namespace desktop::own_texts

@@ -21,12 +21,13 @@ ProjectCopies::ProjectCopies(FormLink& link, const QString& folder)
 
 ProjectCopies::~ProjectCopies() {
     finish();
-    if (form_ != nullptr) form_->ProjectStepTaken = nullptr;
+    if (form_ != nullptr) form_->ProjectStepTaken.Leave(this);
 }
 
 void ProjectCopies::follow(frmBrenica& form) {
     form_ = &form;
-    form.ProjectStepTaken = [this](ProjectStep step, const std::string& path) { noteStep(step, path); };
+    form.ProjectStepTaken.Join(this,
+                               [this](ProjectStep step, const std::string& path) { noteStep(step, path); });
     beginProject();
     lookForOffers();
 }
@@ -45,6 +46,10 @@ void ProjectCopies::afterAction() {
     if (form_ == nullptr || finished_) return;
     if (std::exchange(begins_, false)) beginProject();
     if (!std::exchange(saveTold_, true)) emit notCarriedChanged();
+    if (file_ == FileState::BeingWritten) {  // no: the save could not begin
+        file_ = FileState::Whole;
+        take();
+    }
     if (form_->Revision() != revision_) startTimer(UntilTaken);
 }
 
@@ -54,8 +59,8 @@ void ProjectCopies::startTimer(int milliseconds) {
 }
 
 bool ProjectCopies::isStored(const ProjectCopy& copy) const {
-    return stored_ && copy.Text == stored_->Text && copy.WithoutFunctions == stored_->WithoutFunctions &&
-           copy.lostBySaving() == stored_->Lost;
+    return file_ == FileState::Whole && stored_ && copy.Text == stored_->Text &&
+           copy.WithoutFunctions == stored_->WithoutFunctions && copy.lostBySaving() == stored_->Lost;
 }
 
 /// Told from within a command, which nothing here may disturb.
@@ -66,14 +71,21 @@ void ProjectCopies::noteStep(ProjectStep step, const std::string& path) try {
             path_ = QString::fromStdString(path);
             opened_ = true;
             return;
+        case ProjectStep::Saving: return prepareSave();
         case ProjectStep::Saved: return noteSaved(path);
-        case ProjectStep::Broken: stored_.reset(); return take();
-        case ProjectStep::GivenUp:
-            if (isKept_) push({{}, [this, id = id_] { folder_.leave(id); }});
-            return;
+        case ProjectStep::Broken: file_ = FileState::Broken; return;
+        case ProjectStep::GivenUp: return giveUpCopy();
     }
 } catch (const std::exception& fault) {
     setWhyNotKept(QString::fromUtf8(fault.what()));
+}
+
+/// While the file is written the work is whole in the copy alone. A disk that hangs must not keep the file from being
+/// tried.
+void ProjectCopies::prepareSave() {
+    if (file_ == FileState::Whole) file_ = FileState::BeingWritten;
+    take();
+    disk_.waitForDone(LongestWait);
 }
 
 /// What the file cannot carry stays in the copy.
@@ -81,6 +93,7 @@ void ProjectCopies::noteSaved(const std::string& path) {
     ProjectCopy copy = form_->TakeCopy();
     revision_ = form_->Revision();
     path_ = QString::fromStdString(path);
+    file_ = FileState::Whole;
     stored_ = Stored{copy.Text, {}, false};
     isSaved_ = true;
     notCarried_.clear();
@@ -89,17 +102,50 @@ void ProjectCopies::noteSaved(const std::string& path) {
             {shownText(cell.Table), shownText(cell.Row), shownText(cell.Column), shownText(cell.Text)});
     }
     saveTold_ = false;
-    // The copy must not go before the file is on the disk.
-    push({{}, [this, file = path_] { folder_.disk().sync(file); }});
+    const bool isWhole = isStored(copy);
+    push({{}, [this, id = id_, file = path_, isWhole] { finishSave(id, file, isWhole); }});
+    if (isWhole) isKept_ = false;  // that work takes it away
     keep(std::move(copy));
+}
+
+/// On the other thread: the copy must not go before the file is on the disk.
+void ProjectCopies::finishSave(const QString& id, const QString& file, bool isWhole) {
+    try {
+        folder_.disk().sync(file);
+    } catch (const DiskFault& fault) {
+        const QString reason = QString::fromUtf8(fault.what());
+        QMetaObject::invokeMethod(this, [this, id, file, reason] { noteNotOnDisk(id, file, reason); });
+        return;
+    }
+    if (isWhole) folder_.remove(id);
+}
+
+void ProjectCopies::noteNotOnDisk(const QString& id, const QString& file, const QString& reason) {
+    if (id == id_) {
+        file_ = FileState::Broken;
+        isSaved_ = false;
+        keep(*taken_);
+    } else {  // the user has begun another project meanwhile
+        push({{}, [this, id] { folder_.release(id); }});
+        lookForOffers();
+    }
+    emit saveNotOnDisk(file, reason);
+}
+
+/// Without a word at the next start where the user has decided so; but nobody decides to have nothing whole left.
+void ProjectCopies::giveUpCopy() {
+    if (!isKept_) return;
+    const bool isOnlyOne = file_ == FileState::Broken;
+    push({{}, [this, id = id_, isOnlyOne] { isOnlyOne ? folder_.release(id) : folder_.leave(id); }});
 }
 
 void ProjectCopies::leaveProject() {
     if (form_->Revision() != revision_) take();
-    if (isKept_) push({{}, [this, id = id_] { folder_.leave(id); }});
+    giveUpCopy();
     if (std::exchange(isKept_, false)) lookForOffers();
     id_ = CopyFolder::newId();
     path_.clear();
+    file_ = FileState::Whole;
     isSaved_ = false;
     if (!notCarried_.isEmpty()) saveTold_ = false;
     notCarried_.clear();
@@ -134,8 +180,7 @@ void ProjectCopies::take() try {
     const bool isNew = taken_ == nullptr || copy.Text != taken_->Text ||
                        copy.Uncarried != taken_->Uncarried ||
                        copy.WithoutFunctions != taken_->WithoutFunctions;
-    const bool isWanted = !whyNotKept_.isEmpty() || (!stored_ && !isKept_);
-    if (isNew || isWanted) keep(std::move(copy));
+    if (isNew || !whyNotKept_.isEmpty() || isKept_ == isStored(copy)) keep(std::move(copy));
 } catch (const std::exception& fault) {
     setWhyNotKept(QString::fromUtf8(fault.what()));
 }
@@ -161,7 +206,7 @@ void ProjectCopies::keep(ProjectCopy copy) {
                   reason = QString::fromUtf8(fault.what());
               }
               QMetaObject::invokeMethod(this, [this, id, reason] {
-                  if (id == id_) setWhyNotKept(reason);
+                  if (id == id_ && isKept_) setWhyNotKept(reason);  // none may be wanted by now
               });
           }});
 }
@@ -227,6 +272,7 @@ bool ProjectCopies::drop(const QString& id) {
     bool dropped = false;
     try {
         dropped = folder_.drop(id);
+        if (dropped) offers_.removeIf([&](const CopyOffer& offer) { return offer.Id == id; });
     } catch (const DiskFault&) {
         // It stays on offer.
     }

@@ -19,10 +19,10 @@ namespace desktop {
 
 /// The safety copies of a running program. The text of the project is taken on the window's thread, soon after an
 /// action and before the next command; whatever touches the disk on a user's action waits for a thread of its own,
-/// save that opening and dropping a copy wait for the disk.
+/// save that opening and dropping a copy wait for the disk, and a save for a while.
 ///
 /// A copy is kept while the project differs from what its file gives back, and as long as a save has not made sure
-/// that it does not: after a copy was opened, and after a save that failed half-way.
+/// that it does not: after a copy was opened, while a file is written, and after a save that failed half-way.
 class ProjectCopies : public SafetyCopies {
     Q_OBJECT
 
@@ -50,6 +50,7 @@ public:
     void waitForDisk() { disk_.waitForDone(); }
     static constexpr int UntilTaken = 1000;  // milliseconds from an action on
     static constexpr int UntilRetried = 10000;
+    static constexpr int LongestWait = 2000;  // for the copy that a save begins with
 
 private:
     /// What the project's file gives back.
@@ -57,6 +58,11 @@ private:
         std::string Text;
         std::vector<UncarriedCell> Lost;
         bool WithoutFunctions = false;
+    };
+    enum class FileState {
+        Whole,
+        BeingWritten,
+        Broken  ///< cut short, or not known to be on the disk: the work is whole in the copy alone
     };
     /// Something to be done on the other thread. Of two texts of one copy that wait in a row only the later is written.
     struct Work {
@@ -66,7 +72,11 @@ private:
 
     bool isStored(const ProjectCopy& copy) const;
     void noteStep(ProjectStep step, const std::string& path);
+    void prepareSave();
     void noteSaved(const std::string& path);
+    void finishSave(const QString& id, const QString& file, bool isWhole);
+    void noteNotOnDisk(const QString& id, const QString& file, const QString& reason);
+    void giveUpCopy();
     void leaveProject();
     void beginProject();
     void adopt(const QString& id, const CopyRecord& record);
@@ -88,8 +98,9 @@ private:
     std::deque<Work> waiting_;
 
     QString id_;
-    QString path_;                  ///< of the project in view
-    std::optional<Stored> stored_;  ///< nothing where it is not known, so that the project differs
+    QString path_;                       ///< of the project in view
+    std::optional<Stored> stored_;       ///< nothing where it is not known, so that the project differs
+    FileState file_ = FileState::Whole;  ///< that of the project's file
     std::shared_ptr<const ProjectCopy> taken_;  ///< what was looked at last
     unsigned revision_ = 0;                     ///< of the form, when it was looked at last
     bool isKept_ = false;

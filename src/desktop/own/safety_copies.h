@@ -21,6 +21,8 @@ struct CopyOffer {
     bool Saved = false;
     /// What lies there is not what was written: it is kept and cannot be opened. Time is then that of the file.
     bool Damaged = false;
+    /// Damaged as well is what tells of its project.
+    bool IsNameless = false;
     QString File;  ///< the copy itself, an ordinary project file unless it is damaged
 };
 
@@ -60,7 +62,9 @@ public:
 
 signals:
     void offersChanged();
-    void keepingChanged();     ///< whyNotKept() differs from before
+    void keepingChanged();  ///< whyNotKept() differs from before
+    /// A file was saved, but the disk has not taken it in; the copy stays.
+    void saveNotOnDisk(const QString& path, const QString& reason);
     void notCarriedChanged();  ///< told after every save, also where the list is empty as before
 };
 

@@ -22,6 +22,10 @@ StripLines::StripLines(Strip& strip, SafetyCopies& copies, FormWatch& watch)
         notCarriedClosed_ = false;
         follow();
     });
+    connect(&copies_, &SafetyCopies::saveNotOnDisk, this, [this](const QString& path, const QString& reason) {
+        watch_.note({FailedCommand::Kind::Save, utf8(path), 0, utf8(reason)});
+        follow();
+    });
     follow();
 }
 
@@ -81,9 +85,10 @@ void StripLines::addFailures(std::vector<StripLine>& lines) {
                  follow();
              }});
     }
-    if (!watch_.scoresAreTooOld()) return;
-    lines.push_back({own_texts::ScoresFirst, {}, StripTone::Note, {}, [this] {
-                         watch_.forgetOldScores();
+    const auto obstacle = watch_.selectionObstacle();
+    if (!obstacle) return;
+    lines.push_back({strip_words::notSelected(*obstacle), {}, StripTone::Note, {}, [this] {
+                         watch_.forgetObstacle();
                          follow();
                      }});
 }
@@ -167,7 +172,8 @@ StripLine StripLines::lineOf(const CopyOffer& offer) {
     QString text = strip_words::offer(offer, QDateTime::currentDateTime());
     if (refusedDrops_.contains(offer.Id)) text = QString(own_texts::NotDropped).arg(text);
     std::vector<StripAction> actions;
-    if (!offer.Damaged) actions.push_back({own_texts::OpenIt, then(&StripLines::open, offer.Id)});
+    const bool canBeOpened = !offer.Damaged && !watch_.readingIsBlocked();
+    if (canBeOpened) actions.push_back({own_texts::OpenIt, then(&StripLines::open, offer.Id)});
     actions.push_back({own_texts::DropIt, then(&StripLines::drop, offer.Id)});
     return {text, strip_words::details(offer), offer.Damaged ? StripTone::Warning : StripTone::Offer, actions,
             [this, offer] { closeOffers({offer}); }};

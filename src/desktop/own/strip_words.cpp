@@ -30,8 +30,13 @@ QString nameOf(const QString& path) { return shortened(QFileInfo(path).fileName(
 
 QString nameOf(const std::string& path) { return nameOf(shownText(path)); }
 
+/// Of a copy without a project's file.
+QString nameOfNone(const CopyOffer& offer) {
+    return said(offer.IsNameless ? own_texts::NamelessCopy : own_texts::NewProject);
+}
+
 QString projectOf(const CopyOffer& offer) {
-    return offer.ProjectPath.isEmpty() ? said(own_texts::NewProject) : nameOf(offer.ProjectPath);
+    return offer.ProjectPath.isEmpty() ? nameOfNone(offer) : nameOf(offer.ProjectPath);
 }
 
 /// In the middle of a sentence, without the stop at its end.
@@ -60,13 +65,19 @@ QString cells(const QList<LostText>& lost, qsizetype byName, const QString& betw
 
 QString openingFailure(const FailedCommand& failed) {
     const QString name = nameOf(failed.Path);
-    const QString text =
-        failed.Line > 0
-            ? said(own_texts::NotReadFurther).arg(name).arg(failed.Line).arg(reasonOf(failed)) + ' ' +
-                  said(own_texts::ReadSoFar)
-            : said(own_texts::NotOpened).arg(name, reasonOf(failed)) + ' ' + said(own_texts::WindowEmptied);
-    if (failed.SavesTo.empty()) return text;
-    return text + ' ' + said(own_texts::SaveWouldReplace).arg(nameOf(failed.SavesTo));
+    const QString reason = reasonOf(failed);
+    QStringList sentences;
+    if (failed.ReadWhole) {
+        sentences << said(own_texts::NotShownWhole).arg(name, reason);
+    } else if (failed.Line > 0) {
+        sentences << said(own_texts::NotReadFurther).arg(name).arg(failed.Line).arg(reason);
+        if (failed.IsInView) sentences << said(own_texts::ReadSoFar);
+    } else {
+        sentences << said(own_texts::NotOpened).arg(name, reason);
+        if (failed.IsInView) sentences << said(own_texts::WindowEmptied);
+    }
+    if (!failed.SavesTo.empty()) sentences << said(own_texts::SaveWouldReplace).arg(nameOf(failed.SavesTo));
+    return sentences.join(' ');
 }
 
 }  // namespace
@@ -94,7 +105,7 @@ QString dropped(const CopyOffer& offer, const QDateTime& now) {
 
 QString details(const CopyOffer& offer) {
     return said(own_texts::OfferDetails)
-        .arg(offer.ProjectPath.isEmpty() ? said(own_texts::NewProject) : offer.ProjectPath, offer.File);
+        .arg(offer.ProjectPath.isEmpty() ? nameOfNone(offer) : offer.ProjectPath, offer.File);
 }
 
 QString failure(const FailedCommand& failed, bool blocked) {
@@ -108,6 +119,15 @@ QString failure(const FailedCommand& failed, bool blocked) {
             return say(blocked && failed.Line > 0 ? own_texts::NotExportedWhole : own_texts::NotExported);
         case FailedCommand::Kind::ExportTable: return say(own_texts::NotExported);
         case FailedCommand::Kind::Import: return say(own_texts::NotImported);
+    }
+    return {};
+}
+
+QString notSelected(SelectionObstacle obstacle) {
+    switch (obstacle) {
+        case SelectionObstacle::NoSpecies: return said(own_texts::SpeciesFirst);
+        case SelectionObstacle::NoStatus: return said(own_texts::StatusFirst);
+        case SelectionObstacle::OldScores: return said(own_texts::ScoresFirst);
     }
     return {};
 }

@@ -21,6 +21,7 @@ QString details(const CopyOffer& offer);
 /// The command that failed, its file and the reason; `blocked` when its file is left as far as it was written.
 QString failure(const FailedCommand& failed, bool blocked);
 QString notKept(const QString& reason);
+QString notSelected(SelectionObstacle obstacle);
 /// The first cells by name, the others by number.
 QString notCarried(const QList<LostText>& cells);
 /// All cells, one a line.

@@ -51,6 +51,20 @@ void leaveCopy(const State& state, const QString& id, const std::string& text, C
     CopyFolder(state.path).keep(id, std::move(record), copyOf(text));
 }
 
+/// Keeps the text while one call fails; whether it came to that.
+bool failsToKeep(CopyFolder& folder, const std::string& text, int failing) {
+    int calls = 0;
+    folder.disk().BeforeCall = [&](Disk::Call) { return calls++ == failing ? EIO : 0; };
+    bool failed = false;
+    try {
+        folder.keep("a", {}, copyOf(text));
+    } catch (const DiskFault&) {
+        failed = true;
+    }
+    folder.disk().BeforeCall = nullptr;
+    return failed;
+}
+
 /// Runs in a process of its own; gives the signal that ended it, 0 for none.
 int signalEnding(const std::function<void()>& action) {
     const pid_t child = ::fork();
@@ -210,6 +224,39 @@ private slots:
         }
     }
 
+    // What was told of as failed may lie there all the same.
+    void afterAFailureOfAnyCallALeftCopyIsWhole() {
+        for (int failing = 0;; ++failing) {
+            const State state;
+            CopyFolder folder(state.path);
+            folder.keep("a", {}, copyOf("old"));
+            if (!failsToKeep(folder, "new", failing)) {
+                QVERIFY(failing > 8);
+                return;
+            }
+            folder.leave("a");
+            const auto offers = folder.offers();
+            QCOMPARE(offers.size(), 1);
+            QVERIFY2(!offers[0].Damaged, qPrintable(QString("call %1").arg(failing)));
+            QVERIFY(!offers[0].Announced);
+        }
+    }
+
+    void afterAFailureOfAnyCallTheNextMayFailAtAnyCall() {
+        for (int first = 0; first <= 12; ++first) {
+            for (int second = 0; second <= 12; ++second) {
+                const State state;
+                CopyFolder folder(state.path);
+                folder.keep("a", {}, copyOf("old"));
+                failsToKeep(folder, "new", first);
+                failsToKeep(folder, "newer", second);
+                const auto kept = CopyRecord::fromJson(state.read("a.json"));
+                QVERIFY2(kept && kept->contentOf(state.read("a.brn")) != nullptr,
+                         qPrintable(QString("calls %1 and %2").arg(first).arg(second)));
+            }
+        }
+    }
+
     void aFailureOfAnyCallOfTheFirstCopyIsTold() {
         for (int failing = 0;; ++failing) {
             const State state;
@@ -251,6 +298,12 @@ private slots:
         std::signal(SIGXFSZ, handler);
         QVERIFY(told);
         QCOMPARE(state.read("a.brn"), QByteArray("old"));
+    }
+
+    void whatCannotBeSyncedAtAllIsOnItsDisk() {
+        const State state;
+        Disk().sync("/dev/null");
+        QVERIFY_EXCEPTION_THROWN(Disk().sync(state.home.filePath("none")), DiskFault);
     }
 
     void aFolderThatCannotBeMadeIsTold() {
@@ -312,6 +365,17 @@ private slots:
         const QList<CopyOffer> offers = CopyFolder(state.path).offers();
         QCOMPARE(offers.size(), 1);
         QVERIFY(offers[0].Damaged);
+    }
+
+    void aDamagedCopyIsToldUnderItsProject() {
+        const State state;
+        CopyRecord record;
+        record.ProjectPath = "/home/planner/landscape.brn";
+        leaveCopy(state, "a", "text", record);
+        state.write("a.brn", "texT");
+        const QList<CopyOffer> offers = CopyFolder(state.path).offers();
+        QVERIFY(offers[0].Damaged);
+        QCOMPARE(offers[0].ProjectPath, record.ProjectPath);
     }
 
     void aRecordWithoutACopyGoes() {

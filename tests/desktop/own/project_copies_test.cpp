@@ -5,6 +5,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <QSemaphore>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <csignal>
@@ -79,6 +80,26 @@ struct Running : desktop::FormLink {
         platform.Files = {path.toStdString()};
         click(form->mnuSaveProject);
         settle();
+    }
+    /// A save that leaves its file cut short.
+    void failHalfWay(const QString& path) {
+        files.BeforeOperation = [](ui::Files::Operation operation) {
+            if (operation == ui::Files::Operation::Write) ui::raise(ui::ErrorNumber::DiskFull);
+        };
+        saveAs(path);
+        files.BeforeOperation = nullptr;
+    }
+    /// The files that are saved, not the copies.
+    void failToSyncSaves() {
+        files.Closed = [this](ui::FileMode, int) {
+            copies->folder().disk().BeforeCall = [failed = false](Disk::Call call) mutable {
+                return call == Disk::Call::Sync && !std::exchange(failed, true) ? EIO : 0;
+            };
+        };
+    }
+    void syncSaves() {
+        files.Closed = nullptr;
+        copies->folder().disk().BeforeCall = nullptr;
     }
     void openFile(const QString& path) {
         platform.Files = {path.toStdString()};
@@ -374,6 +395,7 @@ private slots:
         Running program(home.state);
         const QSignalSpy told(program.copies.get(), &desktop::SafetyCopies::offersChanged);
         QVERIFY(program.copies->drop(program.copies->offers().first().Id));
+        QVERIFY(program.copies->offers().isEmpty());
         program.settle();
         QVERIFY(program.copies->offers().isEmpty());
         QCOMPARE(told.size(), 1);
@@ -505,20 +527,62 @@ private slots:
         QCOMPARE(home.copies().size(), 1);
     }
 
+    void theOnlyWholeCopyIsAnnouncedHoweverItIsLeft_data() {
+        QTest::addColumn<ui::MenuItem frmBrenicaControls::*>("command");
+        QTest::newRow("Exit") << &frmBrenicaControls::mnuExit;
+        QTest::newRow("New") << &frmBrenicaControls::mnuNewProject;
+        QTest::newRow("Open") << &frmBrenicaControls::mnuOpenProject;
+    }
+    void theOnlyWholeCopyIsAnnouncedHoweverItIsLeft() {
+        QFETCH(ui::MenuItem frmBrenicaControls::*, command);
+        const Home home;
+        {
+            Running program(home.state);
+            program.addSpecies("Ant");
+            program.failHalfWay(home.file("cut.brn"));
+            program.platform.Answers = {"no"};
+            program.platform.Files = {home.project(ProjectText(2, 1, 1, 1)).toStdString()};
+            program.click((*program.form).*command);
+            program.copies->finish();
+        }
+        QCOMPARE(home.offers().size(), 1);
+        QVERIFY(home.offers().first().Announced);
+    }
+
+    void theProjectAfterOneThatWasCutShortIsLeftAsEver() {
+        const Home home;
+        Running program(home.state);
+        program.addSpecies("Ant");
+        program.failHalfWay(home.file("cut.brn"));
+        for (const char* name : {"Bee", "Cat"}) {
+            program.platform.Answers = {"no"};
+            program.click(program.form->mnuNewProject);
+            program.addSpecies(name);
+        }
+        program.settle();
+        const QList<CopyOffer> offers = program.copies->offers();
+        QCOMPARE(offers.size(), 2);
+        QVERIFY(!offers[0].Announced);
+        QVERIFY(offers[1].Announced);
+    }
+
+    void aKillInTheMiddleOfASaveLosesNothing_data() {
+        QTest::addColumn<std::string>("name");
+        QTest::newRow("a change") << std::string("Ant");
+        QTest::newRow("none") << std::string("Species 1");
+    }
     void aKillInTheMiddleOfASaveLosesNothing() {
+        QFETCH(std::string, name);
         const Home home;
         const QString path = home.project(ProjectText(2, 2, 1, 1));
         const pid_t child = ::fork();
         if (child == 0) {
             Running program(home.state);
             program.openFile(path);
-            program.run([&] { program.form->flxCandidateSpecies.UserEditCell(1, list::Name, "Ant"); });
+            program.run([&] { program.form->flxCandidateSpecies.UserEditCell(1, list::Name, name); });
             int writes = 0;
             program.files.BeforeOperation = [&](ui::Files::Operation operation) {
-                if (operation == ui::Files::Operation::Write && ++writes == 5) {
-                    program.copies->waitForDisk();
-                    ::raise(SIGKILL);
-                }
+                if (operation == ui::Files::Operation::Write && ++writes == 5) ::raise(SIGKILL);
             };
             program.saveAs(path);
             ::_exit(0);
@@ -530,8 +594,69 @@ private slots:
         QCOMPARE(program.copies->offers().size(), 1);
         QVERIFY(program.copies->offers().first().Announced);
         QVERIFY(program.copies->open(program.copies->offers().first().Id));
-        QCOMPARE(program.form->flxCandidateSpecies.TextMatrix(1, list::Name), std::string("Ant"));
+        QCOMPARE(program.form->flxCandidateSpecies.TextMatrix(1, list::Name), name);
         QCOMPARE(program.form->flxCandidateSpecies.TextMatrix(2, list::Name), std::string("Species 2"));
+    }
+
+    void aSaveThatCannotBeginLeavesNoCopyOfWhatHasNotChanged() {
+        const Home home;
+        Running program(home.state);
+        program.openFile(home.project(ProjectText(2, 2, 1, 1)));
+        bool wasKept = false;
+        program.files.BeforeOperation = [&](ui::Files::Operation) { wasKept = !home.copies().isEmpty(); };
+        program.saveAs(home.file("none/project.brn"));
+        QVERIFY(wasKept);
+        QVERIFY(home.copies().isEmpty());
+        QVERIFY(!program.copies->keeps());
+    }
+
+    void aDiskThatHangsKeepsNoSaveFromBeingTried() {
+        const Home home;
+        Running program(home.state);
+        QSemaphore answer;
+        program.copies->folder().disk().BeforeCall = [&](Disk::Call) { return answer.acquire(), 0; };
+        program.addSpecies("Ant");
+        program.platform.Files = {home.file("project.brn").toStdString()};
+        program.click(program.form->mnuSaveProject);
+        QVERIFY(QFile::exists(home.file("project.brn")));
+        answer.release(1000);
+        program.settle();
+        QVERIFY(home.copies().isEmpty());
+    }
+
+    void theCopyStaysWhereTheSavedFileIsNotOnTheDisk() {
+        const Home home;
+        Running program(home.state);
+        program.addSpecies("Ant");
+        program.failToSyncSaves();
+        const QSignalSpy told(program.copies.get(), &desktop::SafetyCopies::saveNotOnDisk);
+        program.saveAs(home.file("project.brn"));
+        program.settle();
+        QCOMPARE(told.size(), 1);
+        QCOMPARE(told[0][0].toString(), home.file("project.brn"));
+        QVERIFY(told[0][1].toString().startsWith("Input/output error"));
+        QVERIFY(home.copy().contains("Common Name = Ant\r\n"));
+        QVERIFY(program.copies->keeps());
+        program.syncSaves();
+        program.saveAs(home.file("none/project.brn"));
+        QVERIFY(home.copy().contains("Common Name = Ant\r\n"));
+        program.saveAs(home.file("project.brn"));
+        QVERIFY(home.copies().isEmpty());
+        QVERIFY(!program.copies->keeps());
+    }
+
+    void theCopyOfAProjectLeftMeanwhileIsOffered() {
+        const Home home;
+        Running program(home.state);
+        program.addSpecies("Ant");
+        program.failToSyncSaves();
+        program.platform.Answers = {"yes"};
+        program.platform.Files = {home.file("project.brn").toStdString()};
+        program.click(program.form->mnuNewProject);
+        program.settle();
+        program.settle();
+        QCOMPARE(program.copies->offers().size(), 1);
+        QVERIFY(program.copies->offers().first().Announced);
     }
 
     void aDiskThatRefusesIsToldAndTriedAgain() {

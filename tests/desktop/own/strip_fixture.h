@@ -42,6 +42,7 @@ public:
         Reason = reason;
         emit keepingChanged();
     }
+    void failToSave(const QString& path, const QString& reason) { emit saveNotOnDisk(path, reason); }
     void lose(const QList<desktop::LostText>& lost) {
         Lost = lost;
         emit notCarriedChanged();

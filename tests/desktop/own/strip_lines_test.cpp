@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/own/strip_lines.h"
 
+#include "desktop/own/copy_folder.h"
 #include "desktop/own/strip_fixture.h"
 #include "desktop/own/strip_words.h"
 #include "ui/combo_box.h"
@@ -120,16 +121,40 @@ private slots:
         QCOMPARE(w.lines().size(), 1);
     }
 
+    void aDamagedCopyIsSaidAndNotOpened_data() {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<QString>("damaged");
+        QTest::addColumn<QString>("name");
+        QTest::newRow("a project's") << "/a/landscape.brn"
+                                     << "1.brn"
+                                     << "landscape.brn";
+        QTest::newRow("a new project's") << ""
+                                         << "1.brn"
+                                         << "A new project";
+        QTest::newRow("with its record") << "/a/landscape.brn"
+                                         << "1.json"
+                                         << "A safety copy";
+    }
     void aDamagedCopyIsSaidAndNotOpened() {
+        QFETCH(QString, path);
+        QFETCH(QString, damaged);
+        QFETCH(QString, name);
+        const QTemporaryDir state;
+        desktop::CopyRecord record;
+        record.ProjectPath = path;
+        desktop::CopyFolder(state.path()).keep("1", record, ProjectCopy{"text", {}, false, 2});
+        QFile file(state.filePath(damaged));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.close();
+        const QList<desktop::CopyOffer> offers = desktop::CopyFolder(state.path()).offers();
         StripWindow w;
-        desktop::CopyOffer damaged = copyOf("/a/landscape.brn");
-        damaged.Damaged = true;
-        w.copies.give({damaged});
-        QCOMPARE(w.lines(),
-                 QStringList("landscape.brn, today 14:32: this safety copy is damaged. It is kept, but "
-                             "cannot be opened."));
-        QVERIFY(w.button("landscape.brn", "Open it") == nullptr);
-        QVERIFY(w.button("landscape.brn", "Drop it") != nullptr);
+        w.copies.give(offers);
+        const QString moment = desktop::strip_words::moment(offers[0].Time, QDateTime::currentDateTime());
+        QCOMPARE(w.lines(), QStringList(QString("%1, %2: this safety copy is damaged. It is kept, but "
+                                                "cannot be opened.")
+                                            .arg(name, moment)));
+        QVERIFY(w.button(name, "Open it") == nullptr);
+        QVERIFY(w.button(name, "Drop it") != nullptr);
     }
 
     void aDroppedCopyCanBeTakenBack() {
@@ -321,6 +346,16 @@ private slots:
                                          "No safety copy is kept: disk full. Save often."}));
     }
 
+    void aSaveThatTheDiskDidNotTakeIn() {
+        WithFiles w;
+        w.copies.failToSave("/a/landscape.brn", "Input/output error: /a/landscape.brn");
+        QCOMPARE(w.lines(),
+                 QStringList("landscape.brn was not saved: input/output error: /a/landscape.brn. Your work "
+                             "is kept in a safety copy."));
+        w.save("landscape.brn");
+        QVERIFY(!w.strip().isVisible());
+    }
+
     void theSaveBeforeExit() {
         WithFiles w;
         w.form->ProjectChanged = true;
@@ -355,12 +390,59 @@ private slots:
                 "empties the window and fails, Import ends the program. Results cannot be exported."));
     }
 
+    void aFileThatWasReadButCannotBeShown() {
+        WithFiles w;
+        w.run([&] {
+            w.files.NoteFault(
+                {"/a/old.brn", 35, ui::RunTimeError(13, "", "Type mismatch"), ui::FileMode::Input, 1, true});
+        });
+        QCOMPARE(w.lines(), QStringList("old.brn was read, but cannot be shown whole: type mismatch."));
+    }
+
     void aFailedOpeningBringsUpTheCopiesThatWereLeft() {
         WithFiles w;
         w.copies.give({leftCopyOf("/a/left.brn", "1")});
         w.openFile("missing.brn");
         QCOMPARE(w.lines().size(), 2);
         QVERIFY(w.button("1 other", "Show them") != nullptr);
+    }
+
+    void noCopyIsToBeOpenedWhileNoFileCanBe() {
+        WithFiles w;
+        w.copies.give({copyOf("/a/landscape.brn")});
+        w.write("broken.brn", "Project Version = VERSION2\r\nFunction = 1\r\n");
+        w.openFile("broken.brn");
+        QVERIFY(w.button("landscape.brn", "Open it") == nullptr);
+        QVERIFY(w.button("landscape.brn", "Drop it") != nullptr);
+    }
+
+    void newMendsWhatAFailedOpeningLeft() {
+        WithFiles w;
+        w.save("landscape.brn");
+        w.openFile("missing.brn");
+        w.run([&] { w.form->mnuNewProject.UserClick(); });
+        QVERIFY(!w.strip().isVisible());
+    }
+
+    void aSaveUnderAnotherNameIsProposedFromThenOn() {
+        WithFiles w;
+        w.save("landscape.brn");
+        w.openFile("missing.brn");
+        w.save("other.brn");
+        QCOMPARE(w.lines(), QStringList("missing.brn could not be opened: file not found. The window was "
+                                        "emptied before."));
+    }
+
+    void newMendsTheWindowButNoBlockedReading() {
+        WithFiles w;
+        w.write("broken.brn", "Project Version = VERSION2\r\nFunction = 1\r\n");
+        w.openFile("broken.brn");
+        w.run([&] { w.form->mnuNewProject.UserClick(); });
+        QCOMPARE(
+            w.lines(),
+            QStringList("broken.brn could not be read beyond line 2: type mismatch. Until Brenica is started "
+                        "again, do not use Open or Import: Open empties the window and fails, Import ends "
+                        "the program. Results cannot be exported."));
     }
 
     void anExportOfResultsThatStoppedHalfWay() {
@@ -453,12 +535,21 @@ private slots:
         StripWindow w;
         w.open(ProjectText(2, 2, 2, 2));
         for (int page = 2; page <= 7; ++page) w.goTo(page);
-        w.run([&] { w.form->SelectionRefused(); });
+        const auto refuse = [&](SelectionObstacle obstacle) {
+            w.run([&] {
+                w.form->tabBrenica.UserSelectTab(4);
+                w.form->SelectionRefused(obstacle);
+            });
+        };
+        refuse(SelectionObstacle::NoSpecies);
+        QCOMPARE(w.lines(), QStringList("There is no species to select from."));
+        refuse(SelectionObstacle::NoStatus);
+        QCOMPARE(w.lines(), QStringList("A species has no conservation status (CCS). Enter it first."));
+        refuse(SelectionObstacle::OldScores);
         QCOMPARE(w.lines(), QStringList("Go to Aggregate Scores first."));
         w.goTo(6);
         QVERIFY(!w.strip().isVisible());
-        w.goTo(7);
-        w.run([&] { w.form->SelectionRefused(); });
+        refuse(SelectionObstacle::OldScores);
         w.click("Go to", "Close this message");
         QVERIFY(!w.strip().isVisible());
     }

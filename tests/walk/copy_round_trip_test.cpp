@@ -24,7 +24,7 @@ struct RunningForm {
             for (int row = 0; row < grid.Rows(); ++row) {
                 for (int col = 0; col < grid.Cols(); ++col) {
                     texts.push_back(grid.Name() + " " + std::to_string(row) + " " + std::to_string(col) +
-                                    ": " + grid.TextMatrix(row, col));
+                                    ": " + std::string(grid.TextMatrix(row, col)));
                 }
             }
         }

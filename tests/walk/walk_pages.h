@@ -83,7 +83,8 @@ private:
     std::vector<std::string> homeRanges() const {
         const ui::Grid& areas = form_.flxSummary(summary::Area);
         std::vector<std::string> texts;
-        for (int row = 1; row < areas.Rows(); ++row) texts.push_back(areas.TextMatrix(row, area::HomeRange));
+        for (int row = 1; row < areas.Rows(); ++row)
+            texts.emplace_back(areas.TextMatrix(row, area::HomeRange));
         return texts;
     }
 

@@ -10,9 +10,7 @@
 /// edit is written the moment it is made.
 
 void frmBrenica::cbxSpeciesName_Click() try {
-    const bool anyFlag = HabitatUseChanged || AreaDataChanged || VulnerabilityChanged ||
-                         FunctionalityChanged || SocioEconChanged || ProjectLoading;
-    if (anyFlag) clearChangeFlags();
+    clearChangeFlags();
     RefreshSpeciesCriteriaVals();
 } catch (...) {
     ReportError(9999, "Brenica.cbxSpeciesName_Click", "");
@@ -95,8 +93,7 @@ void frmBrenica::levelOfUse_AfterEdit(ListKind kind, int row, int col) try {
 
 void frmBrenica::flxLandUsesVulnerability_CellChanged(int row, int col) try {
     VulnerabilityChanged = true;
-    if (row <= 0 || CurrentSpeciesIndex == 0) return;
-    if (col < 1 || col > 3) return;
+    if (row <= 0 || col == 0 || CurrentSpeciesIndex == 0) return;
     const std::string value(flxLandUsesVulnerability.TextMatrix(row, col));
     flxSummary(summary::ThreatsBySpecies)
         .TextMatrix(blockRow(CurrentSpeciesIndex, global_.TotalLandUses, row), threat::Severity + col - 1,

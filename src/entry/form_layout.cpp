@@ -123,8 +123,9 @@ void frmBrenica::ResizeForm() try {
 void frmBrenica::arrangeListPages() {
     using modGeneralUtilities::ArrangeFrameContents;
     constexpr int BelowFrameCaption = 100;
-    constexpr int HomeRangeTop = 1200;  // below the option buttons
-    const ui::Control& page = fraLandCharInfo(0).Container();
+    constexpr int HomeRangeTop = 1200;                          // below the option buttons
+    const ui::Control& habitats = flxHabitatTypes.Container();  // as large as the frames of the other lists
+    const ui::Control& page = habitats.Container();
     Flow choices(Edge, Gap, page.Width() - Edge, ChoiceHeight);
     for (ui::OptionButton& button : optLandChar) choices.add({{button, widthOf(button), ChoiceHeight}});
     const int frameTop = choices.bottom() + Gap;
@@ -134,7 +135,7 @@ void frmBrenica::arrangeListPages() {
     ArrangeFrameContents({flxCandidateSpecies, lblAddSpecies, txtTotalSpecies, lblNewSpecies,
                           cmdUpdateSpecies, cmdRemoveSpecies, txtRemoveSpeciesIndex, cmdSpeciesMove},
                          leftEdge(flxCandidateSpecies.Container()), 0);
-    const int left = leftEdge(fraLandCharInfo(0));
+    const int left = leftEdge(habitats);
     const int offset = BelowFrameCaption;
     ArrangeFrameContents({flxHabitatTypes, lblAddHabitatTypes, txtTotalHabitatTypes, lblNewHabitatTypes,
                           cmdUpdateHabitatTypes, cmdRemoveHabitatType, txtRemoveHabitatIndex, cmdHabitatMove},

@@ -52,6 +52,16 @@ void placeBelowEachOther(ui::Grid& upper, ui::Grid& lower, const Place& place) {
 
 int bottomOf(const ui::Control& control) { return control.Top() + control.Height(); }
 
+void fitEach(ui::ControlArray<ui::Grid>& grids) {
+    for (ui::Grid& grid : grids) fitColumns(grid);
+}
+
+void fitVisible(ui::ControlArray<ui::Grid>& grids) {
+    for (ui::Grid& grid : grids) {
+        if (grid.Visible()) fitColumns(grid);
+    }
+}
+
 }  // namespace
 
 /// A grid that is not on view is not fitted; it is when its page or tab comes on view.
@@ -77,20 +87,15 @@ void frmBrenica::fitShownGrids() {
             placeCriteriaGrids();
             return fitAll({&flxHabitatHetero, &flxJurisUnitHetero, &flxLandUsesVulnerability,
                            &flxFunctionality, &flxSocioEcon});
-        case page::Summary:
-            placeSummaryGrids();
-            for (ui::Grid& grid : flxSummary) {
-                if (grid.Visible()) fitColumns(grid);
-            }
-            return;
+        case page::Summary: placeSummaryGrids(); return fitVisible(flxSummary);
         case page::Scores:
             placeScoreViews();
-            return fitAll({&flxScoresSort(0), &flxScoresSort(1), &flxScores(0), &flxScores(1)});
+            fitEach(flxScoresSort);
+            return fitEach(flxScores);
         case page::Results:
             placeResultGrids();
             fitColumns(flxBrenicSuite);
-            for (ui::Grid& grid : flxCompResults) fitColumns(grid);
-            return;
+            return fitEach(flxCompResults);
         default: return;
     }
 }
@@ -118,7 +123,7 @@ void frmBrenica::arrangeCriteriaPage() {
 /// A label and its box in each row; the three ways to give a home range share one. The rest is the hint's.
 void frmBrenica::arrangeAreaFrame() {
     constexpr int RowPitch = 450;
-    const ui::Frame& frame = fraCriteria(1);
+    const ui::Control& frame = lblPropOccupHint.Container();
     int labelWidth = 0;
     for (const ui::Label* label : {&lblDispersalYN, &lblConnectivity, &lblContinuousHR, &lblDefaultBinsHR,
                                    &lblUserDefBinsHR, &lblPropOccupied}) {
@@ -138,10 +143,10 @@ void frmBrenica::arrangeAreaFrame() {
 }
 
 void frmBrenica::placeCriteriaGrids() {
-    placeSideBySide(flxHabitatHetero, flxJurisUnitHetero, restForGrid(fraCriteria(0), Edge));
-    moveTo(flxLandUsesVulnerability, restForGrid(fraCriteria(2), Edge));
-    moveTo(flxFunctionality, restForGrid(fraCriteria(3), Edge));
-    moveTo(flxSocioEcon, restForGrid(fraCriteria(4), Edge));
+    const auto rest = [](const ui::Grid& grid) { return restForGrid(grid.Container(), Edge); };
+    placeSideBySide(flxHabitatHetero, flxJurisUnitHetero, rest(flxHabitatHetero));
+    for (ui::Grid* grid : {&flxLandUsesVulnerability, &flxFunctionality, &flxSocioEcon})
+        moveTo(*grid, rest(*grid));
 }
 
 void frmBrenica::arrangeSummaryPage() {

@@ -27,14 +27,6 @@ std::string unexpectedDescription(const ui::RunTimeError& error, const std::stri
            error.Description + "\".";
 }
 
-/// Replaces the span from "<" to the ">" after it.
-std::string withExtra(std::string text, const std::string& extra) {
-    const std::size_t open = text.find('<');
-    const std::size_t close = open == std::string::npos ? open : text.find('>', open);
-    if (close == std::string::npos) return text;
-    return text.replace(open, close - open + 1, "'" + extra + "'");
-}
-
 }  // namespace
 
 ui::RunTimeError CurrentError() {
@@ -55,13 +47,17 @@ void ReportError(int code, const char* source, const std::string& extra) {
     if (isWrapped(error)) throw error;
     const std::string fullSource = std::string(RunningApplication) + "." + source;
     const std::string description = code == UnexpectedError ? unexpectedDescription(error, fullSource)
-                                                            : withExtra(GetErrorDescription(code), extra);
+                                                            : WithExtra(GetErrorDescription(code), extra);
     throw ui::RunTimeError(code + ErrorBase, fullSource, description + "\r\n");
 }
 
-std::string GetErrorDescription(int) {
-    // A failed look-up would give this text while an error is current; with no table there is no look-up to fail.
-    [[maybe_unused]] constexpr const char* NoDescription =
-        "[No description as error number not in Tarnwick resource file.]";
-    return "";
+// A failed look-up would give "[No description as error number not in Tarnwick resource file.]" while an error is
+// current; with no table there is no look-up to fail.
+std::string GetErrorDescription(int) { return ""; }
+
+std::string WithExtra(std::string text, const std::string& extra) {
+    const std::size_t open = text.find('<');
+    const std::size_t close = open == std::string::npos ? open : text.find('>', open);
+    if (close == std::string::npos) return text;
+    return text.replace(open, close - open + 1, "'" + extra + "'");
 }

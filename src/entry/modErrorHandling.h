@@ -29,6 +29,9 @@ void SwallowError();
 /// The text of a code other than 9999. The system has no table of messages.
 std::string GetErrorDescription(int code);
 
+/// The text of a code with `extra`, between apostrophes, in the place of the span from "<" to the ">" after it.
+std::string WithExtra(std::string text, const std::string& extra);
+
 /// Runs one statement of a procedure that ignores errors; true unless it ended in a run-time error and was skipped.
 template <class Statement>
 bool succeeds(Statement statement) {

@@ -38,19 +38,17 @@ int labelIndex(const Labels& labels, int count, const std::string& text) {
 
 void loadHomeRange(const std::string& homeRange, const AreaControls& controls) {
     switch (controls.HomeRangeType) {
-        case 0: controls.ContinuousHR.Text(homeRange.empty() ? "0" : homeRange); break;
+        case 0: return controls.ContinuousHR.Text(homeRange.empty() ? "0" : homeRange);
         case 1:
-            controls.DefaultBins.ListIndex(
+            return controls.DefaultBins.ListIndex(
                 homeRange.empty()
                     ? -1
                     : labelIndex(DefaultBinLabels, static_cast<int>(DefaultBinLabels.size()), homeRange));
-            break;
         case 2:
-            if (controls.TotalBins < 1) break;
-            controls.UserBins.ListIndex(
+            if (controls.TotalBins < 1) return;
+            return controls.UserBins.ListIndex(
                 homeRange.empty() ? -1 : labelIndex(controls.UserBinLabels, controls.TotalBins, homeRange));
-            break;
-        default: break;
+        default: return;
     }
 }
 
@@ -83,10 +81,7 @@ void InitFlexGrid(ui::Grid& grid, int columns, std::span<const char* const> head
     grid.Select(0, 0, grid.Rows() - 1, grid.Cols() - 1);
     grid.CellAlignment(ui::CellAlign::LeftCentre);
     grid.CellPictureAlignment(ui::CellAlign::CentreCentre);
-    if (checked && grid.Rows() - 1 > 0 && grid.Cols() - 1 > 0) {
-        grid.Select(1, 1, grid.Rows() - 1, grid.Cols() - 1);
-        grid.CellChecked(ui::CheckState::Unchecked);
-    }
+    if (checked) uncheckBody(grid);
     for (std::size_t i = 0; i < headings.size(); ++i) grid.TextMatrix(0, static_cast<int>(i), headings[i]);
     grid.Redraw(true);
 } catch (...) {
@@ -224,6 +219,12 @@ void UpdateFlexGridCol(ui::Grid& grid, int column, std::span<const char* const> 
     for (int i = 1; i <= count; ++i) grid.TextMatrix(i, column, texts[static_cast<std::size_t>(i) - 1]);
 } catch (...) {
     ReportError(9999, "FlexGridUtilities.UpdateFlexGridCol", "");
+}
+
+void uncheckBody(ui::Grid& grid) {
+    if (grid.Rows() - 1 <= 0 || grid.Cols() - 1 <= 0) return;
+    grid.Select(1, 1, grid.Rows() - 1, grid.Cols() - 1);
+    grid.CellChecked(ui::CheckState::Unchecked);
 }
 
 void removeRows(ui::Grid& grid, std::span<const int> rows) {

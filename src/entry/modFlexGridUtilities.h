@@ -75,6 +75,9 @@ void UpdateFlexGrid(ui::Grid& grid, int rowsToAdd, bool numberFirstColumn);
 /// Writes one text a body row, when there are just as many.
 void UpdateFlexGridCol(ui::Grid& grid, int column, std::span<const char* const> texts);
 
+/// Gives every cell of the body a box that is not ticked.
+void uncheckBody(ui::Grid& grid);
+
 /// Removes rows, given the last first.
 void removeRows(ui::Grid& grid, std::span<const int> rows);
 

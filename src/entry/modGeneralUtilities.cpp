@@ -30,6 +30,12 @@ int GetComboIndex(const ui::ComboBox& box) try {
     ReportError(9999, "GeneralUtilities.SelectAllText", "");
 }
 
+int GetOptionIndex(const ui::ControlArray<ui::OptionButton>& buttons) {
+    int index = 0;
+    while (!buttons(index).Value()) ++index;
+    return index;
+}
+
 void SelectAllText(ui::TextBox& box) try {
     box.SelStart(0);
     box.SelLength(static_cast<int>(ui::length(box.Text())));

@@ -5,7 +5,9 @@
 #include <string>
 #include <vector>
 
+#include "ui/choice_buttons.h"
 #include "ui/combo_box.h"
+#include "ui/control_array.h"
 #include "ui/platform.h"
 #include "ui/text_box.h"
 
@@ -20,6 +22,9 @@ void UpdateComboBox(ui::ComboBox& box, const std::vector<std::string>& items);
 
 /// The box's ListIndex, or -1 when it has no items.
 int GetComboIndex(const ui::ComboBox& box);
+
+/// Which of the buttons is on, as one always is.
+int GetOptionIndex(const ui::ControlArray<ui::OptionButton>& buttons);
 
 void SelectAllText(ui::TextBox& box);
 

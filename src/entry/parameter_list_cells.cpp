@@ -59,9 +59,8 @@ void frmBrenica::flxLandUses_CellChanged(int row, int col) try {
 }
 
 void frmBrenica::flxFunctions_CellChanged(int row, int col) try {
-    if (row < 1 || col == 0) return;
+    if (row < 1 || col != list::Name) return;
     ProjectChanged = true;
-    if (col != list::Name) return;
     const std::string name(flxFunctions.TextMatrix(row, col));
     flxFunctionality.TextMatrix(row, 0, name);
     flxSummary(summary::Functionality).TextMatrix(0, row, name);

@@ -28,7 +28,6 @@ std::vector<ParameterList> frmBrenica::makeParameterLists() {
          .WideOffset = 0,
          .WideNumbered = true,
          .LongMember = summary::HabitatsBySpecies,
-         .LastLongCol = use::Level,
          .UpdateSource = "Brenica.cmdUpdateHabitatTypes_Click",
          .UpdateOtherSource = "Brenica.UpdateOtherHabitatFlexGrids",
          .RemoveClickSource = "Brenica.cmdRemoveHabitatType_Click",
@@ -50,7 +49,6 @@ std::vector<ParameterList> frmBrenica::makeParameterLists() {
          .WideOffset = 0,
          .WideNumbered = true,
          .LongMember = summary::JurisUnitsBySpecies,
-         .LastLongCol = use::Level,
          .UpdateSource = "Brenica.cmdUpdateJurisUnits_Click",
          .UpdateOtherSource = "Brenica.UpdateOtherJurisUnitFlexGrids",
          .RemoveClickSource = "Brenica.cmdRemoveJurisUnit_Click",
@@ -72,7 +70,6 @@ std::vector<ParameterList> frmBrenica::makeParameterLists() {
          .WideOffset = vulnerability::ThreatOffset,
          .WideNumbered = true,
          .LongMember = summary::ThreatsBySpecies,
-         .LastLongCol = threat::Proportion,
          .UpdateSource = "Brenica.cmdUpdateLandUses_Click",
          .UpdateOtherSource = "Brenica.UpdateOtherLandUseFlexGrids",
          .RemoveClickSource = "Brenica.cmdRemoveLandUse_Click",
@@ -94,7 +91,6 @@ std::vector<ParameterList> frmBrenica::makeParameterLists() {
          .WideOffset = 0,
          .WideNumbered = false,
          .LongMember = ParameterList::NoMember,
-         .LastLongCol = 0,
          .UpdateSource = "Brenica.cmdUpdateFunctions_Click",
          .UpdateOtherSource = "Brenica.UpdateOtherFunctionFlexGrids",
          .RemoveClickSource = "Brenica.cmdRemoveFunction_Click",
@@ -243,9 +239,9 @@ void frmBrenica::removeFromLongTables(const ParameterList& list, RowNumbers rows
 
 /// The last entry goes: each species keeps one row.
 void frmBrenica::clearLongTables(const ParameterList& list) {
+    ui::Grid& grid = flxSummary(list.LongMember);
     for (int species = 1; species <= global_.TotalSpecies; ++species) {
-        for (int col = 1; col <= list.LastLongCol; ++col)
-            flxSummary(list.LongMember).TextMatrix(species, col, "");
+        for (int col = 1; col <= grid.Cols() - 1; ++col) grid.TextMatrix(species, col, "");
         if (list.Kind != ListKind::LandUses) continue;
         for (const int col : {0, 2, 3, 4}) flxSummary(summary::SpeciesByThreat).TextMatrix(species, col, "");
     }

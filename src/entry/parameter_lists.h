@@ -33,7 +33,6 @@ struct ParameterList {
     int WideOffset;      ///< entry i stands in column i + WideOffset
     bool WideNumbered;   ///< headed with numbers; otherwise with names
     int LongMember;      ///< flxSummary member with a block of entries a species, or NoMember
-    int LastLongCol;     ///< last column that goes when the last entry goes
     const char* UpdateSource;
     const char* UpdateOtherSource;
     const char* RemoveClickSource;

@@ -142,6 +142,9 @@ public:
     void storeConservationStatus();
     void cbxDataQuality_Change();
 
+    // entry/cell_editing.cpp
+    std::span<const CellEditing> CellEditings() const { return cellEditings_; }
+
     // entry/number_boxes.cpp
     std::span<const NumberBox> NumberBoxes() const { return numberBoxes_; }
     void numberBox_Change(const NumberBox& box);

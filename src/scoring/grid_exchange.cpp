@@ -92,13 +92,7 @@ int frmBrenica::currentView() const {
         case page::Parameters: return CurrentLandChar;
         case page::Summary: return CurrentSummaryTab;
         case page::Scores: return ScoreDisplayMode;
-        case page::Results: {
-            int selected = 0;
-            for (int i = 0; i < optCompResults.Count(); ++i) {
-                if (optCompResults(i).Value()) selected = i;
-            }
-            return selected;
-        }
+        case page::Results: return modGeneralUtilities::GetOptionIndex(optCompResults);
         default: return AnyView;
     }
 }

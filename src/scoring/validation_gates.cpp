@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "entry/modErrorHandling.h"
 #include "entry/modFlexGridUtilities.h"
+#include "entry/modGeneralUtilities.h"
 #include "project/constant_tables.h"
 #include "project/frmBrenica.h"
 #include "project/pages.h"
@@ -54,11 +55,7 @@ bool frmBrenica::ValidateMainTab(int tab) try {
             &frmBrenica::RemoveSpecies);
     }
     if (tab != page::Parameters) return true;
-    int selected = 0;
-    for (int i = optLandChar.Count() - 1; i >= 0; --i) {
-        if (optLandChar(i).Value()) selected = i;
-    }
-    return ValidateLandChar(selected);
+    return ValidateLandChar(modGeneralUtilities::GetOptionIndex(optLandChar));
 } catch (...) {
     ReportError(9999, "Brenica.ValidateMainTab", "");
 }

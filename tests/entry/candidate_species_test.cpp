@@ -38,6 +38,20 @@ TEST_F(CandidateSpecies, AddingNoneToAnEmptyListChangesNothing) {
     EXPECT_EQ(global.TotalSpecies, 0);
 }
 
+TEST_F(CandidateSpecies, AddingFitsTheListAnew) {
+    const auto overflow = [this] {
+        int columns = 0;
+        for (int col = 0; col < form.flxCandidateSpecies.Cols(); ++col)
+            columns += form.flxCandidateSpecies.ColWidth(col);
+        return columns - form.flxCandidateSpecies.ClientWidth();
+    };
+    addBlank(species(), 2);
+    EXPECT_LE(overflow(), 0);
+    addBlank(species(), 1000);
+    EXPECT_TRUE(form.flxCandidateSpecies.RowsOverflow());
+    EXPECT_LE(overflow(), 0);
+}
+
 TEST_F(CandidateSpecies, ThreeSpeciesBesideTwoHabitatsMakeSixRowsWithTheHabitatsNames) {
     addHabitats({"Forest", "Meadow"});
     addBlank(species(), 3);
@@ -69,7 +83,10 @@ TEST_F(CandidateSpecies, ZonesAreCarriedIntoTheBlocksToo) {
 TEST_F(CandidateSpecies, TheFirstOnesTakeTheZonesNumbersOutOfTheirBlocks) {
     addZones({"Park", "Marsh", "Coast"});
     EXPECT_THAT(columnOf(summary(3), 0), ElementsAre("Common Name", "1", "2", "3"));
-    addSpecies({"Lynx", "Owl"});
+    addBlank(species(), 2);
+    EXPECT_THAT(columnOf(summary(3), 0), ElementsAre("Common Name", "1", "", "", "", "", ""));
+    form.flxCandidateSpecies.UserEditCell(1, list::Name, "Lynx");
+    form.flxCandidateSpecies.UserEditCell(2, list::Name, "Owl");
     EXPECT_THAT(columnOf(summary(3), 0), ElementsAre("Common Name", "Lynx", "", "", "Owl", "", ""));
     EXPECT_THAT(columnOf(summary(3), 1),
                 ElementsAre("MZ Name", "Park", "Marsh", "Coast", "Park", "Marsh", "Coast"));

@@ -82,6 +82,45 @@ TEST_F(CriteriaEntry, BlanksThePageWhenNoSpeciesIsChosen) {
     EXPECT_EQ(summary(4).TextMatrix(1, 3), "10 - 25 km2");
 }
 
+TEST_F(CriteriaEntry, WithoutASpeciesAContinuousHomeRangeIsBlankedToZero) {
+    openOnCriteriaPage(ProjectText(2, 1, 1, 1));
+    EXPECT_EQ(form.txtContinuousHR.Text(), "10");
+    form.cbxSpeciesName.ListIndex(-1);
+    form.RefreshSpeciesCriteriaVals();
+    EXPECT_EQ(form.txtContinuousHR.Text(), "0");
+    EXPECT_EQ(summary(summary::Area).TextMatrix(1, area::HomeRange), "10");
+}
+
+TEST_F(CriteriaEntry, HeadingsAreNoData) {
+    openOnCriteriaPage(ProjectText(2, 2, 2, 2));
+    form.cbxSpeciesName.UserChoose(1);
+    const auto before = allCellsBut({});
+    for (ui::Grid* grid : {&form.flxLandUsesVulnerability, &form.flxFunctionality, &form.flxSocioEcon}) {
+        grid->TextMatrix(0, 1, grid->TextMatrix(0, 1));
+        EXPECT_EQ(allCellsBut({}), before) << grid->Name();
+    }
+}
+
+TEST_F(CriteriaEntry, WithoutASpeciesNothingOnThePageReachesTheTables) {
+    addHabitats({"Forest"});
+    addZones({"Park"});
+    addActivities({"Logging"});
+    const auto tables = [this] {
+        std::vector<std::vector<std::vector<std::string>>> found;
+        for (const ui::Grid& grid : form.flxSummary) found.push_back(cellsOf(grid));
+        return found;
+    };
+    const auto before = tables();
+    for (ui::Grid* grid : {&form.flxHabitatHetero, &form.flxJurisUnitHetero, &form.flxLandUsesVulnerability,
+                           &form.flxFunctionality, &form.flxSocioEcon})
+        EXPECT_TRUE(grid->UserEditCell(1, 1, "2"));
+    for (ui::ComboBox* box :
+         {&form.cbxDispersalYN, &form.cbxConnectivity, &form.cbxDefaultBinsHR, &form.cbxDataQuality})
+        box->UserChoose(1);
+    for (ui::TextBox* box : {&form.txtContinuousHR, &form.txtPropOccupied, &form.txtCCS}) type(*box, "0.5");
+    EXPECT_EQ(tables(), before);
+}
+
 TEST_F(CriteriaEntry, ALevelOfUseReachesBothItsTables) {
     openOnCriteriaPage(ProjectText(2, 2, 2, 1));
     form.cbxSpeciesName.UserChoose(1);
@@ -265,6 +304,9 @@ TEST_F(CriteriaEntry, ABlankConservationStatusShowsOneWithoutReachingTheStore) {
     EXPECT_EQ(summary(5).TextMatrix(2, 1), "");
     form.tabCriteria.UserSelectTab(4);
     EXPECT_EQ(summary(5).TextMatrix(2, 1), "1");
+    form.tabCriteria.UserSelectTab(3);
+    type(form.txtCCS, "0.25");
+    EXPECT_EQ(summary(5).TextMatrix(2, 1), "0.25");
 }
 
 TEST_F(CriteriaEntry, TheConservationStatusIsStoredAsTyped) {
@@ -285,6 +327,9 @@ TEST_F(CriteriaEntry, TheDataQualityIsStoredForTheTabOnView) {
         form.cbxDataQuality.UserChoose(tab);
         EXPECT_EQ(summary(10).TextMatrix(2, tab), std::to_string(tab + 1));
     }
+    form.cbxDataQuality.UserChoose(0);
+    EXPECT_EQ(summary(10).TextMatrix(2, 5), "1");
+    form.cbxDataQuality.UserChoose(5);
     EXPECT_THAT(rowOf(summary(10), 1), ElementsAre("Species 1", "1", "1", "1", "1", "1"));
     EXPECT_THAT(rowOf(summary(10), 2), ElementsAre("Species 2", "2", "3", "4", "5", "6"));
 }

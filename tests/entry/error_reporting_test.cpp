@@ -83,6 +83,22 @@ TEST(ErrorReport, HasNoTextForOtherCodes) {
     EXPECT_EQ(static_cast<std::uint32_t>(failure.Number), 0x8004000CU);
 }
 
+TEST(ErrorReport, TakesTheExtraTextIntoTheFirstSpanThatIsMarked) {
+    struct Row {
+        const char* Text;
+        const char* Result;
+    };
+    const Row rows[] = {{"No <name> here", "No 'Otter' here"},
+                        {"<>", "'Otter'"},
+                        {"<a> and <b>", "'Otter' and <b>"},
+                        {"a > b <c>", "a > b 'Otter'"},
+                        {"open <", "open <"},
+                        {"closed >", "closed >"},
+                        {"plain", "plain"},
+                        {"", ""}};
+    for (const Row& row : rows) EXPECT_EQ(WithExtra(row.Text, "Otter"), row.Result);
+}
+
 TEST(IgnoredErrors, SkipOneStatementOnly) {
     int value = 1;
     EXPECT_FALSE(succeeds([&] {

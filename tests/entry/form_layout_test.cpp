@@ -214,6 +214,42 @@ TEST_F(FormLayoutTest, LongTablesWithScrollBarsFillTheirPlace) {
     expectGoodViews();
 }
 
+TEST_F(FormLayoutTest, AResizeFitsTheGridsThatAreOnView) {
+    open(ProjectText(3, 3, 3, 3)
+             .set("HeteroHabitat Population", repeated("2", 9))
+             .set("HeteroJU Individual", repeated("2", 9)));
+    resize(WindowState::Normal, 11000, 7000);
+    for (const int page : {3, 4, 6, 7}) {
+        goTo(page);
+        if (page == 7) select();
+        resize(WindowState::Normal, 15000, 10000);
+        expectGoodView("wider page " + std::to_string(page));
+        resize(WindowState::Normal, 11000, 7000);
+        expectGoodView("narrower page " + std::to_string(page));
+    }
+}
+
+/// Texts of every width, so that some group just does not fit into its row.
+TEST_F(FormLayoutTest, NoFurtherControlOfARowStandsInTheEdgeAtItsRight) {
+    constexpr int Edge = 50;
+    constexpr int FirstLeft = 50;
+    for (int scale = 200; scale <= 360; ++scale) {
+        platform.TextWidth = [scale](std::string_view text, const ui::Font& font) {
+            return liberation_sans::textWidth(text, font) * scale / 200;
+        };
+        resize(WindowState::Normal, 11000, 7000);
+        for (const ui::Control* control : form.Controls()) {
+            const bool flows = control->Kind() == ControlKind::OptionButton ||
+                               control->Kind() == ControlKind::CheckBox ||
+                               &control->Container() == &form.flxBrenicSuite.Container();
+            if (!flows || dynamic_cast<const ui::Grid*>(control) != nullptr || control->Left() == FirstLeft)
+                continue;
+            EXPECT_LE(control->Left() + control->Width(), control->Container().Width() - Edge)
+                << describe(*control) << " at " << scale;
+        }
+    }
+}
+
 TEST_F(FormLayoutTest, UserDefinedBinsAreReadable) {
     open(ProjectText(2, 2, 2, 2)
              .set("Home-range definition", "user-defined bins")
@@ -307,6 +343,15 @@ TEST_F(FormLayoutTest, AFailureOfTheLayoutIsReportedUnderItsName) {
     EXPECT_EQ(error.Description, reportOf("Brenica.ResizeForm", 6, "Overflow"));
 }
 
+TEST_F(FormLayoutTest, AFailureOfTheHomeRangeFrameIsReportedUnderItsName) {
+    platform.TextWidth = [](std::string_view text, const ui::Font& font) {
+        if (text == "new breakpoints") ui::raise(ui::ErrorNumber::Overflow);
+        return liberation_sans::textWidth(text, font);
+    };
+    EXPECT_EQ(failureOf([&] { form.ResizeForm(); }).Description,
+              reportOf("GeneralUtilities.ArrangeHRFrameContents", 6, "Overflow"));
+}
+
 TEST_F(FormLayoutTest, AFailureInAListFrameEndsItSilently) {
     maximise();
     const int before = form.cmdUpdateSpecies.Width();
@@ -340,6 +385,26 @@ void expectPlace(const ui::Control& control, int left, int top, int width, int h
     EXPECT_EQ(control.Top(), top) << control.Name();
     EXPECT_EQ(control.Width(), width) << control.Name();
     EXPECT_EQ(control.Height(), height) << control.Name();
+}
+
+/// Three controls of 1000 with gaps of 100 between them take 3200.
+TEST_F(FormLayoutTest, AGroupThatJustFitsStaysInItsRow) {
+    ui::FormWindow window(platform, "frmTest");
+    ui::ControlArray<ui::Label> labels(window, "lblTest", 4);
+    for (const int right : {4600, 4599}) {
+        layout::Flow flow(100, 50, right, 300);
+        flow.add({{labels(0), 1000, 200}});
+        flow.add({{labels(1), 1000, 200}, {labels(2), 1000, 300}, {labels(3), 1000, 200}});
+        const bool sameRow = right == 4600;
+        EXPECT_EQ(describe(labels(0)), "lblTest(0) at 100,100 1000x200");
+        EXPECT_EQ(describe(labels(1)),
+                  sameRow ? "lblTest(1) at 1400,100 1000x200" : "lblTest(1) at 100,500 1000x200");
+        EXPECT_EQ(describe(labels(2)),
+                  sameRow ? "lblTest(2) at 2500,50 1000x300" : "lblTest(2) at 1200,450 1000x300");
+        EXPECT_EQ(describe(labels(3)),
+                  sameRow ? "lblTest(3) at 3600,100 1000x200" : "lblTest(3) at 2300,500 1000x200");
+        EXPECT_EQ(flow.bottom(), sameRow ? 350 : 750);
+    }
 }
 
 TEST_F(FormLayoutTest, PagesStandInTheirStripBelowOneRowOfTabs) {
@@ -377,6 +442,15 @@ TEST_F(FormLayoutTest, AListPageHasItsGridAtTheLeftAndAColumnOfControlsAtTheRigh
     expectPlace(form.txtRemoveSpeciesIndex, 27150, 6590, 400, 300);
     expectPlace(form.cmdSpeciesMove(0), 26925, 7090, 400, 400);
     expectPlace(form.cmdSpeciesMove(1), 27375, 7090, 400, 400);
+}
+
+TEST_F(FormLayoutTest, TheControlsOfAListShareTheHeightOfItsFrame) {
+    for (int height = 7000; height < 7005; ++height) {
+        resize(WindowState::Normal, 11000, height);
+        const int pitch = (form.flxCandidateSpecies.Container().Height() - 400) / 5;
+        EXPECT_EQ(form.cmdUpdateSpecies.Top() - form.lblAddSpecies.Top(), pitch) << height;
+        EXPECT_EQ(form.cmdRemoveSpecies.Top() - form.cmdUpdateSpecies.Top(), pitch) << height;
+    }
 }
 
 TEST_F(FormLayoutTest, AListFrameWithACaptionKeepsTheSameColumn) {

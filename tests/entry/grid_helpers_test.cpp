@@ -3,6 +3,7 @@
 #include "entry/modFlexGridUtilities.h"
 
 #include <cmath>
+#include <numeric>
 
 #include "entry_fixture.h"
 
@@ -129,6 +130,7 @@ TEST_F(AreaValues, AContinuousHomeRangeIsShownAndABlankAsZero) {
 
 TEST_F(AreaValues, ADefaultBinIsFoundInAnyCase) {
     homeRangeType = 1;
+    form.cbxUserDefBinsHR.ListIndex(0);
     struct Row {
         std::string Text;
         int Index;
@@ -138,6 +140,7 @@ TEST_F(AreaValues, ADefaultBinIsFoundInAnyCase) {
         grid.TextMatrix(1, 3, row.Text);
         load();
         EXPECT_EQ(form.cbxDefaultBinsHR.ListIndex(), row.Index) << row.Text;
+        EXPECT_EQ(form.cbxUserDefBinsHR.ListIndex(), 0) << row.Text;
     }
 }
 
@@ -328,6 +331,18 @@ TEST_F(ResizedGrid, KeepsItsFittedColumnsWhereTheyDoNotFit) {
     ResizeGrid(grid, false, 0);
     EXPECT_EQ(widths(), fitted);
     EXPECT_EQ(grid.Width(), 800);
+}
+
+TEST_F(ResizedGrid, KeepsItsFittedColumnsWhereTheyJustFit) {
+    const int border = grid.Width() - grid.ClientWidth();
+    const int sum = std::accumulate(fitted.begin(), fitted.end(), 0);
+    grid.Width(sum + border);
+    ResizeGrid(grid, false, 0);
+    EXPECT_EQ(grid.Width(), sum + border);
+    grid.Width(sum + border + 1);
+    ResizeGrid(grid, false, 0);
+    EXPECT_NE(grid.Width(), sum + border + 1);
+    EXPECT_NE(widths(), fitted);
 }
 
 TEST_F(ResizedGrid, WithOneColumnOnlyFitsIt) {

@@ -65,6 +65,35 @@ TEST_F(GridPreparation, TicksNothing) {
                 ElementsAre(0, 0, 0, 2));
 }
 
+TEST_F(GridPreparation, UntickedBodyIsAllButTheHeadings) {
+    for (const int size : {4, 2}) {
+        grid.Rows(1);
+        grid.Rows(size);
+        grid.Cols(size);
+        grid.FillStyle = 1;
+        uncheckBody(grid);
+        for (int row = 0; row < size; ++row) {
+            for (int col = 0; col < size; ++col) {
+                grid.Select(row, col);
+                const bool body = row > 0 && col > 0;
+                EXPECT_EQ(grid.CellChecked(), body ? ui::CheckState::Unchecked : ui::CheckState::None)
+                    << row << "," << col;
+            }
+        }
+    }
+}
+
+TEST_F(GridPreparation, WithoutABodyNothingIsSelectedToBeUnticked) {
+    grid.Select(0, 0);
+    for (const auto& [rows, cols] : {std::pair(1, 2), std::pair(2, 1), std::pair(1, 1)}) {
+        grid.Rows(rows);
+        grid.Cols(cols);
+        EXPECT_NO_THROW(uncheckBody(grid)) << rows << "," << cols;
+        EXPECT_THAT((std::vector<int>{grid.Row(), grid.Col(), grid.RowSel(), grid.ColSel()}),
+                    ElementsAre(0, 0, 0, 0));
+    }
+}
+
 TEST_F(GridPreparation, RowsThatAreAddedAreAlignedLeft) {
     InitFlexGrid(grid, 2, Headings, false, 1);
     for (int col = 0; col < 2; ++col) grid.ColAlignment(col, ui::CellAlign::CentreCentre);

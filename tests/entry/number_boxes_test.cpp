@@ -253,6 +253,17 @@ TEST_F(NumberBoxes, EmptyingTheBreakpointsBoxFails) {
     EXPECT_EQ(failure.Description, reportOf("Brenica.txtTotalBins_Change", 13, "Type mismatch"));
 }
 
+class EmptyLists : public EntryTest {};
+
+TEST_F(EmptyLists, HaveNoRowToRemove) {
+    for (const NumberBox& box : form.NumberBoxes()) {
+        if (box.MaximumRows == nullptr || box.MaximumRows->Rows() > 1) continue;
+        box.Box->Enabled(true);
+        type(*box.Box, "1");
+        EXPECT_EQ(box.Box->Text(), "0") << box.Name;
+    }
+}
+
 class KeyFilters : public EntryTest {};
 
 TEST_F(KeyFilters, ControlKeysPassOnlyWithTheirFlag) {

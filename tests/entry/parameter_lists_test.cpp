@@ -126,10 +126,30 @@ TEST_F(ParameterLists, AdditionsDropTheTotalsColumnsAndBlankTheNewOnes) {
     EXPECT_THAT(cells(summary(5), 1, 5, 6), Each(""));
 }
 
+// Adding no species drops the rows of the totals, so that the last row is that of a species.
+TEST_F(ParameterLists, AdditionsBlankTheNewColumnsOfTheLastSpeciesToo) {
+    open(ProjectText(2, 2, 2, 2));
+    goTo(4);
+    goTo(1);
+    addBlank(species(), 0);
+    goTo(2);
+    addBlank(habitats(), 3);
+    addBlank(zones(), 3);
+    addBlank(activities(), 3);
+    for (const int member : {summary::HabitatUse, summary::JurisUnitUse}) {
+        ASSERT_EQ(summary(member).Rows(), 3);
+        EXPECT_THAT(cells(summary(member), 2, 1, 5), ElementsAre("1", "1", "", "", ""));
+    }
+    ASSERT_EQ(summary(summary::Vulnerability).Rows(), 3);
+    EXPECT_THAT(cells(summary(summary::Vulnerability), 2, 5, 7), Each(""));
+}
+
 TEST_F(ParameterLists, WithoutSpeciesTheLongTablesHaveOneRowAnEntry) {
     addBlank(habitats(), 2);
     addBlank(zones(), 2);
     addBlank(activities(), 2);
+    for (const int member : {summary::ThreatsBySpecies, summary::SpeciesByThreat})
+        EXPECT_THAT(cells(summary(member), 2, 0, 4), Each(""));
     EXPECT_THAT(columnOf(summary(2), 0), ElementsAre("Common Name", "", ""));
     EXPECT_THAT(columnOf(summary(3), 0), ElementsAre("Common Name", "1", "2"));
     EXPECT_EQ(summary(6).Rows(), 3);

@@ -80,6 +80,26 @@ TEST_F(ParameterRemoval, OfTheOnlyHabitatOrZoneLeavesOneBlankRowASpecies) {
     EXPECT_EQ(form.flxJurisUnitHetero.Rows(), 1);
 }
 
+TEST_F(ParameterRemoval, OfTheOnlyHabitatOrZoneLeavesTheThreatTables) {
+    open(ProjectText(2, 1, 1, 1));
+    const auto threats = [this] {
+        return std::vector{cellsOf(summary(summary::ThreatsBySpecies)),
+                           cellsOf(summary(summary::SpeciesByThreat))};
+    };
+    const auto before = threats();
+    remove(habitats(), 1);
+    remove(zones(), 1);
+    EXPECT_EQ(threats(), before);
+}
+
+TEST_F(ParameterRemoval, OfTheFirstOfTwoKeepsTheOnlySpeciesName) {
+    open(ProjectText(1, 2, 2, 2));
+    for (const ListControls& list : {habitats(), zones(), activities()}) remove(list, 1);
+    for (const int member :
+         {summary::HabitatsBySpecies, summary::JurisUnitsBySpecies, summary::ThreatsBySpecies})
+        EXPECT_THAT(columnOf(summary(member), 0), ElementsAre("Common Name", "Species 1")) << member;
+}
+
 TEST_F(ParameterRemoval, OfTheOnlyUnitDropsTheTotalsOfTheWideTables) {
     open(ProjectText(2, 1, 1, 1));
     goTo(4);

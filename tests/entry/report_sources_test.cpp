@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Brenica developers
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "entry/cell_editing.h"
 #include "entry/number_boxes.h"
 #include "entry/parameter_lists.h"
 #include "support/form_test.h"
@@ -18,6 +19,16 @@ TEST_F(ReportSources, OfANumberBoxNameTheBox) {
         EXPECT_EQ(box.KeyPressSource, of(*box.Box, "KeyPress"));
         const bool copied = box.Box == &form.txtContinuousHR || box.Box == &form.txtRemoveBinIndex;
         EXPECT_EQ(box.GotFocusSource, of(copied ? form.txtTotalBins : *box.Box, "GotFocus"));
+    }
+}
+
+TEST_F(ReportSources, OfAGridsCellsNameTheGrid) {
+    for (const CellEditing& editing : form.CellEditings()) {
+        const bool offers = !editing.DropDowns.empty();
+        EXPECT_EQ(editing.BeforeEditSource, offers ? of(*editing.Grid, "BeforeEdit") : "");
+        const bool filters = editing.NumberCol != CellEditing::NoCol;
+        EXPECT_EQ(editing.KeyPressEditSource, filters ? of(*editing.Grid, "KeyPressEdit") : "");
+        EXPECT_EQ(editing.ValidateEditSource, editing.Validates ? of(*editing.Grid, "ValidateEdit") : "");
     }
 }
 

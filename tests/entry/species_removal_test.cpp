@@ -133,6 +133,15 @@ TEST_F(SpeciesRemoval, TakesTheSpeciesOutOfTheSelector) {
     EXPECT_EQ(form.cbxSpeciesName.List(1), "Species 3");
 }
 
+TEST_F(SpeciesRemoval, TakesTheLastSpeciesOutOfTheSelectorToo) {
+    open(ProjectText(3, 1, 1, 1));
+    goTo(2);
+    goTo(1);
+    remove(species(), 3);
+    ASSERT_EQ(form.cbxSpeciesName.ListCount(), 2);
+    EXPECT_EQ(form.cbxSpeciesName.List(1), "Species 2");
+}
+
 TEST_F(SpeciesRemoval, LeavesTheSelectorAloneWhileTheFirstNameIsBlank) {
     open(ProjectText(3, 1, 1, 1));
     goTo(2);
@@ -260,4 +269,11 @@ TEST_F(SpeciesSelector, AFreshPositionReloadsTheCriteria) {
     EXPECT_EQ(form.txtCCS.Text(), "0.25");
     form.cbxSpeciesName.UserChoose(1);
     EXPECT_EQ(form.txtCCS.Text(), "0.75");
+}
+
+TEST_F(SpeciesSelector, AFailureNamesIt) {
+    addSpecies({"Lynx"});
+    form.flxCandidateSpecies.Rows(1);
+    EXPECT_EQ(failureOf([&] { form.UpdateSpeciesList(); }).Description,
+              reportOf("Brenica.UpdateSpeciesList", 9, "Subscript out of range"));
 }

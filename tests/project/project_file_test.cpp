@@ -490,6 +490,18 @@ TEST_F(Version1File, TakesTheZonesWhereNoHabitatIsUsed) {
     EXPECT_EQ(occupied(2), "0");
 }
 
+TEST_F(Version1File, TakesTheZonesWhereThereIsNoHabitat) {
+    open(version1(1, 0, 4).set("HeteroJU Individual", "1,0,0,0").set("JU Area", "5,5,10,20"));
+    EXPECT_FALSE(form.ProjectLoading);
+    EXPECT_EQ(occupied(1), "0.125");
+}
+
+TEST_F(Version1File, OccupiesNothingOfAreasThatSumUpToZero) {
+    open(version1(1, 2, 2).set("Habitat Area", "0,0").set("JU Area", "0,0"));
+    EXPECT_TRUE(global.HabitatAreasEntered);
+    EXPECT_EQ(occupied(1), "0");
+}
+
 TEST_F(Version1File, AfterAVersion2FileIsTakenForVersion2) {
     open(ProjectText(1, 1, 1, 1));
     open(version1(2, 1, 1));

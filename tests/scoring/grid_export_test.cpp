@@ -135,6 +135,21 @@ TEST_F(GridExport, ShowsNumbersAgainAfterwards) {
     for (const int member : {0, 1, 5}) EXPECT_TRUE(table(member).Redraw()) << member;
 }
 
+// The long names stand in the headings only while the file is written.
+TEST_F(GridExport, IsNotDrawnWhileItsHeadingsAreNames) {
+    openAt(ProjectText(1, 2, 2, 2), 4);
+    for (const int member : {0, 1, 5}) {
+        int writes = 0;
+        table(member).CellChanged = [&](int, int) {
+            ++writes;
+            EXPECT_FALSE(table(member).Redraw()) << member;
+        };
+        if (member == 5) form.tabCriteriaSummary.UserSelectTab(4);
+        exported({std::to_string(member + 1)});
+        EXPECT_EQ(writes, 4) << member;
+    }
+}
+
 TEST_F(GridExport, TakesTheSummaryTableOnView) {
     openAt(ProjectText(1, 1, 1, 1), 4);
     const std::tuple<int, const char*, const char*> tables[] = {

@@ -49,6 +49,8 @@ TEST_F(ScoreTables, AFurtherClickOnADataRowDoesNothing) {
 TEST_F(ScoreTables, ALaterClickOnAnotherHeadingSorts) {
     openThree();
     original().UserMouseDown(0, 4);
+    EXPECT_EQ(original().Row(), 0);
+    EXPECT_EQ(original().Col(), 4);
     original().UserMouseDown(0, 5);
     // Socio-economics 5, 6, 5: the greatest first, equal ones as they stood.
     EXPECT_THAT(names(1), ElementsAre("Boar", "Crane", "adder"));
@@ -282,6 +284,18 @@ TEST_F(ScoreSwitches, TheBoxForGraphsTurnsBetweenTableAndChart) {
         form.chkShowGraphs.UserClick();
         EXPECT_THAT(shown(), ElementsAre(table));
         EXPECT_FALSE(form.chkShowAggregateScore.Enabled());
+    }
+}
+
+TEST_F(ScoreSwitches, AnotherChoiceOfValuesTakesTheChartOfTheOneBeforeAway) {
+    form.chkShowGraphs.UserClick();
+    for (const char* chart : {"C0", "C2"}) {
+        EXPECT_THAT(shown(), ElementsAre(chart));
+        form.optScoreDisplay(1).UserClick();
+        EXPECT_THAT(shown(), ElementsAre("C1"));
+        form.optScoreDisplay(0).UserClick();
+        EXPECT_THAT(shown(), ElementsAre(chart));
+        form.chkShowAggregateScore.UserClick();
     }
 }
 

@@ -463,6 +463,12 @@ TEST_F(SummaryTips, ExplainTheTotalsAndNameTheUnits) {
         EXPECT_EQ(tipAt(member, row, col), tip) << member << ": " << row << "," << col;
 }
 
+TEST_F(SummaryTips, NameTheUnitsOfASingleSpecies) {
+    openAt(ProjectText(1, 2, 2, 2), 4);
+    EXPECT_EQ(tipAt(0, 0, 1), "Habitat 1");
+    EXPECT_EQ(tipAt(5, 0, 4), "Activity 2");
+}
+
 TEST_F(SummaryTips, AreEmptyOverDataAndTheFirstColumn) {
     openAt(project(), 4);
     for (const int member : {0, 1, 5}) {

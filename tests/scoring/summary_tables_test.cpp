@@ -33,6 +33,14 @@ TEST_F(SummaryWriteThrough, ALevelOfUseOfAZoneLikewise) {
     EXPECT_EQ(table(2).TextMatrix(1, use::Level), "1");
 }
 
+TEST_F(SummaryWriteThrough, ASpeciesNameThatIsANumberIsNoLevel) {
+    openAt(ProjectText(1, 2, 2, 1).set("Common Name", "7"), 4);
+    for (const int member : {0, 1}) {
+        edit(member, 1, 2, "3");
+        EXPECT_THAT(tableRow(member, 1), ElementsAre("7", "1", "3", "", "4", "2"));
+    }
+}
+
 TEST_F(SummaryWriteThrough, ABlankLevelCountsNothing) {
     openAt(ProjectText(1, 2, 1, 1), 4);
     table(0).TextMatrix(1, 1, " ");
@@ -55,6 +63,8 @@ TEST_F(SummaryWriteThrough, ALevelThatIsNoNumberReachesTheLongTableWithoutAMessa
     platform.Transcript.clear();
     table(0).TextMatrix(1, 1, "x");
     EXPECT_EQ(table(2).TextMatrix(1, use::Level), "x");
+    EXPECT_THAT(tableRow(0, 1), ElementsAre("Species 1", "x", "1", "", "1", "1"));
+    EXPECT_THAT(columnOf(table(0), 1), ElementsAre("1", "x", "", "0", "0"));
     EXPECT_THAT(platform.Transcript, testing::IsEmpty());
 }
 
@@ -94,6 +104,16 @@ TEST_F(SummaryWriteThrough, ARatingReachesTheTableInTheOtherOrder) {
     edit(7, 12, 2, "0");
     EXPECT_EQ(table(6).TextMatrix(12, threat::Severity), "0");
     EXPECT_EQ(table(6).TextMatrix(4, threat::Severity), "1");
+}
+
+TEST_F(SummaryWriteThrough, ANameInTheTableByThreatIsNoRating) {
+    openAt(ProjectText(1, 1, 1, 1), 3);
+    goTo(4);
+    form.tabCriteriaSummary.UserSelectTab(6);
+    const auto before = tableRow(6, 1);
+    edit(7, 1, 1, "Lynx");
+    EXPECT_EQ(tableRow(6, 1), before);
+    EXPECT_EQ(table(7).TextMatrix(1, 1), "Lynx");
 }
 
 TEST_F(SummaryWriteThrough, ARatingNeedsASpeciesOnTheCriteriaPageAndItsTab) {

@@ -48,6 +48,16 @@ TEST_F(UnitUse, PaintsTheTotalsAndSetsTheirLabelsInBold) {
     }
 }
 
+TEST_F(UnitUse, HeadingsThatWereLabelsOfTotalsAreNoLongerBold) {
+    openAt(ProjectText(1, 2, 1, 1), 4);
+    ASSERT_TRUE(table(0).IsBold(0, 4));
+    goTo(2);
+    addHabitats({"Bog", "Fen", "Heath"});
+    goTo(4);
+    for (int col = 0; col < table(0).Cols(); ++col)
+        EXPECT_EQ(table(0).IsBold(0, col), col >= table(0).Cols() - 2) << col;
+}
+
 TEST_F(UnitUse, WipesTheColoursOfAnEarlierRun) {
     openAt(ProjectText(2, 2, 1, 1), 4);
     table(0).Select(1, 1);
@@ -166,6 +176,11 @@ TEST_F(OccupancyHint, RoundsTheProportionOnly) {
                     "landscape occupied according to habitats is 0.382 or less."));
 }
 
+TEST_F(OccupancyHint, ComparesSmallAreasToo) {
+    EXPECT_THAT(hintOf(project().set("Habitat Area", "0.75,0.25").set("HeteroHabitat Population", "1,0")),
+                testing::HasSubstr("(Area = 0.75) out of 2 (Area = 1) used"));
+}
+
 TEST_F(OccupancyHint, AnyLevelButZeroCountsWithTheFullArea) {
     EXPECT_THAT(hintOf(project().set("HeteroHabitat Population", "0.4,0")),
                 testing::HasSubstr("With 0 habitat types (Area = 30) out of 2 (Area = 40)"));
@@ -215,4 +230,9 @@ TEST_F(OccupancyHint, SaysNothingOfHabitatsWhoseAreasSumUpToZero) {
         hintOf(project().set("Habitat Area", "0,0")),
         "Hint: \r\n With 2 management zones (Area = 6) out of 2 (Area = 6) used or required the proportion of the "
         "landscape occupied according to management zone is 1 or less.");
+}
+
+TEST_F(OccupancyHint, SaysNothingOfHabitatsWhoseAreasSumUpToLessThanZero) {
+    EXPECT_THAT(hintOf(project().set("Habitat Area", "-1,0.5")),
+                testing::StartsWith("Hint: \r\n With 2 management zones"));
 }

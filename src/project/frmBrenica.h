@@ -22,6 +22,11 @@
 #include "ui/event.h"
 #include "ui/files.h"
 
+namespace method {
+class Table;
+struct Landscape;
+}  // namespace method
+
 /// The main form: all controls of frmBrenicaControls, the form's own fields and every procedure. Its grids are the
 /// project. Each group of procedures is implemented in the folder of its subsystem, in the file named beside it.
 ///
@@ -407,8 +412,8 @@ private:
     void appendRecord(int importCase, const std::vector<std::string>& fields);
 
     // selection/complementarity.cpp
-    bool readsRatings(int threatNumber) const;
-    bool lacksGrades(int species, const std::vector<int>& threatsRead) const;
+    std::optional<SelectionObstacle> obstacleIn(const method::Landscape& landscape,
+                                                const method::Table& threatScores) const;
 
     // selection/results_export.cpp
     void printResult(std::string_view line);

@@ -1,8 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Brenica developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <algorithm>
-
 #include "entry/modErrorHandling.h"
+#include "method/missing.h"
 #include "project/frmBrenica.h"
 #include "scoring/landscape_reader.h"
 #include "selection/selection.h"
@@ -25,6 +24,12 @@ method::Landscape landscapeOf(const frmBrenica& form, const modGlobal& global) {
     return landscape;
 }
 
+method::Levels selectionLevels(const modGlobal& global) {
+    return {.Margin = global.ErrorMargin,
+            .ThreatRepresentation = global.ThreatRepresentation,
+            .ConservationStatus = global.ConservationStatusRepresentation};
+}
+
 /// The cell over which a selection could not start.
 CellPlace startCell(const frmBrenica& form, const method::Failure& failure) {
     const int row = tableIndex(failure.Row);
@@ -36,63 +41,27 @@ CellPlace startCell(const frmBrenica& form, const method::Failure& failure) {
 
 }  // namespace
 
-/// A threat to which nobody is exposed is represented by every species: the first pick covers it, and its ratings are
-/// never read.
-bool frmBrenica::readsRatings(int threatNumber) const {
-    if (!(global_.ThreatRepresentation > 0)) return false;
-    const ui::Grid& scores = flxSummary(summary::Vulnerability);
-    for (int species = 1; species <= global_.TotalSpecies; ++species) {
-        const auto score =
-            ui::tryReal(scores.TextMatrix(species, threatNumber + vulnerability::ThreatOffset), separator());
-        if (score && *score > 0) return true;
-    }
-    return false;
-}
-
-/// Whether a grade of a species is blank that a selection in which it takes part reads: what was added to the lists
-/// since the scores has none.
-bool frmBrenica::lacksGrades(int species, const std::vector<int>& threatsRead) const {
-    const auto lacksLevel = [&](int member, int units) {
-        for (int unit = 1; unit <= units; ++unit) {
-            if (ui::isBlank(flxSummary(member).TextMatrix(blockRow(species, units, unit), use::Level)))
-                return true;
-        }
-        return false;
-    };
-    const auto lacksRating = [&](int threatNumber) {
-        const int row = blockRow(species, global_.TotalLandUses, threatNumber);
-        return ui::isBlank(flxSummary(summary::ThreatsBySpecies).TextMatrix(row, threat::Severity)) ||
-               ui::isBlank(flxSummary(summary::ThreatsBySpecies).TextMatrix(row, threat::Recovery)) ||
-               ui::isBlank(flxSummary(summary::ThreatsBySpecies).TextMatrix(row, threat::Proportion));
-    };
-    return lacksLevel(summary::HabitatsBySpecies, global_.TotalHabitatTypes) ||
-           lacksLevel(summary::JurisUnitsBySpecies, global_.TotalJurisUnits) ||
-           std::any_of(threatsRead.begin(), threatsRead.end(), lacksRating);
-}
-
 std::optional<SelectionObstacle> frmBrenica::FindSelectionObstacle() const {
-    const int total = global_.TotalSpecies;
-    if (total < 1) return SelectionObstacle::NoSpecies;
+    return obstacleIn(
+        landscapeOf(*this, global_),
+        threatScoresOf(flxSummary(summary::Vulnerability), global_.TotalSpecies, global_.TotalLandUses));
+}
+
+/// What was added to the lists since the scores has blank cells.
+std::optional<SelectionObstacle> frmBrenica::obstacleIn(const method::Landscape& landscape,
+                                                        const method::Table& threatScores) const {
+    if (global_.TotalSpecies < 1) return SelectionObstacle::NoSpecies;
     const auto blankIn = [&](const ui::Grid& grid, int col) {
-        for (int species = 1; species <= total; ++species) {
+        for (int species = 1; species <= global_.TotalSpecies; ++species) {
             if (ui::isBlank(grid.TextMatrix(species, col))) return true;
         }
         return false;
     };
-    const ui::Grid& vulnerabilities = flxSummary(summary::Vulnerability);
     if (blankIn(flxScores(0), score::Aggregate)) return SelectionObstacle::OldScores;
-    if (blankIn(vulnerabilities, vulnerability::ConservationStatus)) return SelectionObstacle::NoStatus;
-
-    std::vector<int> threatsRead;
-    for (int t = 1; t <= global_.TotalLandUses; ++t) {
-        if (readsRatings(t)) threatsRead.push_back(t);
-    }
-    for (int species = 1; species <= total; ++species) {
-        const auto status =
-            ui::tryReal(vulnerabilities.TextMatrix(species, vulnerability::ConservationStatus), separator());
-        const bool takesPart = status && *status <= global_.ConservationStatusRepresentation;
-        if (takesPart && lacksGrades(species, threatsRead)) return SelectionObstacle::OldScores;
-    }
+    if (blankIn(flxSummary(summary::Vulnerability), vulnerability::ConservationStatus))
+        return SelectionObstacle::NoStatus;
+    if (method::lacksGrades(landscape, threatScores, selectionLevels(global_)))
+        return SelectionObstacle::OldScores;
     return {};
 }
 
@@ -103,18 +72,15 @@ void frmBrenica::cmdComplement_Click() try {
     global_.ErrorMargin = txtErrorMargin.Real();
     global_.ThreatRepresentation = txtThreatRep.Real();
     global_.ConservationStatusRepresentation = txtCCSRep.Real();
-    if (const auto obstacle = FindSelectionObstacle()) return SelectionRefused(*obstacle);
+    const method::Landscape landscape = landscapeOf(*this, global_);
+    const method::Table threatScores =
+        threatScoresOf(flxSummary(summary::Vulnerability), global_.TotalSpecies, global_.TotalLandUses);
+    if (const auto obstacle = obstacleIn(landscape, threatScores)) return SelectionRefused(*obstacle);
     for (ui::Grid& grid : flxCompResults) grid.Rows(1);
 
-    const method::Landscape landscape = landscapeOf(*this, global_);
     method::Selection selection;
-    selection.load(landscape, threatScoresOf(flxSummary(summary::Vulnerability), global_.TotalSpecies,
-                                             global_.TotalLandUses));
-    const auto failure = failureOf([&] {
-        selection.start({.Margin = global_.ErrorMargin,
-                         .ThreatRepresentation = global_.ThreatRepresentation,
-                         .ConservationStatus = global_.ConservationStatusRepresentation});
-    });
+    selection.load(landscape, threatScores);
+    const auto failure = failureOf([&] { selection.start(selectionLevels(global_)); });
     if (failure) modBrenicaUtilities::raiseFailure(*failure, startCell(*this, *failure));
 
     // Back in candidate order, however the user sorted it, so that row i is candidate i.

@@ -12,7 +12,7 @@ from pathlib import Path
 LINKED = ("CMakeLists.txt", "CMakePresets.json", "examples", "packaging", "tests", "LICENSE", "README.md")
 FLAGS = "-w -O1 -D_GLIBCXX_ASSERTIONS"
 # By what a run costs; a mutant is shown first to the tests of its own folder.
-FOLDERS = ("scoring", "selection", "graphs", "project", "entry", "ui", "batch", "memory")
+FOLDERS = ("method", "scoring", "selection", "graphs", "project", "entry", "ui", "batch", "memory")
 MEMORY = 3 << 30
 WALL_SECONDS = 600
 

@@ -167,6 +167,7 @@ void frmBrenica::growLongTable(const ParameterList& list, int added, int oldRows
     ui::Grid& grid = flxSummary(list.LongMember);
     if (global_.TotalSpecies == 0) return UpdateFlexGrid(grid, added, list.EntryNumbered);
     const int first = oldRows == 1 ? 2 : oldRows;
+    grid.ReserveRows(static_cast<long long>(global_.TotalSpecies) * (oldRows + added - first));
     for (int species = 1; species <= global_.TotalSpecies; ++species) {
         for (int unit = first; unit <= oldRows + added - 1; ++unit) {
             grid.AddItem("", blockRow(species, global_.*list.Total, unit));
@@ -178,7 +179,9 @@ void frmBrenica::growLongTable(const ParameterList& list, int added, int oldRows
 void frmBrenica::growThreatTable(int added, int oldRows) {
     ui::Grid& grid = flxSummary(summary::SpeciesByThreat);
     if (global_.TotalSpecies == 0) return UpdateFlexGrid(grid, added, false);
-    for (int threatNumber = oldRows == 1 ? 2 : oldRows; threatNumber <= oldRows + added - 1; ++threatNumber) {
+    const int first = oldRows == 1 ? 2 : oldRows;
+    grid.ReserveRows(static_cast<long long>(global_.TotalSpecies) * (oldRows + added - first));
+    for (int threatNumber = first; threatNumber <= oldRows + added - 1; ++threatNumber) {
         for (int species = 1; species <= global_.TotalSpecies; ++species) {
             grid.AddItem("");
             grid.TextMatrix(grid.Rows() - 1, 1, grid.TextMatrix(species, 1));

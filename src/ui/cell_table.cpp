@@ -129,6 +129,11 @@ void CellTable::insertRow(std::size_t index) {
     formatIds_.insert(index);
 }
 
+void CellTable::reserveRows(std::size_t more) {
+    cells_.reserve(more);
+    formatIds_.reserve(more);
+}
+
 void CellTable::eraseRow(std::size_t index) {
     releaseTexts(index, 0);
     formats_.release(*formatIds_[index]);

@@ -156,6 +156,8 @@ public:
     void resizeRows(std::size_t count);
     void resizeCols(std::size_t count);
     void insertRow(std::size_t index);
+    /// Room for just so many more rows.
+    void reserveRows(std::size_t more);
     void eraseRow(std::size_t index);
     /// Puts the rows from `first` on into a new order: row first + i becomes what row first + places[i] was.
     void reorder(std::size_t first, std::span<const std::size_t> places);

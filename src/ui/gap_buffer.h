@@ -26,7 +26,15 @@ public:
 
     /// Room for one more row: the next insertion needs no memory.
     void makeRoom() {
-        if (gapLength_ == 0) grow();
+        if (gapLength_ == 0) growBy(std::max<std::size_t>(8, rows_ / 2));
+    }
+
+    /// Room for just so many more rows.
+    void reserve(std::size_t more) {
+        if (gapLength_ >= more) return;
+        const std::size_t missing = more - gapLength_;
+        moveGap(size());
+        growBy(missing);
     }
 
     /// Puts a row of empty elements before the row of that index.
@@ -86,12 +94,13 @@ private:
         gapLength_ = 0;
     }
 
-    void grow() {
-        const std::size_t room = std::max<std::size_t>(8, rows_ / 2);
-        slots_.resize((rows_ + room) * width_);
-        gapStart_ = rows_;
-        gapLength_ = room;
-        rows_ += room;
+    /// The gap is empty or stands at the end.
+    void growBy(std::size_t more) {
+        slots_.reserve((rows_ + more) * width_);  // resize alone would take twice what there was
+        slots_.resize((rows_ + more) * width_);
+        gapStart_ = rows_ - gapLength_;
+        rows_ += more;
+        gapLength_ += more;
     }
 
     std::size_t width_;

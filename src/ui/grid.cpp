@@ -63,6 +63,10 @@ void Grid::AddItem(std::string_view text, int row) {
     forgetWidths();
 }
 
+void Grid::ReserveRows(long long more) {
+    if (more > 0 && (Rows() + more) * Cols() <= MostCells) cells_.reserveRows(static_cast<std::size_t>(more));
+}
+
 void Grid::RemoveItem(int row) {
     if (row < 0 || row >= Rows()) raise(ErrorNumber::SubscriptOutOfRange);
     reportChange();

@@ -53,6 +53,9 @@ public:
     /// Adds a row with `text` in its first cell, at the end or before `row`.
     void AddItem(std::string_view text) { AddItem(text, Rows()); }
     void AddItem(std::string_view text, int row);
+    /// To be called before so many rows are added one by one, which then take no more memory than they need. Changes
+    /// nothing else, nor is it held to what a grid has room for.
+    void ReserveRows(long long more);
     void RemoveItem(int row);
 
     // Cells.

@@ -126,6 +126,32 @@ Conversion convert(std::string_view text, DecimalSeparator separator) {
     return valueOf(number);
 }
 
+/// How many thousandths a number is, where it is the double nearest to a whole number of them: nearly every score. So
+/// few digits are those that any conversion gives.
+std::optional<std::int64_t> wholeThousandths(double value) {
+    constexpr double Largest = 1e9;
+    if (!(std::abs(value) < Largest)) return std::nullopt;
+    const double thousandths = std::nearbyint(value * 1000);
+    if (thousandths / 1000 != value) return std::nullopt;
+    return static_cast<std::int64_t>(thousandths);
+}
+
+std::string decimalText(std::int64_t thousandths) {
+    std::array<char, 24> buffer{};
+    const std::int64_t size = thousandths < 0 ? -thousandths : thousandths;
+    char* end = buffer.data();
+    if (thousandths < 0) *end++ = '-';
+    end = std::to_chars(end, buffer.data() + buffer.size(), size / 1000).ptr;
+    if (auto rest = static_cast<int>(size % 1000)) {
+        *end++ = '.';
+        for (int place = 100; rest > 0; place /= 10) {
+            *end++ = static_cast<char>('0' + rest / place);
+            rest %= place;
+        }
+    }
+    return {buffer.data(), end};
+}
+
 }  // namespace
 
 double toReal(std::string_view text, DecimalSeparator separator) {
@@ -170,9 +196,7 @@ std::string toText(std::int32_t value) { return std::to_string(value); }
 
 std::string toText(double value) {
     finite(value);
-    constexpr double LargestShort = 1e9;
-    if (std::abs(value) < LargestShort && value == std::nearbyint(value))
-        return toText(static_cast<std::int32_t>(value));
+    if (const auto thousandths = wholeThousandths(value)) return decimalText(*thousandths);
     // Scientific form gives the digits and the exponent; the point is then put by hand, since no exponent is shown.
     std::array<char, 40> buffer{};
     const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,

@@ -5,6 +5,8 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <cstdint>
+#include <cstdio>
 #include <limits>
 #include <random>
 #include <string>
@@ -190,6 +192,25 @@ TEST(NumberToText, GivesBackEveryDecimalOfUpToFifteenDigitsAsItWasRead) {
         if (!fraction.empty()) text += "." + fraction;
         ASSERT_EQ(ui::toText(ui::toReal(text)), text);
     }
+}
+
+TEST(NumberToText, TellsAThousandthFromTheNumbersBesideIt) {
+    std::mt19937_64 random(20261122);
+    for (int round = 0; round < 20000; ++round) {
+        const auto range = static_cast<std::int64_t>(1) << (10 + random() % 33);
+        const double thousandth =
+            static_cast<double>(static_cast<std::int64_t>(random() % static_cast<std::uint64_t>(range)) -
+                                range / 2) /
+            1000;
+        for (double value :
+             {thousandth, std::nextafter(thousandth, 1e300), std::nextafter(thousandth, -1e300)}) {
+            if (std::abs(value) < 1e-4) continue;  // written there with an exponent
+            char expected[40];
+            std::snprintf(expected, sizeof expected, "%.15g", value);
+            ASSERT_EQ(ui::toText(value), expected);
+        }
+    }
+    EXPECT_EQ(ui::toText(-0.0), "0");
 }
 
 TEST(Rounding, GoesToTheNearestWithHalvesToEven) {

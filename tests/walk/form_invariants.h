@@ -14,10 +14,10 @@
 struct Leeway {
     /// A command that clears the project was told No by a gate: the tab strip stays on the page that refused.
     bool StrayPage = false;
-    /// Removing a habitat or zone shifts no cells of its cross table.
+    /// Removing a habitat or zone shifts no cells of its cross table before the next calculation of use.
     bool StrayHabitatCells = false;
     bool StrayZoneCells = false;
-    /// A rating edited in the table by activity while there is no activity goes to the first row of the table by species.
+    /// A rating edited in the table by activity while there is no activity stands there alone.
     bool StrayRatings = false;
     /// Removal leaves the data quality table's rows as they are: how many there were.
     int DataQualityRows = 1;

@@ -179,6 +179,10 @@ inline void Walker::lookOver(Deed deed) {
 inline void Walker::noteRemovals() {
     if (global.TotalHabitatTypes < habitatsBefore_) leeway_.StrayHabitatCells = true;
     if (global.TotalJurisUnits < zonesBefore_) leeway_.StrayZoneCells = true;
+    // From the pages before, each of these is entered with a calculation of use.
+    if (form.CurrentMainTab < page::Summary) return;
+    leeway_.StrayHabitatCells = false;
+    leeway_.StrayZoneCells = false;
 }
 
 inline void Walker::trackShapes() {

@@ -14,7 +14,7 @@
 namespace method {
 
 /// c(s) ≤ level: such a species takes part in the selection. Element s is false for one that is excluded. Throws
-/// Failure (Start) at the first status that is no number.
+/// Failure (Start) at the first status that is no number, a blank one too.
 std::vector<bool> eligible(std::span<const double> status, double level);
 
 /// L(u) as the comparison takes it: to the nearest whole number, halves to even. Throws Failure (Start) at the first
@@ -29,7 +29,7 @@ inline bool represents(double level, double threshold) { return level >= thresho
 std::vector<double> highestThreatScores(const Table& scores);
 
 /// ρ × max M(·,t) ≤ M(s,t), with the level ρ of threat representation: the score that is needed is `representation`
-/// times the highest.
+/// times the highest, in binary doubles and without tolerance.
 inline bool representsThreat(double score, double needed) { return needed <= score; }
 
 /// The units that each species represents.

@@ -44,13 +44,14 @@ enum class Quantity {
     Occupied,
     Function,  ///< Row is the species, Column the item
     SocioEconomicValue,
-    Score,      ///< Row is the species or the row of the block, Column the criterion
-    Aggregate,  ///< Row is the species or the row of the block
+    /// Row is the species or the row of the block, Column the criterion, or Criteria (5) for the aggregate.
+    Score,
+    Aggregate,  ///< where the margin is looked at: Row is the row of the block
     Candidate,  ///< Row is a row past the end of the block
 };
 
 enum class Cause {
-    NoNumber,  ///< the value is missing or no number
+    NoNumber,  ///< the value is Blank or Unreadable
     TooLarge,  ///< a result is outside the range of its numbers
     NoRow,     ///< there is no such row
 };

@@ -15,7 +15,8 @@
 ///     h   a habitat type     z   a management zone     t   a threat (a human activity)     each from 0
 ///     unit   any of the three
 ///
-/// Any value may be Blank or Unreadable. It then fails in the step that reads it, and in no other.
+/// Any value may be Blank or Unreadable. As a rule it then fails in the step that reads it, and in no other. Elsewhere
+/// another value stands in for it: see scoreThreats, scaleHomeRanges and use.h.
 namespace method {
 
 /// Numbers for each species and item, one row a species.
@@ -38,12 +39,15 @@ private:
     std::vector<double> cells_;
 };
 
-/// How a threat touches a species. Urgency and probability belong to the threat and are the same in each row.
+/// How a threat touches a species, the higher the worse. Urgency and probability belong to the threat and are the same
+/// in each row.
 struct ThreatRatings {
-    Table Urgency;      ///< u(s,t), 0 to 3: how soon the activity begins
-    Table Recovery;     ///< r(s,t), 0 to 3: how long the species needs to recover
-    Table Severity;     ///< v(s,t), 0 to 3
-    Table Proportion;   ///< p(s,t), 0 to 4: class of the share of the local distribution that is affected
+    Table Urgency;   ///< u(s,t), 0 to 3: how soon the activity begins; 0 not within 10 years, 3 present
+    Table Recovery;  ///< r(s,t), 0 to 3: time to recover; 0 less than a year, 3 over 100 years or never
+    Table Severity;  ///< v(s,t), 0 to 3: 0 none or positive, 3 serious
+    /// p(s,t), 0 to 4: class of the share of the local distribution that is affected; 0 none, 1 up to 0.1, 2 up to
+    /// 0.25, 3 up to 0.5, 4 more.
+    Table Proportion;
     Table Probability;  ///< q(s,t), 0 to 1: probability that the activity occurs
 
     std::size_t species() const { return Severity.rows(); }
@@ -57,7 +61,7 @@ struct HomeRanges {
     Kind In = Kind::Areas;
     std::size_t Classes = 0;  ///< n, where they are classes
     /// a(s) in km², or the number of the class, 1 to n. Blank is no home range and counts 0. An Unreadable class is one
-    /// that the list of classes does not have: the species takes that of the species before it.
+    /// that the list of classes does not have: the species takes the last readable class before it, or 0.
     std::vector<double> Values;
 };
 
@@ -67,10 +71,11 @@ struct Landscape {
     std::vector<double>
         HabitatThresholds;               ///< L(h): level of use from which on the habitat counts as covered
     std::vector<double> ZoneThresholds;  ///< L(z)
-    std::vector<double> HabitatAreas;    ///< any unit of area; enter no score
+    std::vector<double> HabitatAreas;    ///< any unit of area; enter no score, but bound o(s)
     std::vector<double> ZoneAreas;
     ThreatRatings Ratings;
-    std::vector<double> Status;  ///< c(s), 0 to 1: current conservation status, the higher the better
+    /// c(s), 0 to 1: current conservation status, the higher the better; Red List categories rise with the threat.
+    std::vector<double> Status;
     std::vector<std::uint8_t> Dispersal;     ///< 1 for a species that disperses farther than 10 km, else 0
     std::vector<std::uint8_t> Connectivity;  ///< 1 for a species that needs its habitats connected, else 0
     HomeRanges Ranges;

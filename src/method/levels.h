@@ -6,7 +6,8 @@ namespace method {
 
 /// The three levels that a planner sets before a selection.
 struct Levels {
-    /// Percent, 0 to 100, of the best aggregate: species no farther below it count as equal to the best.
+    /// Percent, 0 to 100, of the best aggregate, a tolerance for near ties: between species no farther below it a
+    /// Chooser decides.
     double Margin = 5;
     /// Share, 0 to 1, of the highest score for a threat from which on a species represents the threat.
     double ThreatRepresentation = 0.5;

@@ -9,7 +9,8 @@
 
 #include "method/block.h"
 
-/// Species whose aggregates lie close together are not told apart by a small difference: the planner decides.
+/// Species whose aggregates lie close together are not told apart by a small difference: the planner decides. The
+/// margin of error is a tolerance, not a statistic.
 namespace method {
 
 /// What the planner decides about.
@@ -25,17 +26,17 @@ struct MarginBand {
 class Chooser {
 public:
     virtual ~Chooser() = default;
-    /// Offset of the species in the block; an omitted one is taken as well. What it throws ends the selection.
-    /// Called only where Count is above 0.
+    /// Offset of the species in the block; an omitted one may be returned; it is then dropped. What it throws
+    /// ends the selection. Called only where Count is above 0.
     virtual std::size_t choose(const MarginBand& band) = 0;
 };
 
 /// The ways to decide that a planner is offered.
 enum class Rule {
     Aggregate,       ///< a: the top species
-    Heterogeneity,   ///< b: the last one that beats the first row of the block
+    Heterogeneity,   ///< b: the last one that beats the first row of the block; else that row
     Threats,         ///< c: the same with the vulnerability score
-    SocioEconomics,  ///< d: the last one, where the block's second row beats its first
+    SocioEconomics,  ///< d: the last one, where the block's second row beats its first; else the first
     Number,          ///< e: the planner names one
 };
 
@@ -49,8 +50,9 @@ struct Decision {
 /// the race. Throws Failure (Choice) where the band reaches past the block, or for a score that is no number.
 std::vector<std::size_t> listed(const MarginBand& band);
 
-/// What a rule says. The first row of the block is the measure throughout, also where it was omitted; rows that were
-/// omitted may win. Throws Failure (Choice) past the block.
+/// What a rule says. The first row of the block is the measure throughout, also where it was omitted, and the answer
+/// where none beats it; rows that were omitted may win. One equal value makes a tie, also where another row beats the
+/// first. Throws Failure (Choice) past the block.
 Decision decide(const MarginBand& band, Rule rule);
 
 /// Offset of the species with this number in the list that a planner is shown, from 1. Numbers run over all rows from

@@ -8,8 +8,8 @@
 #include <cstddef>
 #include <cstdint>
 
-/// Every number of the method passes from step to step as a table shows it: rounded, and with the 15 digits that a text
-/// keeps. Here stands what a table would say, without a table.
+/// Most numbers of the method pass from step to step as a table shows them: rounded, and with the 15 digits that a text
+/// keeps. This reproduces the rounding that a printed table would cause. "No number" is Blank or Unreadable.
 namespace method {
 
 /// A value that is missing: nothing was entered. Some steps take it for 0; where a number is needed it fails.
@@ -48,7 +48,7 @@ inline double roundTo(double value, int places) {
 /// numbers are rounded up beyond the range.
 double asWritten(double value);
 
-/// roundTo and asWritten in one: what the next step reads.
+/// roundTo and asWritten in one: the rounding that a printed table would cause.
 inline double shownTo(double value, int places) {
     const double rounded = roundTo(value, places);
     // So far from the limit of 15 digits the text says exactly what was rounded.

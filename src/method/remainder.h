@@ -19,8 +19,8 @@ double heterogeneityLeft(double habitatSum, double zoneSum, std::size_t species)
 double vulnerabilityLeft(const ThreatRatings& ratings, double status, UnitSpan<const Word> coveredThreats,
                          std::size_t species);
 
-/// The sums of all species, kept up to date from pass to pass, each in the bits that adding up anew would give: what is
-/// 0 changes no sum, and where a sum is exact in any order what was covered can be taken off.
+/// The sums of all species, kept up to date from pass to pass, bit-identical to fresh sums: it subtracts what was
+/// covered where sums are exact in any order, else adds up again. What is 0 changes no sum.
 class Remainder {
 public:
     /// The landscape must outlive this.

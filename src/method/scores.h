@@ -31,8 +31,8 @@ private:
 };
 
 /// R(s), all home ranges on one scale: 3 × a(s) / max a for areas, 3 × k / n for class k of n; 0 without one, and for
-/// all where no area is above 0. A species whose class is in no list has the class of the one before it, or 0.
-/// Throws Failure (HomeRangeScale) for an area that is no number.
+/// all where no area is above 0. A species whose class is Unreadable has the last readable class before it, or 0.
+/// Throws Failure (HomeRangeScale) for an Unreadable area.
 std::vector<double> scaleHomeRanges(const HomeRanges& ranges);
 
 /// H(s) = Σ l(s,h) + Σ l(s,h) + Σ l(s,z): habitats count twice. Throws Failure for a level that is no number, a blank
@@ -58,9 +58,10 @@ struct Scores {
     std::vector<CriterionScores> Original;
     /// The highest of each criterion before rounding, at least 0.
     CriterionScores Highest{0};
-    /// Original, in 15 digits, / Highest to 3 decimals; 0 where Highest is 0.
+    /// (Original, in 15 digits, / Highest), to 3 decimals; 0 where Highest is 0. May exceed 1 where Highest is below 1:
+    /// Original is rounded, Highest is not.
     std::vector<CriterionScores> Normalised;
-    /// Sum of the five normalised scores, 0 to 5, as the ranks take it.
+    /// Sum of the five normalised scores, 0 to 5 but for rounding, as the ranks take it: not rounded itself.
     std::vector<double> Sum;
     /// The same to 3 decimals.
     std::vector<double> Aggregate;

@@ -51,6 +51,7 @@ public:
     virtual void normalised(std::size_t /*offset*/, Criterion, double /*score*/) {}
     virtual void aggregated(std::size_t /*offset*/, double /*aggregate*/) {}
     virtual void sorted(const Block&) {}
+    /// The place in the block, from 1; not the rank in Scores.
     virtual void ranked(std::size_t /*offset*/, int /*rank*/) {}
     /// In a later pass a row that adds nothing leaves the race as it is ranked.
     virtual void omitted(std::size_t /*offset*/) {}
@@ -58,7 +59,8 @@ public:
     virtual void withinMargin(std::size_t /*offset*/) {}
     /// The species that was picked covers a unit that nothing covered before.
     virtual void firstCovered(Unit, std::size_t /*unit*/, int /*pick*/) {}
-    /// It joins the suite, or, in the first pass alone, is omitted since it adds nothing.
+    /// It joins the suite, or, in the first pass alone, is omitted since it adds nothing. A later pick that is dropped
+    /// is not told.
     virtual void joined(std::size_t /*offset*/, int /*pick*/, const Additions&) {}
     virtual void pickOmitted(std::size_t /*offset*/) {}
     virtual void ended(const Suite&) {}
@@ -88,8 +90,9 @@ public:
     void start(const Levels& levels);
 
     /// The passes. `chooser` is asked where species lie within the margin of error; a listener costs what it does, none
-    /// costs nothing. Throws Failure, or what the two throw; suite() then tells how far it came. In particular a pass in
-    /// which all are omitted fails (Selection, NoRow), since there is nobody left to pick. REQUIRES: loadScores(), start()
+    /// costs nothing. Throws Failure, or what the two throw; suite() then tells how far it came. In particular a pass
+    /// in which all are omitted fails (Selection, NoRow), since there is nobody left to pick; so does the first where
+    /// all are excluded. REQUIRES: loadScores(), start()
     void run(Chooser& chooser, Listener* listener = nullptr);
 
     const Suite& suite() const { return suite_; }
@@ -157,8 +160,8 @@ private:
     std::vector<CoveredUnit> newlyCovered_;  ///< by the last pick
     std::vector<ScoresLeft> left_;           ///< by species, before scaling
     std::vector<std::uint8_t> rescored_;     ///< by species: left_ has changed in this pass
-    ScoresLeft highest_;                     ///< of the run so far: later passes are measured by early ones
-    std::size_t removedCount_ = 0;           ///< a removed species that is picked counts twice
+    ScoresLeft highest_;                     ///< of the later passes so far: these measure those after them
+    std::size_t removedCount_ = 0;           ///< removals, not species: picking an omitted row adds a second
     std::size_t top_ = 0;                    ///< offset of the best species still in the race
     std::size_t marginCount_ = 0;            ///< of the last pass that looked for species within the margin
     int pickNumber_ = 0;

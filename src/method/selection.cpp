@@ -132,7 +132,10 @@ void Selection::laterPass() {
     ++pickNumber_;
     takePick(order_[pick]);
     if (!addNothing(row(pick).Adds)) return addToSuite(pick);
-    --pickNumber_;  // an omitted species was chosen: it is dropped without a word
+    --pickNumber_;
+    if (removed_[order_[pick]]) return;  // by takePick, so that the pick is dropped without a word
+    if (listener_) listener_->pickOmitted(pick);
+    remove(order_[pick]);
 }
 
 void Selection::appendBlock(bool first) {

@@ -13,6 +13,7 @@
 #include "entry/heading_tips.h"
 #include "entry/number_boxes.h"
 #include "entry/parameter_lists.h"
+#include "method/levels.h"
 #include "project/frmBrenicaControls.h"
 #include "project/modGlobal.h"
 #include "project/project_copy.h"
@@ -208,7 +209,7 @@ public:
     void cmdComplement_Click();
     /// Fires in the place of a selection that something keeps from running. The form says nothing; whoever watches may.
     ui::Event<SelectionObstacle> SelectionRefused;
-    /// What would keep a selection with the levels of the last one from running to its end.
+    /// What would keep a selection with the levels that were asked for last from running to its end.
     std::optional<SelectionObstacle> FindSelectionObstacle() const;
     void InitComplementarity();
 
@@ -412,6 +413,7 @@ private:
     void appendRecord(int importCase, const std::vector<std::string>& fields);
 
     // selection/complementarity.cpp
+    method::Levels askedLevels_;  ///< by the last press, which may have been refused
     std::optional<SelectionObstacle> obstacleIn(const method::Landscape& landscape,
                                                 const method::Table& threatScores) const;
 

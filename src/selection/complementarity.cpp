@@ -24,12 +24,6 @@ method::Landscape landscapeOf(const frmBrenica& form, const modGlobal& global) {
     return landscape;
 }
 
-method::Levels selectionLevels(const modGlobal& global) {
-    return {.Margin = global.ErrorMargin,
-            .ThreatRepresentation = global.ThreatRepresentation,
-            .ConservationStatus = global.ConservationStatusRepresentation};
-}
-
 /// The cell over which a selection could not start.
 CellPlace startCell(const frmBrenica& form, const method::Failure& failure) {
     const int row = tableIndex(failure.Row);
@@ -60,8 +54,7 @@ std::optional<SelectionObstacle> frmBrenica::obstacleIn(const method::Landscape&
     if (blankIn(flxScores(0), score::Aggregate)) return SelectionObstacle::OldScores;
     if (blankIn(flxSummary(summary::Vulnerability), vulnerability::ConservationStatus))
         return SelectionObstacle::NoStatus;
-    if (method::lacksGrades(landscape, threatScores, selectionLevels(global_)))
-        return SelectionObstacle::OldScores;
+    if (method::lacksGrades(landscape, threatScores, askedLevels_)) return SelectionObstacle::OldScores;
     return {};
 }
 
@@ -69,18 +62,21 @@ std::optional<SelectionObstacle> frmBrenica::obstacleIn(const method::Landscape&
 void frmBrenica::cmdComplement_Click() try {
     const ui::WaitPointer wait(platform());
     if (!global_.ScoresCalculated) return;
-    global_.ErrorMargin = txtErrorMargin.Real();
-    global_.ThreatRepresentation = txtThreatRep.Real();
-    global_.ConservationStatusRepresentation = txtCCSRep.Real();
+    askedLevels_.Margin = txtErrorMargin.Real();
+    askedLevels_.ThreatRepresentation = txtThreatRep.Real();
+    askedLevels_.ConservationStatus = txtCCSRep.Real();
     const method::Landscape landscape = landscapeOf(*this, global_);
     const method::Table threatScores =
         threatScoresOf(flxSummary(summary::Vulnerability), global_.TotalSpecies, global_.TotalLandUses);
     if (const auto obstacle = obstacleIn(landscape, threatScores)) return SelectionRefused(*obstacle);
+    global_.ErrorMargin = askedLevels_.Margin;
+    global_.ThreatRepresentation = askedLevels_.ThreatRepresentation;
+    global_.ConservationStatusRepresentation = askedLevels_.ConservationStatus;
     for (ui::Grid& grid : flxCompResults) grid.Rows(1);
 
     method::Selection selection;
     selection.load(landscape, threatScores);
-    const auto failure = failureOf([&] { selection.start(selectionLevels(global_)); });
+    const auto failure = failureOf([&] { selection.start(askedLevels_); });
     if (failure) modBrenicaUtilities::raiseFailure(*failure, startCell(*this, *failure));
 
     // Back in candidate order, however the user sorted it, so that row i is candidate i.

@@ -197,8 +197,11 @@ void SelectionTables::joined(std::size_t offset, int pick, const method::Additio
 void SelectionTables::pickOmitted(std::size_t offset) {
     showOmitted(
         rowAt(offset),
-        " with the highest aggregate score has been removed as it covers no additional habitats, management zones "
-        "or threats.");
+        firstPass_
+            ? " with the highest aggregate score has been removed as it covers no additional habitats, management "
+              "zones or threats."
+            : " with the highest aggregate score has bee removed as it covers no additional habitats, management "
+              "zones or threats.");
     paintRow(rowAt(offset), resultcolour::Omitted);
 }
 
@@ -276,11 +279,11 @@ CellPlace resultCell(const ui::Grid& results, int blockStartRow, const method::F
 void SetupSelectionSpecies(ui::Platform& platform, modGlobal& global, ui::Grid& grid,
                            const ui::Grid& scoresGrid, const Block& block, bool firstPass) try {
     const int startRow = grid.Rows();
-    grid.Rows(startRow + static_cast<int>(block.size()) + 1);
     std::size_t count = 0;
     for (int species = 1; species <= global.TotalSpecies; ++species) {
         if (count < block.size() && block[count].Species == landscapeIndex(species)) {
             const int row = startRow + static_cast<int>(count++);
+            grid.Rows(row + 1);
             const auto copy = [&](int col) {
                 grid.TextMatrix(row, col, scoresGrid.TextMatrix(species, col));
             };
@@ -296,6 +299,7 @@ void SetupSelectionSpecies(ui::Platform& platform, modGlobal& global, ui::Grid& 
             global.ExcludedSpeciesList += std::string(ui::trim(scoresGrid.TextMatrix(species, 0))) + "; ";
         }
     }
+    grid.Rows(grid.Rows() + 1);
     if (global.ExcludedSpeciesCount > 0 && global.SelectionStarting) reportExcluded(platform, global);
     global.SelectionStarting = false;
 } catch (...) {

@@ -7,6 +7,7 @@
 #include <cmath>
 #include <limits>
 
+#include "method/numbers.h"
 #include "ui/errors.h"
 #include "ui/text.h"
 
@@ -14,7 +15,6 @@ namespace ui {
 
 namespace {
 
-constexpr int SignificantDigits = 15;
 constexpr std::size_t ExactDigits = 15;  // any whole number of so many digits is exact in a double
 
 /// A conversion that has not yet raised.
@@ -24,9 +24,6 @@ struct Conversion {
 };
 
 bool isDigit(char c) { return c >= '0' && c <= '9'; }
-
-constexpr std::array<double, ExactDigits + 1> PowersOfTen = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
-                                                             1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
 
 /// Digits with at most one point and nothing else: nearly every cell. Both the digits and the power of ten are exact
 /// in a double, so that one division rounds as correctly as a full conversion does.
@@ -45,7 +42,7 @@ std::optional<double> plainDecimal(std::string_view text) {
     }
     if (pointAt == text.size()) return static_cast<double>(digits);
     if (text.size() == 1) return std::nullopt;
-    return static_cast<double>(digits) / PowersOfTen[text.size() - pointAt - 1];
+    return static_cast<double>(digits) / method::PowersOfTen[text.size() - pointAt - 1];
 }
 
 /// Rewrites the grammar that users may type to the one that from_chars reads; nothing where a comma is out of place.
@@ -197,33 +194,15 @@ std::string toText(std::int32_t value) { return std::to_string(value); }
 std::string toText(double value) {
     finite(value);
     if (const auto thousandths = wholeThousandths(value)) return decimalText(*thousandths);
-    // Scientific form gives the digits and the exponent; the point is then put by hand, since no exponent is shown.
-    std::array<char, 40> buffer{};
-    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
-                                   std::chars_format::scientific, SignificantDigits - 1)
-                         .ptr;
-    std::string_view written(buffer.data(), static_cast<std::size_t>(end - buffer.data()));
-    const bool negative = written.front() == '-';
-    if (negative) written.remove_prefix(1);
-
-    const std::size_t mark = written.find('e');
-    int exponent = 0;
-    std::string_view power = written.substr(mark + 1);
-    if (power.front() == '+') power.remove_prefix(1);
-    std::from_chars(power.data(), power.data() + power.size(), exponent);
-
-    std::string digits(1, written.front());
-    digits += written.substr(2, mark - 2);
-    digits.erase(digits.find_last_not_of('0') + 1);
-    if (digits.empty()) return "0";
-
-    std::string text = negative ? "-" : "";
-    const int count = static_cast<int>(digits.size());
-    if (exponent < 0) return text + "0." + std::string(static_cast<std::size_t>(-exponent - 1), '0') + digits;
-    if (exponent >= count - 1)
-        return text + digits + std::string(static_cast<std::size_t>(exponent - count + 1), '0');
-    const auto whole = static_cast<std::size_t>(exponent + 1);
-    return text + digits.substr(0, whole) + "." + digits.substr(whole);
+    const method::Decimal decimal = method::toDecimal(value);
+    if (decimal.Count == 0) return "0";
+    const std::string digits(decimal.Digits.data(), static_cast<std::size_t>(decimal.Count));
+    const std::string sign = decimal.Negative ? "-" : "";
+    const auto zeros = [](int count) { return std::string(static_cast<std::size_t>(count), '0'); };
+    if (decimal.Exponent <= 0) return sign + "0." + zeros(-decimal.Exponent) + digits;
+    if (decimal.Exponent >= decimal.Count) return sign + digits + zeros(decimal.Exponent - decimal.Count);
+    const auto whole = static_cast<std::size_t>(decimal.Exponent);
+    return sign + digits.substr(0, whole) + "." + digits.substr(whole);
 }
 
 double finite(double value) {
@@ -231,10 +210,7 @@ double finite(double value) {
     return value;
 }
 
-double roundTo(double value, int places) {
-    const double scale = PowersOfTen.at(static_cast<std::size_t>(places));
-    return finite(std::nearbyint(value * scale) / scale);
-}
+double roundTo(double value, int places) { return finite(method::roundTo(value, places)); }
 
 std::int32_t addLong(std::int32_t left, std::int32_t right) {
     std::int32_t sum = 0;

@@ -107,14 +107,19 @@ TEST_F(RealDisk, HasPathsThatNoFileCanHave) {
 }
 
 TEST_F(RealDisk, ThatIsFullBreaksAnExportOfResultsOff) {
-    open(large_);
+    ProjectText project(2, 2, 1, 1);  // the first species covers everything
+    project.set("HeteroHabitat Population", "2,2,1,1").set("HeteroJU Individual", "2,1");
+    open(project);
+    walkTo(7);
+    form.cmdComplement.UserClick();
+    ASSERT_TRUE(form.cmdExportResults.Enabled());
     const std::string path = fullDisk();
-    form.cmdExportResults.Enabled(true);
     platform.Files.push_back(path);
     form.cmdExportResults.UserClick();
     watch.look();
     expectFailure(Kind::ExportResults, path, "Disk full");
-    EXPECT_EQ(form.TakeCopy().Text, large_.text());
+    EXPECT_TRUE(watch.readingIsBlocked());
+    EXPECT_EQ(form.TakeCopy().Text, project.text());
 }
 
 TEST_F(RealDisk, ThatIsFullEndsAnExportOfATableWithTheReport) {

@@ -129,6 +129,25 @@ TEST_F(OldScores, ServeWithBlankRatingsWhereEveryThreatIsRepresentedByAll) {
     EXPECT_EQ(textsOf("Selection Report").size(), 1U);
 }
 
+/// The report states the levels of the suite that it lists, also after a press that came to nothing.
+TEST_F(OldScores, ARefusalLeavesTheLevelsOfTheSuiteOnView) {
+    selectAndGoTo(2);
+    addActivity("Dams");
+    rate(1, "1", 3);
+    goTo(4);
+    goTo(7);
+    type(form.txtThreatRep, "0");
+    select();
+    type(form.txtThreatRep, "0.5");
+    type(form.txtErrorMargin, "7");
+    select();
+    ASSERT_EQ(Refused, 1);
+    platform.Files.push_back(folder.file("results.txt"));
+    form.cmdExportResults.UserClick();
+    EXPECT_THAT(readFile(folder.file("results.txt")),
+                testing::HasSubstr("5 % Error margin\r\n0 Threat representation\r\n"));
+}
+
 TEST_F(OldScores, ServeWithBlanksOfSpeciesThatTakeNoPart) {
     openForSelection(oneHabitatEach().set("Conservation Status", "0.2,0.4,0.9"));
     goTo(2);

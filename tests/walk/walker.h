@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "entry/modErrorHandling.h"
+#include "project/pages.h"
 #include "support/form_test.h"
 #include "walk/allowed_failures.h"
 #include "walk/form_invariants.h"

@@ -4,6 +4,7 @@
 
 #include "project/frmBrenica.h"
 #include "project/pages.h"
+#include "ui/file_numbers.h"
 
 namespace {
 
@@ -16,12 +17,10 @@ struct FileUse {
     Kind Command;
 };
 
-constexpr int SharedNumber = 1;
-constexpr int SaveNumber = 2;
-constexpr FileUse FileUses[] = {{ui::FileMode::Output, SaveNumber, Kind::Save},
-                                {ui::FileMode::Input, SharedNumber, Kind::Open},
-                                {ui::FileMode::Output, SharedNumber, Kind::ExportResults},
-                                {ui::FileMode::Output, 3, Kind::ExportTable}};
+constexpr FileUse FileUses[] = {{ui::FileMode::Output, ui::filenumber::Save, Kind::Save},
+                                {ui::FileMode::Input, ui::filenumber::Shared, Kind::Open},
+                                {ui::FileMode::Output, ui::filenumber::Shared, Kind::ExportResults},
+                                {ui::FileMode::Output, ui::filenumber::Table, Kind::ExportTable}};
 
 std::optional<Kind> commandOf(ui::FileMode mode, int number) {
     for (const FileUse& use : FileUses) {
@@ -99,6 +98,6 @@ void FormWatch::forget(Kind kind) {
     std::erase_if(failures_, [kind](const FailedCommand& failure) { return failure.What == kind; });
 }
 
-bool FormWatch::savingIsBlocked() const { return files_.IsOpen(SaveNumber); }
+bool FormWatch::savingIsBlocked() const { return files_.IsOpen(ui::filenumber::Save); }
 
-bool FormWatch::readingIsBlocked() const { return files_.IsOpen(SharedNumber); }
+bool FormWatch::readingIsBlocked() const { return files_.IsOpen(ui::filenumber::Shared); }

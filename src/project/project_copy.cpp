@@ -9,11 +9,11 @@
 #include "project/constant_tables.h"
 #include "project/frmBrenica.h"
 #include "project/project_file.h"
+#include "ui/file_numbers.h"
 #include "ui/text.h"
 
 namespace {
 
-constexpr int OpenFileNumber = 1;
 constexpr std::string_view LineEnd = "\r\n";
 /// Stands for the only name of a list where that is blank: without it there would be no list.
 constexpr std::string_view BlankName = "?";
@@ -137,7 +137,7 @@ ProjectCopy frmBrenica::TakeCopy() const {
 }
 
 void frmBrenica::UserOpenFile(const std::string& path) {
-    if (files_.IsOpen(OpenFileNumber)) return;
+    if (files_.IsOpen(ui::filenumber::Shared)) return;
     cdgFileDialog.Chosen = path;
     mnuOpenProject.UserClick();
     cdgFileDialog.Chosen.reset();

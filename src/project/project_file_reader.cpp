@@ -7,11 +7,10 @@
 #include "entry/modGeneralUtilities.h"
 #include "project/constant_tables.h"
 #include "project/project_file.h"
+#include "ui/file_numbers.h"
 #include "ui/text.h"
 
 namespace {
-
-constexpr int OpenFileNumber = 1;
 
 /// Drops the values that the grid has no row for.
 template <class Values>
@@ -266,22 +265,23 @@ void ProjectFileReader::readNumberedColumn(const Row& row, Values values) {
 /// A file that cannot be opened fails to the caller as it is. Any later failure leaves the grids as far as they came,
 /// the file open and ProjectLoading set.
 void frmBrenica::OpenProject(const std::string& path) {
-    files_.Open(path, ui::FileMode::Input, OpenFileNumber);
+    files_.Open(path, ui::FileMode::Input, ui::filenumber::Shared);
     int lines = 0;
     try {
         ProjectLoading = true;
         ProjectFileReader reader(*this);
-        while (!files_.EndOfFile(OpenFileNumber)) {
+        while (!files_.EndOfFile(ui::filenumber::Shared)) {
             ++lines;
-            reader.readLine(files_.LineInput(OpenFileNumber, ui::LineEnds::CarriageReturn));
+            reader.readLine(files_.LineInput(ui::filenumber::Shared, ui::LineEnds::CarriageReturn));
         }
-        files_.Close(OpenFileNumber);
+        files_.Close(ui::filenumber::Shared);
         UpdateSpeciesList();
         if (global_.ProjectVersion.empty()) convertVersion1Project();
         ProjectLoading = false;
     } catch (...) {
-        const bool readWhole = !files_.IsOpen(OpenFileNumber);
-        files_.NoteFault({path, lines, CurrentError(), ui::FileMode::Input, OpenFileNumber, readWhole});
+        const bool readWhole = !files_.IsOpen(ui::filenumber::Shared);
+        files_.NoteFault(
+            {path, lines, CurrentError(), ui::FileMode::Input, ui::filenumber::Shared, readWhole});
         ReportError(9999, "Brenica.OpenProject", "");
     }
 }

@@ -3,10 +3,9 @@
 #include "entry/modErrorHandling.h"
 #include "project/frmBrenica.h"
 #include "project/project_file.h"
+#include "ui/file_numbers.h"
 
 namespace {
-
-constexpr int SaveFileNumber = 2;
 
 /// One line for each column but the first; its number follows the key.
 void takeNumbered(const TakeFileLine& take, const char* key, const ui::Grid& grid, int rows) {
@@ -81,20 +80,20 @@ FileLine frmBrenica::homeRangeLine() const {
 /// An error leaves the file as far as it was written, and open; one that is not the disk's is noted beside it.
 void frmBrenica::SaveProject(const std::string& path) try {
     ProjectStepTaken(ProjectStep::Saving, path);
-    files_.Open(path, ui::FileMode::Output, SaveFileNumber);
+    files_.Open(path, ui::FileMode::Output, ui::filenumber::Save);
     std::string text;
     writeLines([&](const FileLine& line) {
         text.clear();
         appendLine(text, line, [](std::string& to, int, std::string_view cell) { to += cell; });
-        files_.Print(SaveFileNumber, text);
+        files_.Print(ui::filenumber::Save, text);
     });
-    files_.Close(SaveFileNumber);
+    files_.Close(ui::filenumber::Save);
     ProjectStepTaken(ProjectStep::Saved, path);
 } catch (...) {
-    if (files_.IsOpen(SaveFileNumber)) {
+    if (files_.IsOpen(ui::filenumber::Save)) {
         const ui::RunTimeError error = CurrentError();
         succeeds([&] {
-            if (!files_.LastFault()) files_.NoteFault(SaveFileNumber, error);
+            if (!files_.LastFault()) files_.NoteFault(ui::filenumber::Save, error);
         });
         ProjectStepTaken(ProjectStep::Broken, path);
     }

@@ -4,6 +4,7 @@
 #include "entry/modGeneralUtilities.h"
 #include "project/frmBrenica.h"
 #include "project/pages.h"
+#include "ui/file_numbers.h"
 #include "ui/text.h"
 
 namespace {
@@ -146,8 +147,7 @@ void frmBrenica::MenuSelectionDataGrid(std::string_view command) {
         }
         cdgFileDialog.InitDir.clear();
     } catch (...) {
-        constexpr int ImportFileNumber = 1;
-        succeeds([&] { files_.Close(ImportFileNumber); });
+        succeeds([&] { files_.Close(ui::filenumber::Shared); });
         ReportError(9999, "Brenica.MenuSelectionDataGrid", "");
     }
 }

@@ -5,11 +5,11 @@
 #include "entry/modErrorHandling.h"
 #include "project/constant_tables.h"
 #include "project/frmBrenica.h"
+#include "ui/file_numbers.h"
 #include "ui/text.h"
 
 namespace {
 
-constexpr int ImportFileNumber = 1;
 constexpr int LastCase = 6;
 
 /// How the fields of a record go to the columns of its row from column 1 on: as they are, or without the number that
@@ -56,7 +56,7 @@ std::vector<std::string> fieldsToStore(int importCase, const std::vector<std::st
 }  // namespace
 
 void frmBrenica::ImportData(int importCase, const std::string& path, bool firstLineIsHeading) try {
-    files_.Open(path, ui::FileMode::Input, ImportFileNumber);
+    files_.Open(path, ui::FileMode::Input, ui::filenumber::Shared);
     appendRecords(importCase, firstLineIsHeading);
     arrangeListPages();
 } catch (...) {
@@ -66,21 +66,21 @@ void frmBrenica::ImportData(int importCase, const std::string& path, bool firstL
 /// Appends a row for each line of a grid text file; an empty line ends the import.
 void frmBrenica::appendRecords(int importCase, bool firstLineIsHeading) {
     std::vector<std::string> fields;
-    if (!files_.EndOfFile(ImportFileNumber) && firstLineIsHeading && GetCheckData(fields) == 0) return;
-    while (!files_.EndOfFile(ImportFileNumber)) {
+    if (!files_.EndOfFile(ui::filenumber::Shared) && firstLineIsHeading && GetCheckData(fields) == 0) return;
+    while (!files_.EndOfFile(ui::filenumber::Shared)) {
         if (GetCheckData(fields) == 0) return;
         appendRecord(importCase, fields);
     }
-    files_.Close(ImportFileNumber);
+    files_.Close(ui::filenumber::Shared);
 }
 
 /// Reads a record; 0 at an empty line, and then the file is closed.
 int frmBrenica::GetCheckData(std::vector<std::string>& fields) try {
-    const std::string line = files_.LineInput(ImportFileNumber, ui::LineEnds::AnyEnd);
+    const std::string line = files_.LineInput(ui::filenumber::Shared, ui::LineEnds::AnyEnd);
     fields.clear();
     for (const std::string_view field : ui::split(line, '\t')) fields.emplace_back(field);
     if (!line.empty()) return static_cast<int>(fields.size());
-    files_.Close(ImportFileNumber);
+    files_.Close(ui::filenumber::Shared);
     return 0;
 } catch (...) {
     ReportError(9999, "Brenica.GetCheckData", "");

@@ -5,11 +5,11 @@
 #include "selection/result_colours.h"
 #include "selection/selection.h"
 #include "ui/arrays.h"
+#include "ui/file_numbers.h"
 #include "ui/text.h"
 
 namespace {
 
-constexpr int ResultsFileNumber = 1;
 constexpr std::size_t NameWidth = 27;  // of a row's mark and name
 
 /// The fate of a row, read back from its colours.
@@ -52,18 +52,18 @@ void frmBrenica::cmdExportResults_Click() try {
     cdgFileDialog.Filter = "Text Files (*.txt)|*.txt";
     cdgFileDialog.DefaultExt = ".txt";
     cdgFileDialog.ShowSave();
-    files_.Open(cdgFileDialog.FileName, ui::FileMode::Output, ResultsFileNumber);
+    files_.Open(cdgFileDialog.FileName, ui::FileMode::Output, ui::filenumber::Shared);
     printRanking();
     printSuite();
     printPasses();
     printCoverage();
-    files_.Close(ResultsFileNumber);
+    files_.Close(ui::filenumber::Shared);
     cdgFileDialog.InitDir.clear();
 } catch (...) {
     SwallowError();
 }
 
-void frmBrenica::printResult(std::string_view line) { files_.Print(ResultsFileNumber, line); }
+void frmBrenica::printResult(std::string_view line) { files_.Print(ui::filenumber::Shared, line); }
 
 void frmBrenica::printRanking() {
     if (global_.ExcludedSpeciesCount > 0) {

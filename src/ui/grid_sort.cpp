@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <numeric>
 
+#include "ui/file_numbers.h"
 #include "ui/grid.h"
 #include "ui/text.h"
 
@@ -60,13 +61,12 @@ void Grid::Sort(SortOrder order) {
 }
 
 void Grid::SaveGrid(Files& files, const std::string& path, GridFileFormat) const {
-    constexpr int FileNumber = 3;  // its own: a project that failed to save keeps number 2
-    files.Open(path, FileMode::Output, FileNumber);
+    files.Open(path, FileMode::Output, filenumber::Table);
     try {
-        printRows(files, FileNumber);
-        files.Close(FileNumber);
+        printRows(files, filenumber::Table);
+        files.Close(filenumber::Table);
     } catch (...) {
-        files.Abandon(FileNumber);
+        files.Abandon(filenumber::Table);
         throw;
     }
 }

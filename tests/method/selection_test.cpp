@@ -75,9 +75,7 @@ Landscape pair() {
 }
 
 /// Runs a selection that must fail, and returns the failure.
-Failure failureOf(const Landscape& land, Listener* listener = nullptr) {
-    Assessment assessment;
-    assess(land, assessment);
+Failure failureOf(const Landscape& land, const Assessment& assessment, Listener* listener = nullptr) {
     Selection selection;
     selection.load(land, assessment);
     TakeTop chooser;
@@ -88,6 +86,12 @@ Failure failureOf(const Landscape& land, Listener* listener = nullptr) {
         return failure;
     }
     throw std::runtime_error("nothing failed");
+}
+
+Failure failureOf(const Landscape& land, Listener* listener = nullptr) {
+    Assessment assessment;
+    assess(land, assessment);
+    return failureOf(land, assessment, listener);
 }
 
 TEST(Selection, the_small_landscape) {
@@ -196,20 +200,12 @@ TEST(Selection, a_level_that_is_no_number_fails_after_what_came_before_it) {
     Assessment assessment;
     assess(land, assessment);
     land.ZoneLevels.at(1, 0) = Blank;
-    Selection selection;
-    selection.load(land, assessment);
-    selection.start({});
     Diary diary;
-    TakeTop chooser;
-    try {
-        selection.run(chooser, &diary);
-        FAIL();
-    } catch (const Failure& failure) {
-        EXPECT_EQ(failure.At, Step::UnitsAdded);
-        EXPECT_EQ(failure.What, Quantity::ZoneLevel);
-        EXPECT_EQ(failure.Row, 1U);
-        EXPECT_EQ(failure.Column, 0U);
-    }
+    const Failure failure = failureOf(land, assessment, &diary);
+    EXPECT_EQ(failure.At, Step::UnitsAdded);
+    EXPECT_EQ(failure.What, Quantity::ZoneLevel);
+    EXPECT_EQ(failure.Row, 1U);
+    EXPECT_EQ(failure.Column, 0U);
     EXPECT_EQ(diary.Text(), "begun\nfirst block 0 1\nadds 0 H1\nadds 0 Z0\nadds 0 T0\nadds 1 H0\n");
 }
 
@@ -259,20 +255,12 @@ TEST(Selection, threat_scores_are_looked_through_threat_by_threat) {
     Assessment assessment;
     assess(land, assessment);
     assessment.Threats.Scores = tableOf({{0, Blank}, {Blank, 0}});
-    Selection selection;
-    selection.load(land, assessment);
-    selection.start({});
     Diary diary;
-    TakeTop chooser;
-    try {
-        selection.run(chooser, &diary);
-        FAIL();
-    } catch (const Failure& failure) {
-        EXPECT_EQ(failure.At, Step::Selection);
-        EXPECT_EQ(failure.What, Quantity::ThreatScore);
-        EXPECT_EQ(failure.Row, 1U);
-        EXPECT_EQ(failure.Column, 0U);
-    }
+    const Failure failure = failureOf(land, assessment, &diary);
+    EXPECT_EQ(failure.At, Step::Selection);
+    EXPECT_EQ(failure.What, Quantity::ThreatScore);
+    EXPECT_EQ(failure.Row, 1U);
+    EXPECT_EQ(failure.Column, 0U);
     EXPECT_EQ(diary.Text(), "");
 }
 
@@ -292,19 +280,11 @@ TEST(Selection, an_aggregate_that_is_no_number_comes_last_and_fails_at_the_margi
     Assessment assessment;
     assess(land, assessment);
     assessment.Species.Aggregate = {Blank, 1, 2};
-    Selection selection;
-    selection.load(land, assessment);
-    selection.start({});
     Diary diary;
-    TakeTop chooser;
-    try {
-        selection.run(chooser, &diary);
-        FAIL();
-    } catch (const Failure& failure) {
-        EXPECT_EQ(failure.At, Step::Margin);
-        EXPECT_EQ(failure.What, Quantity::Aggregate);
-        EXPECT_EQ(failure.Row, 2U);
-    }
+    const Failure failure = failureOf(land, assessment, &diary);
+    EXPECT_EQ(failure.At, Step::Margin);
+    EXPECT_EQ(failure.What, Quantity::Aggregate);
+    EXPECT_EQ(failure.Row, 2U);
     EXPECT_THAT(diary.Text(), HasSubstr("sorted 2 1 0\n"));
 }
 

@@ -1,12 +1,10 @@
 # SPDX-FileCopyrightText: 2026 The Brenica developers
 # SPDX-License-Identifier: GPL-3.0-or-later
 """The check of the guide passes a sound one and names what is missing or left over."""
-import subprocess
-import tempfile
 import unittest
-from pathlib import Path
 
-CHECK = Path(__file__).resolve().parents[1] / "checks" / "guide"
+from check_tree import CheckTree
+
 SOURCE = r'''// "Only said in a comment"
 ui::MenuItem mnuOpen{*this, {.Caption = "&Open", .AccessKey = '"'}};
 const char* text = "Enter a value "
@@ -23,24 +21,15 @@ value before proceeding.**, not `**this**`. ![The page](images/page.png)
 """
 
 
-class GuideCheck(unittest.TestCase):
+class GuideCheck(CheckTree):
     def setUp(self):
-        folder = tempfile.TemporaryDirectory()
-        self.addCleanup(folder.cleanup)
-        self.tree = Path(folder.name)
+        super().setUp()
         self.write("src/menu.cpp", SOURCE)
         self.write("docs/guide.md", GUIDE)
         self.write("docs/images/page.png", "")
 
-    def write(self, name, text):
-        path = self.tree / name
-        path.parent.mkdir(parents=True, exist_ok=True)
-        path.write_text(text, encoding="utf-8")
-
     def check(self):
-        done = subprocess.run([CHECK, self.tree], capture_output=True, text=True, check=False)
-        self.assertEqual(done.returncode, 1 if done.stdout else 0, done.stderr)
-        return done.stdout
+        return self.said_by("guide")
 
     def test_a_sound_guide_passes(self):
         self.assertEqual(self.check(), "")

@@ -1,12 +1,10 @@
 # SPDX-FileCopyrightText: 2026 The Brenica developers
 # SPDX-License-Identifier: GPL-3.0-or-later
 """The check of the method passes a sound tree and names what it includes, and what its page only claims to know."""
-import subprocess
-import tempfile
 import unittest
-from pathlib import Path
 
-CHECK = Path(__file__).resolve().parents[1] / "checks" / "method"
+from check_tree import CheckTree
+
 SOURCE = """#include <cmath>
 #include "method/numbers.h"
 /// Not `hidden`, which only a comment names.
@@ -22,25 +20,16 @@ PAGE = """# The method
 """
 
 
-class MethodCheck(unittest.TestCase):
+class MethodCheck(CheckTree):
     def setUp(self):
-        folder = tempfile.TemporaryDirectory()
-        self.addCleanup(folder.cleanup)
-        self.tree = Path(folder.name)
+        super().setUp()
         self.write("src/method/scores.h", SOURCE)
         self.write("src/ui/grid.h", "")
         self.write("examples/README.md", "")
         self.write("docs/method.md", PAGE)
 
-    def write(self, name, text):
-        path = self.tree / name
-        path.parent.mkdir(parents=True, exist_ok=True)
-        path.write_text(text, encoding="utf-8")
-
     def check(self):
-        done = subprocess.run([CHECK, self.tree], capture_output=True, text=True, check=False)
-        self.assertEqual(done.returncode, 1 if done.stdout else 0, done.stderr)
-        return done.stdout
+        return self.said_by("method")
 
     def test_a_sound_tree_passes(self):
         self.assertEqual(self.check(), "")

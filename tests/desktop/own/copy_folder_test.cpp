@@ -2,16 +2,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/own/copy_folder.h"
 
-#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <QDir>
 #include <QTemporaryDir>
 #include <cerrno>
-#include <csignal>
 
 #include "desktop/desktop_test.h"
+#include "support/largest_file.h"
 
 namespace {
 
@@ -283,19 +282,13 @@ private slots:
         const State state;
         CopyFolder folder(state.path);
         folder.keep("a", {}, copyOf("old"));
-        rlimit before{};
-        ::getrlimit(RLIMIT_FSIZE, &before);
-        const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-        const rlimit small{2000, before.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &small);
         bool told = false;
         try {
+            const LargestFile limit(2000);
             folder.keep("a", {}, copyOf(std::string(5000, 'x')));
         } catch (const DiskFault&) {
             told = true;
         }
-        ::setrlimit(RLIMIT_FSIZE, &before);
-        std::signal(SIGXFSZ, handler);
         QVERIFY(told);
         QCOMPARE(state.read("a.brn"), QByteArray("old"));
     }

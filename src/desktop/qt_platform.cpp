@@ -9,11 +9,13 @@
 #include <QLocale>
 #include <QSaveFile>
 #include <QScreen>
+#include <cerrno>
 #include <cmath>
 
 #include "desktop/dialogues.h"
 #include "desktop/texts.h"
 #include "ui/errors.h"
+#include "ui/files.h"
 
 namespace desktop {
 
@@ -83,8 +85,11 @@ void QtPlatform::SavePicture(const std::string& path) {
     const QString name = QString::fromStdString(path);
     if (!isFolder(QFileInfo(name).absolutePath())) ui::raise(ui::ErrorNumber::PathNotFound);
     QSaveFile file(name);
-    if (!file.open(QIODevice::WriteOnly)) ui::raise(ui::ErrorNumber::PathFileAccessError);
-    if (!picture.save(&file, "BMP") || !file.commit()) ui::raise(ui::ErrorNumber::DeviceIoError);
+    errno = 0;
+    if (!file.open(QIODevice::WriteOnly))
+        ui::raise(ui::errorFor(errno, ui::ErrorNumber::PathFileAccessError));
+    if (!picture.save(&file, "BMP") || !file.commit())
+        ui::raise(ui::errorFor(errno, ui::ErrorNumber::DeviceIoError));
 }
 
 QtPlatform::Widths& QtPlatform::widthsFor(const ui::Font& font) const {

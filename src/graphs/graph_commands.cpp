@@ -39,7 +39,6 @@ void frmBrenica::MenuSelectionGraph(std::string_view action) try {
         cdgFileDialog.DefaultExt = "bmp";
         cdgFileDialog.ShowSave();
         saveGraph(*chart);
-        cdgFileDialog.InitDir.clear();
     } else if (ui::equalsIgnoringCase(action, "Copy")) {
         chart->EditCopy();
     } else if (ui::equalsIgnoringCase(action, "Print")) {
@@ -52,6 +51,7 @@ void frmBrenica::MenuSelectionGraph(std::string_view action) try {
 void frmBrenica::saveGraph(ui::Chart& chart) try {
     chart.EditCopy();
     platform().SavePicture(cdgFileDialog.FileName);
+    cdgFileDialog.InitDir.clear();
 } catch (...) {
     platform().showMessage(CurrentError().Description, ui::ApplicationTitle, ui::MessageIcon::None);
 }

@@ -30,7 +30,7 @@ void showBars(ui::Chart& chart, const ui::Grid& list, int count, ui::Colour fill
 
 }  // namespace
 
-/// Fills the eight charts from the totals of the summary tables; a project that lacks a list shows them empty.
+/// Fills the eight charts from the totals of the summary tables; a project that lacks a list leaves them as they are.
 void frmBrenica::UpdateSummaryGraphs() try {
     if (global_.TotalSpecies < 1 || global_.TotalHabitatTypes < 1 || global_.TotalJurisUnits < 1 ||
         global_.TotalLandUses < 1) {

@@ -252,6 +252,7 @@ private:
     void setUpCriteriaPage();
     void setUpSummaryPage();
     void setUpGraphPage();
+    void setUpChart(ui::Chart& chart, const char* title, const char* xAxis, const char* yAxis);
     void setUpScorePage();
     void setUpResultsPage();
 
@@ -427,7 +428,6 @@ private:
     // graphs/graph_commands.cpp
     void saveGraph(ui::Chart& chart);
     void printGraph(ui::Chart& chart);
-    void setUpChart(ui::Chart& chart, const char* title, const char* xAxis, const char* yAxis);
 
     ui::Files& files_;
     modGlobal& global_;

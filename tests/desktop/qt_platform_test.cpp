@@ -10,6 +10,7 @@
 #include <QTemporaryDir>
 
 #include "desktop/desktop_test.h"
+#include "support/largest_file.h"
 #include "ui/chart.h"
 #include "ui/errors.h"
 
@@ -162,6 +163,14 @@ private slots:
         QCOMPARE(desk.saveError(desk.path("taken")), 75);
         QCOMPARE(QDir(desk.folder.path()).entryList(QDir::NoDotAndDotDot | QDir::AllEntries),
                  QStringList("taken"));
+    }
+
+    void aPictureThatFindsNoRoomIsToldAsAFullDisk() {
+        Desk desk;
+        desk.platform.copyPicture(desk.chart);
+        const LargestFile limit(100);
+        QCOMPARE(desk.saveError(desk.path("chart.bmp")), 61);
+        QVERIFY(QDir(desk.folder.path()).isEmpty());
     }
 
     void withoutAPictureTheOldFileStays() {

@@ -249,6 +249,17 @@ TEST_F(GraphCommands, WorkAgainAfterAFailure) {
     EXPECT_THAT(platform.Transcript, IsEmpty());
 }
 
+TEST_F(GraphCommands, ForgetTheFolderOfTheExamplesOnlyAfterASave) {
+    goTo(5);
+    form.cdgFileDialog.InitDir = "examples";
+    platform.BeforeSavePicture = [] { ui::raise(ui::ErrorNumber::DiskFull); };
+    save();
+    EXPECT_EQ(form.cdgFileDialog.InitDir, "examples");
+    platform.BeforeSavePicture = nullptr;
+    save();
+    EXPECT_EQ(form.cdgFileDialog.InitDir, "");
+}
+
 TEST_F(GraphCommands, LeaveTheProjectUnchanged) {
     goTo(5);
     form.ProjectChanged = false;

@@ -243,8 +243,17 @@ class Search:
                 return self.add(cursor, other + text[2:])
             if text.endswith(operator):
                 return self.add(cursor, text[:-2] + other)
-        if text.startswith(b"!") or (text.startswith(b"-") and cursor.type.get_canonical().kind in NUMBERS):
+        if text.startswith(b"!"):
+            operand = next(cursor.get_children())
+            self.add(cursor, text[1:] if self.is_bool(operand) else b"!" + text)
+        elif text.startswith(b"-") and cursor.type.get_canonical().kind in NUMBERS:
             self.add(cursor, text[1:])
+
+    def is_bool(self, cursor):
+        """Whether it is one by itself: what converts to one may be made from one, too."""
+        while cursor.kind == CursorKind.UNEXPOSED_EXPR or cursor.spelling == "operator bool":
+            cursor = next(cursor.get_children())
+        return cursor.type.get_canonical().kind == TypeKind.BOOL
 
     def mutate_number(self, cursor):
         text = self.text(cursor)

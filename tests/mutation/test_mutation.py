@@ -115,6 +115,14 @@ class Weaving(Sources):
                 expected = subprocess.run([self.tree / "alone"], capture_output=True, text=True, check=True).stdout
                 self.assertEqual(self.run_woven(woven, number)[0], int(expected))
 
+    def test_what_is_made_from_a_truth_value_keeps_its_own(self):
+        woven, refused, numbered = self.woven(
+            "#include <optional>\n"
+            "int f(int a) { std::optional<int> b; if (!b) b = a; const bool c = !b; if (b) return 7; return c; }")
+        self.assertEqual(refused, set())
+        self.assertEqual([mutant.replacement for mutant in numbered.values()].count(b"!!b"), 2)
+        self.assertEqual(self.run_woven(woven, 0)[0], 7)
+
     def test_a_run_tells_the_mutants_that_it_comes_by(self):
         woven, _, numbered = self.woven("int f(int a) { if (a > 5) return a + 1; return a; }")
         reached = self.run_woven(woven, 0)[1]

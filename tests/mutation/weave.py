@@ -29,7 +29,9 @@ class Woven:
                 self.weave(mutant.start, mutant.end, inside)
                 self.text += b" }"
             else:
-                self.text += b"(mutation::on(%d) ? (%s) : (" % (number, mutant.replacement)
+                # Both sides of a truth value are one: a class that is made from one would swallow the other side.
+                truth = b"!!" if mutant.replacement.startswith(b"!") else b""
+                self.text += b"(mutation::on(%d) ? (%s) : %s(" % (number, mutant.replacement, truth)
                 self.weave(mutant.start, mutant.end, inside)
                 self.text += b"))"
             self.places.append((place, len(self.text), number))

@@ -88,7 +88,8 @@ void QtPlatform::SavePicture(const std::string& path) {
     errno = 0;
     if (!file.open(QIODevice::WriteOnly))
         ui::raise(ui::errorFor(errno, ui::ErrorNumber::PathFileAccessError));
-    if (!picture.save(&file, "BMP") || !file.commit())
+    // A commit does not see that its own flush failed.
+    if (!picture.save(&file, "BMP") || !file.flush() || !file.commit())
         ui::raise(ui::errorFor(errno, ui::ErrorNumber::DeviceIoError));
 }
 

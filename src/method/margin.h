@@ -72,13 +72,9 @@ protected:
 };
 
 /// A planner who always takes the species with the best aggregate.
-class TakeTop : public AskingChooser {
-    std::optional<Rule> askRule(const MarginBand&, std::span<const std::size_t>) override {
-        return Rule::Aggregate;
-    }
-    std::optional<std::size_t> askNumber(const MarginBand&, std::span<const std::size_t>) override {
-        return 1;
-    }
+class TakeTop : public Chooser {
+public:
+    std::size_t choose(const MarginBand& band) override { return listed(band).front(); }
 };
 
 /// One answer given beforehand: to the first question a rule, to the second a number, either of them none when the

@@ -30,7 +30,7 @@ double asWritten(double value) {
     double read = 0;
     const auto error = std::from_chars(written.Text.data(), written.End, read).ec;
     if (error == std::errc()) return read;
-    return std::abs(value) > 1 ? std::copysign(std::numeric_limits<double>::infinity(), value) : 0;
+    return std::copysign(std::numeric_limits<double>::infinity(), value);
 }
 
 Decimal toDecimal(double value) {

@@ -51,8 +51,8 @@ double asWritten(double value);
 /// roundTo and asWritten in one: the rounding that a printed table would cause.
 inline double shownTo(double value, int places) {
     const double rounded = roundTo(value, places);
-    // So far from the limit of 15 digits the text says exactly what was rounded.
-    const double safe = PowersOfTen[static_cast<std::size_t>(SignificantDigits - 1 - places)];
+    // With 15 digits at the most the text says exactly what was rounded.
+    const double safe = PowersOfTen[static_cast<std::size_t>(SignificantDigits - places)];
     return std::abs(rounded) < safe ? rounded : asWritten(rounded);
 }
 

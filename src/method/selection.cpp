@@ -57,37 +57,31 @@ void Selection::run(Chooser& chooser, Listener* listener) {
     coverage_.loadThreats(threatScores_, highestThreats_, levels_.ThreatRepresentation, eligible_);
     if (listener_) listener_->begun();
     firstPass();
-    while (!allCovered() && removedCount_ < landscape_->species()) laterPass();
+    while (!allCovered() && progress_.Removals < landscape_->species()) laterPass();
     suite_.Complete = allCovered();
     if (listener_) listener_->ended(suite_);
 }
 
 void Selection::prepareRun() {
     const UnitLayout& layout = coverage_.layout();
-    suite_.Picks.clear();
-    suite_.Covered = {};
+    suite_ = {};
     for (const Unit kind : UnitKinds) suite_.CoveredBy[kind].assign(layout.units(kind), 0);
-    suite_.Complete = false;
     rows_ = firstRows_;
     covered_.assign(layout.words(), 0);
     newlyCovered_.clear();
     remainder_.reset();
     left_.assign(eligible_.size(), {});
-    rescored_.assign(eligible_.size(), 0);
-    highest_ = {};
+    rescored_.resize(eligible_.size());
+    progress_ = {};
     removed_.assign(eligible_.size(), 0);
-    removedCount_ = 0;
     for (std::size_t s = 0; s < eligible_.size(); ++s) {
         if (!eligible_[s]) remove(s);
     }
-    top_ = 0;
-    marginCount_ = 0;
-    pickNumber_ = 0;
 }
 
 void Selection::remove(std::size_t species) {
-    removed_[species] = 1;
-    ++removedCount_;
+    removed_[species] = true;
+    ++progress_.Removals;
 }
 
 bool Selection::allCovered() const {
@@ -107,32 +101,32 @@ void Selection::firstPass() {
             listener_->ranked(offset, static_cast<int>(offset) + 1);
     }
     const std::size_t pick = findPick();
-    pickNumber_ = 1;
+    progress_.PickNumber = 1;
     takePick(order_[pick]);
     if (!addNothing(row(pick).Adds)) return addToSuite(pick);
-    pickNumber_ = 0;
+    progress_.PickNumber = 0;
     if (listener_) listener_->pickOmitted(pick);
 }
 
 void Selection::laterPass() {
     appendBlock(false);
     takeOffCovered();
-    const ScoresLeft highestBefore = highest_;
+    const ScoresLeft highestBefore = progress_.Highest;
     for (std::size_t offset = 0; offset < order_.size(); ++offset) {
         tellAdditions(offset);
         rescore(offset);
     }
-    const bool all = listener_ || highest_ != highestBefore;
+    const bool all = listener_ || progress_.Highest != highestBefore;
     for (std::size_t offset = 0; offset < order_.size(); ++offset) {
         if (all || rescored_[order_[offset]]) normalise(offset);
     }
     sortBlock();
     omitRowsThatAddNothing();
     const std::size_t pick = findPick();
-    ++pickNumber_;
+    ++progress_.PickNumber;
     takePick(order_[pick]);
     if (!addNothing(row(pick).Adds)) return addToSuite(pick);
-    --pickNumber_;
+    --progress_.PickNumber;
     if (removed_[order_[pick]]) return;  // by takePick, so that the pick is dropped without a word
     if (listener_) listener_->pickOmitted(pick);
     remove(order_[pick]);
@@ -193,9 +187,9 @@ void Selection::rescore(std::size_t offset) {
     rescored_[species] = remainder_.refresh(species, covered_);
     if (!rescored_[species] && !listener_) return;
     takeScore(offset, Criterion::Heterogeneity, remainder_.heterogeneity(species),
-              left_[species].Heterogeneity, highest_.Heterogeneity);
+              left_[species].Heterogeneity, progress_.Highest.Heterogeneity);
     takeScore(offset, Criterion::Vulnerability, remainder_.vulnerability(species, covered_),
-              left_[species].Vulnerability, highest_.Vulnerability);
+              left_[species].Vulnerability, progress_.Highest.Vulnerability);
 }
 
 /// The highest is kept rounded, so that the best species comes to 1.
@@ -214,8 +208,8 @@ void Selection::normalise(std::size_t offset) {
         finite(scores[criterion], offset, static_cast<std::size_t>(criterion));
         if (listener_) listener_->normalised(offset, criterion, scores[criterion]);
     };
-    scale(Criterion::Heterogeneity, left.Heterogeneity, highest_.Heterogeneity);
-    scale(Criterion::Vulnerability, left.Vulnerability, highest_.Vulnerability);
+    scale(Criterion::Heterogeneity, left.Heterogeneity, progress_.Highest.Heterogeneity);
+    scale(Criterion::Vulnerability, left.Vulnerability, progress_.Highest.Vulnerability);
     double sum = 0;
     for (const Criterion criterion : {Criterion::Heterogeneity, Criterion::Vulnerability, Criterion::Area,
                                       Criterion::Functionality, Criterion::SocioEconomics}) {
@@ -248,15 +242,13 @@ void Selection::omitRowsThatAddNothing() {
 
 /// With one species left at the most there is no margin to look at.
 std::size_t Selection::findPick() {
-    if (removedCount_ + 1 >= landscape_->species()) {
-        top_ = firstInRace();
-    } else {
-        marginCount_ = checkMargin();
-    }
-    if (listener_) listener_->withinMargin(top_);
-    if (marginCount_ == 0) return top_;
+    const bool alone = progress_.Removals + 1 >= landscape_->species();
+    const std::size_t top = alone ? firstInRace() : bestInRace();
+    if (!alone) progress_.MarginCount = countMargin(top);
+    if (listener_) listener_->withinMargin(top);
+    if (progress_.MarginCount == 0) return top;
     const Block rows = block();
-    const std::size_t pick = chooser_->choose({rows, top_, marginCount_});
+    const std::size_t pick = chooser_->choose({rows, top, progress_.MarginCount});
     if (pick >= rows.size()) throw Failure(Step::Selection, Cause::NoRow, Quantity::Candidate, pick);
     return pick;
 }
@@ -269,23 +261,28 @@ std::size_t Selection::firstInRace() const {
     return offset;
 }
 
-/// Sets the top row; returns how many below it lie within the margin.
-std::size_t Selection::checkMargin() {
-    const auto aggregateAt = [&](std::size_t offset) {
-        if (offset >= order_.size() || !isNumber(row(offset).Aggregate))
-            throw Failure(Step::Margin, Cause::NoNumber, Quantity::Aggregate, offset);
-        return row(offset).Aggregate;
-    };
-    for (top_ = 0;; ++top_) {
-        aggregateAt(top_);
-        if (!removed_[order_[top_]]) break;
-    }
-    if (listener_) listener_->withinMargin(top_);
-    const double best = row(top_).Aggregate;
+void Selection::requireAggregate(std::size_t offset) const {
+    if (offset >= order_.size() || !isNumber(row(offset).Aggregate))
+        throw Failure(Step::Margin, Cause::NoNumber, Quantity::Aggregate, offset);
+}
+
+/// As firstInRace, but every aggregate down to it must be a number.
+std::size_t Selection::bestInRace() {
+    std::size_t top = 0;
+    requireAggregate(top);
+    while (removed_[order_[top]]) requireAggregate(++top);
+    if (listener_) listener_->withinMargin(top);
+    return top;
+}
+
+/// How many rows below the top one lie within the margin.
+std::size_t Selection::countMargin(std::size_t top) {
+    const double best = row(top).Aggregate;
     const double band = levels_.Margin / 100 * best;
     std::size_t count = 0;
-    for (std::size_t offset = top_ + 1; offset < order_.size(); ++offset) {
-        if (!(best - aggregateAt(offset) <= band)) continue;
+    for (std::size_t offset = top + 1; offset < order_.size(); ++offset) {
+        requireAggregate(offset);
+        if (!(best - row(offset).Aggregate <= band)) continue;
         ++count;
         if (listener_ && !removed_[order_[offset]]) listener_->withinMargin(offset);
     }
@@ -309,15 +306,15 @@ void Selection::takePick(std::size_t species) {
 
 void Selection::cover(Unit kind, std::size_t unit) {
     newlyCovered_.push_back({kind, unit});
-    suite_.CoveredBy[kind][unit] = pickNumber_;
-    if (listener_) listener_->firstCovered(kind, unit, pickNumber_);
+    suite_.CoveredBy[kind][unit] = progress_.PickNumber;
+    if (listener_) listener_->firstCovered(kind, unit, progress_.PickNumber);
 }
 
 void Selection::addToSuite(std::size_t offset) {
     const Additions& adds = row(offset).Adds;
     suite_.Picks.push_back({order_[offset], adds});
     for (const Unit kind : UnitKinds) suite_.Covered[kind] += adds[kind];
-    if (listener_) listener_->joined(offset, pickNumber_, adds);
+    if (listener_) listener_->joined(offset, progress_.PickNumber, adds);
 }
 
 }  // namespace method

@@ -110,6 +110,14 @@ private:
         std::size_t Number;
     };
 
+    /// What passes hand on to the next.
+    struct Progress {
+        ScoresLeft Highest;           ///< of the later passes so far: these measure those after them
+        std::size_t Removals = 0;     ///< not species: picking an omitted row adds a second
+        std::size_t MarginCount = 0;  ///< of the last pass that looked for species within the margin
+        int PickNumber = 0;
+    };
+
     void prepareRun();
     void firstPass();
     void laterPass();
@@ -126,7 +134,9 @@ private:
     void omitRowsThatAddNothing();
     std::size_t findPick();
     std::size_t firstInRace() const;
-    std::size_t checkMargin();
+    std::size_t bestInRace();
+    std::size_t countMargin(std::size_t top);
+    void requireAggregate(std::size_t offset) const;
     void takePick(std::size_t species);
     void cover(Unit kind, std::size_t unit);
     void addToSuite(std::size_t offset);
@@ -160,11 +170,7 @@ private:
     std::vector<CoveredUnit> newlyCovered_;  ///< by the last pick
     std::vector<ScoresLeft> left_;           ///< by species, before scaling
     std::vector<std::uint8_t> rescored_;     ///< by species: left_ has changed in this pass
-    ScoresLeft highest_;                     ///< of the later passes so far: these measure those after them
-    std::size_t removedCount_ = 0;           ///< removals, not species: picking an omitted row adds a second
-    std::size_t top_ = 0;                    ///< offset of the best species still in the race
-    std::size_t marginCount_ = 0;            ///< of the last pass that looked for species within the margin
-    int pickNumber_ = 0;
+    Progress progress_;
 };
 
 }  // namespace method

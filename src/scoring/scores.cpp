@@ -7,10 +7,6 @@
 void frmBrenica::CalculateScores() try {
     global_.ScoresCalculated = false;
     if (!ValidateScoreValues()) return emptyScoreTables();
-    if (global_.TotalSpecies <= 0 || global_.TotalHabitatTypes <= 0 || global_.TotalJurisUnits <= 0 ||
-        global_.TotalLandUses <= 0) {
-        return;
-    }
     std::vector<double> homeRanges;
     modBrenicaUtilities::ScaleHomeRanges(homeRanges, flxSummary(summary::Area), HomeRangeType, global_);
     modBrenicaUtilities::UpdateScores(

@@ -86,7 +86,7 @@ std::string occupancySentence(const OccupancySource& source, int species, const 
 /// the totals are still to be calculated.
 void frmBrenica::realignLevels(const ParameterList& list) {
     const int units = global_.*list.Total;
-    if (!levelsShifted(list) || units < 1) return;
+    if (!levelsShifted(list)) return;
     ui::Grid& table = flxSummary(list.WideMember);
     const ui::Grid& levels = flxSummary(list.LongMember);
     for (int species = 1; species <= global_.TotalSpecies; ++species) {

@@ -98,6 +98,12 @@ TEST_F(Band, an_equal_value_is_a_tie_though_another_row_beats_the_first) {
     EXPECT_TRUE(decided(Rule::Number, 0, 2).Tie);
 }
 
+TEST_F(Band, a_planner_who_names_one_has_the_first_row_until_then) {
+    const Decision decision = decided(Rule::Number, 1, 2);
+    EXPECT_TRUE(decision.Tie);
+    EXPECT_EQ(decision.Row, 0U);
+}
+
 TEST_F(Band, a_single_listed_species_is_taken_without_a_question) {
     Removed[1] = 1;
     EXPECT_EQ(chosen({{}}, 0, 1), 0U);

@@ -218,4 +218,14 @@ RC_GTEST_PROP(Method, blocks_of_any_size_are_sorted_alike, (unsigned seed)) {
     for (std::size_t i = 0; i < rows.size(); ++i) RC_ASSERT(rows[i].Species == expected[i].Species);
 }
 
+/// More thousandths than two digits of a key hold.
+TEST(Method, blocks_with_a_large_aggregate_are_sorted_alike) {
+    std::vector<SortKey> rows;
+    for (std::uint32_t s = 0; s < 120; ++s) rows.push_back({s == 60 ? 16.384 : s % 2 * 0.001, s});
+    BlockSorter().sort(rows);
+    EXPECT_EQ(rows.front().Species, 60U);
+    EXPECT_EQ(rows[1].Species, 1U);
+    EXPECT_EQ(rows.back().Species, 118U);
+}
+
 }  // namespace

@@ -272,6 +272,7 @@ TEST(Selection, with_nobody_left_to_pick_it_fails) {
     EXPECT_EQ(failure.At, Step::Selection);
     EXPECT_EQ(failure.Why, Cause::NoRow);
     EXPECT_EQ(failure.Row, 0U);
+    EXPECT_EQ(failure.Column, 0U);
     EXPECT_EQ(diary.Text(), "begun\nfirst block\nsorted\n");
 }
 
@@ -318,6 +319,49 @@ TEST(Selection, a_single_species_left_keeps_the_count_of_an_earlier_margin) {
     const Outcome outcome = select(land, {.Margin = 0});
     EXPECT_TRUE(outcome.Failed) << "the old count reaches past the block";
     EXPECT_THAT(speciesOf(outcome.Suite), ElementsAre(0, 1));
+}
+
+TEST(Selection, one_that_failed_is_not_complete) {
+    const Outcome outcome = select(emptyLandscape(2, 1, 1, 1), {});
+    EXPECT_TRUE(outcome.Failed);
+    EXPECT_FALSE(outcome.Suite.Complete);
+}
+
+/// Words of 64 units: one that is full, and one that is not.
+TEST(Selection, more_units_of_a_kind_than_a_word_holds) {
+    constexpr std::size_t Units = 70;
+    Landscape land = emptyLandscape(Units + 1, Units, Units, Units);
+    land.Ratings = {Table(Units + 1, Units, 1.0), Table(Units + 1, Units, 0.0), Table(Units + 1, Units, 0.0),
+                    Table(Units + 1, Units, 1.0), Table(Units + 1, Units, 1.0)};
+    for (std::size_t unit = 0; unit < Units; ++unit) {
+        land.HabitatLevels.at(unit, unit) = 3;
+        land.ZoneLevels.at(Units - unit, unit) = 3;
+        land.Ratings.Severity.at(unit, unit) = 3;
+    }
+    const Outcome outcome = select(land, {.Margin = 0, .ThreatRepresentation = 1});
+    EXPECT_TRUE(outcome.Suite.Complete);
+    EXPECT_EQ(outcome.Suite.Picks.size(), Units + 1);
+    for (const Unit kind : {Unit::Habitat, Unit::Threat}) {
+        for (std::size_t unit = 0; unit < Units; ++unit) {
+            const auto pick = static_cast<std::size_t>(outcome.Suite.CoveredBy[kind][unit]) - 1;
+            EXPECT_EQ(outcome.Suite.Picks[pick].Species, unit);
+        }
+    }
+}
+
+TEST(Selection, a_landscape_that_is_loaded_after_another_one_is_selected_from_alike) {
+    Landscape weak = pair();
+    weak.Ratings.Severity = tableOf({{0}, {1}});
+    Selection selection;
+    for (const Landscape& land : {pair(), weak}) {
+        Assessment assessment;
+        assess(land, assessment);
+        selection.load(land, assessment);
+        selection.start({});
+        TakeTop chooser;
+        selection.run(chooser);
+        EXPECT_EQ(selection.suite().CoveredBy[Unit::Threat], select(land, {}).Suite.CoveredBy[Unit::Threat]);
+    }
 }
 
 TEST(Selection, an_omitted_species_may_be_chosen_and_is_dropped_without_a_word) {

@@ -36,6 +36,11 @@ TEST_F(ProjectFile, ANewProjectWritesItsFortyLines) {
     EXPECT_EQ(save(), expected);
 }
 
+TEST_F(ProjectFile, PassesOverALineWithoutAnEqualsSign) {
+    openText(typical().text() + "Common Name\r\nProject Version\r\n");
+    EXPECT_EQ(save(), typical().text());
+}
+
 TEST_F(ProjectFile, WritesWhatItHasRead) {
     open(typical());
     EXPECT_EQ(save(), typical().text());

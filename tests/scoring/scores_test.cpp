@@ -48,6 +48,17 @@ TEST_F(Scores, NormalisedAddedAndRanked) {
     EXPECT_TRUE(global.ScoresCalculated);
 }
 
+TEST_F(Scores, GoBackToSpeciesOrderWhenTheyAreEmptied) {
+    openAt(varied(), 6);
+    form.flxSummary(summary::SocioEcon).TextMatrix(1, 1, "");
+    goTo(5);
+    goTo(6);
+    for (ui::Grid& grid : form.flxScoresSort) {
+        EXPECT_THAT(columnOf(grid, 0), ElementsAre("Common Name", "Species 1", "Species 2", "Species 3"));
+        EXPECT_THAT(columnOf(grid, 2), ElementsAre(testing::_, "", "", ""));
+    }
+}
+
 TEST_F(Scores, AreShownInOrderOfRankAndInSpeciesOrder) {
     openAt(varied(), 6);
     EXPECT_THAT(rowOf(form.flxScoresSort(0), 1),

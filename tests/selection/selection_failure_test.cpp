@@ -53,6 +53,12 @@ TEST_F(SelectionFailure, ARatingOfAThreatThatNothingCoversFailsInALaterPass) {
     EXPECT_EQ(results().TextMatrix(6, result::Vulnerability), "");
 }
 
+TEST_F(SelectionFailure, AProbabilityFailsLikeAnUrgency) {
+    openForSelection(twoThreats());
+    form.flxSummary(summary::ThreatsBySpecies).TextMatrix(6, threat::Probability, "");
+    EXPECT_EQ(failure(), reportOf("BrenicaUtilities.RecalcVulnerabilityScore", 13, "Type mismatch"));
+}
+
 TEST_F(SelectionFailure, AnAggregateStopsTheLookAtTheMarginBelowTheTopRow) {
     openForSelection(oneHabitatEach());
     form.flxScoresSort(0).TextMatrix(2, score::Aggregate, "");

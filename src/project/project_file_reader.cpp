@@ -43,8 +43,8 @@ struct ProjectFileReader::Row {
     const char* Key;
     void (ProjectFileReader::*Act)(const Row&, Values);
     ui::Grid frmBrenica::*List = nullptr;  ///< target list grid
-    int Member = 0;                        ///< or target member of flxSummary
     int Column = 0;
+    int Member = 0;        ///< target member of flxSummary, where there is no list
     int SecondMember = 0;  ///< cross table that holds the same values
     int SecondColumn = 0;
     int modGlobal::*Units = nullptr;
@@ -56,38 +56,38 @@ std::span<const ProjectFileReader::Row> ProjectFileReader::rows() {
     static constexpr Row Rows[] = {
         {projectfile::Version, &Reader::readVersion},
         {projectfile::CommonName, &Reader::readSpecies},
-        {projectfile::ScientificName, &Reader::readListColumn, &Form::flxCandidateSpecies, 0,
+        {projectfile::ScientificName, &Reader::readListColumn, &Form::flxCandidateSpecies,
          list::ScientificName},
         {projectfile::HabitatType, &Reader::readHabitatTypes},
-        {projectfile::HabitatArea, &Reader::readAreas, &Form::flxHabitatTypes, 0, list::Area},
-        {projectfile::HabitatUseLevel, &Reader::readListColumn, &Form::flxHabitatTypes, 0, list::LevelOfUse},
+        {projectfile::HabitatArea, &Reader::readAreas, &Form::flxHabitatTypes, list::Area},
+        {projectfile::HabitatUseLevel, &Reader::readListColumn, &Form::flxHabitatTypes, list::LevelOfUse},
         {projectfile::JurisUnit, &Reader::readJurisUnits},
-        {projectfile::JurisUnitArea, &Reader::readAreas, &Form::flxJurisUnits, 0, list::Area},
-        {projectfile::JurisUnitUseLevel, &Reader::readListColumn, &Form::flxJurisUnits, 0, list::LevelOfUse},
+        {projectfile::JurisUnitArea, &Reader::readAreas, &Form::flxJurisUnits, list::Area},
+        {projectfile::JurisUnitUseLevel, &Reader::readListColumn, &Form::flxJurisUnits, list::LevelOfUse},
         {projectfile::LandUse, &Reader::readLandUses},
-        {projectfile::Urgency, &Reader::readListColumn, &Form::flxLandUses, 0, list::Urgency},
-        {projectfile::Probability, &Reader::readListColumn, &Form::flxLandUses, 0, list::Probability},
+        {projectfile::Urgency, &Reader::readListColumn, &Form::flxLandUses, list::Urgency},
+        {projectfile::Probability, &Reader::readListColumn, &Form::flxLandUses, list::Probability},
         {projectfile::HomeRangeDefinition, &Reader::readHomeRangeDefinition},
         {projectfile::Functions, &Reader::readFunctions},
-        {projectfile::HabitatUse, &Reader::readLevelsOfUse, nullptr, summary::HabitatsBySpecies, use::Level,
+        {projectfile::HabitatUse, &Reader::readLevelsOfUse, nullptr, use::Level, summary::HabitatsBySpecies,
          summary::HabitatUse, 0, &modGlobal::TotalHabitatTypes},
-        {projectfile::JurisUnitUse, &Reader::readLevelsOfUse, nullptr, summary::JurisUnitsBySpecies,
-         use::Level, summary::JurisUnitUse, 0, &modGlobal::TotalJurisUnits},
-        {projectfile::Dispersal, &Reader::readSummaryColumn, nullptr, summary::Area, area::Dispersal},
-        {projectfile::Connectivity, &Reader::readSummaryColumn, nullptr, summary::Area, area::Connectivity},
-        {projectfile::HomeRanges, &Reader::readSummaryColumn, nullptr, summary::Area, area::HomeRange},
-        {projectfile::Occupied, &Reader::readSummaryColumn, nullptr, summary::Area, area::Occupied},
-        {projectfile::ConservationStatus, &Reader::readSummaryColumn, nullptr, summary::Vulnerability,
-         vulnerability::ConservationStatus},
-        {projectfile::Severity, &Reader::readThreatRatings, nullptr, summary::ThreatsBySpecies,
-         threat::Severity, summary::SpeciesByThreat, 2},
-        {projectfile::Recovery, &Reader::readThreatRatings, nullptr, summary::ThreatsBySpecies,
-         threat::Recovery, summary::SpeciesByThreat, 3},
-        {projectfile::Proportion, &Reader::readThreatRatings, nullptr, summary::ThreatsBySpecies,
-         threat::Proportion, summary::SpeciesByThreat, 4},
-        {projectfile::Function, &Reader::readNumberedColumn, nullptr, summary::Functionality},
-        {projectfile::SocioEcon, &Reader::readNumberedColumn, nullptr, summary::SocioEcon},
-        {projectfile::DataQuality, &Reader::readNumberedColumn, nullptr, summary::DataQuality},
+        {projectfile::JurisUnitUse, &Reader::readLevelsOfUse, nullptr, use::Level,
+         summary::JurisUnitsBySpecies, summary::JurisUnitUse, 0, &modGlobal::TotalJurisUnits},
+        {projectfile::Dispersal, &Reader::readSummaryColumn, nullptr, area::Dispersal, summary::Area},
+        {projectfile::Connectivity, &Reader::readSummaryColumn, nullptr, area::Connectivity, summary::Area},
+        {projectfile::HomeRanges, &Reader::readSummaryColumn, nullptr, area::HomeRange, summary::Area},
+        {projectfile::Occupied, &Reader::readSummaryColumn, nullptr, area::Occupied, summary::Area},
+        {projectfile::ConservationStatus, &Reader::readSummaryColumn, nullptr,
+         vulnerability::ConservationStatus, summary::Vulnerability},
+        {projectfile::Severity, &Reader::readThreatRatings, nullptr, threat::Severity,
+         summary::ThreatsBySpecies, summary::SpeciesByThreat, 2},
+        {projectfile::Recovery, &Reader::readThreatRatings, nullptr, threat::Recovery,
+         summary::ThreatsBySpecies, summary::SpeciesByThreat, 3},
+        {projectfile::Proportion, &Reader::readThreatRatings, nullptr, threat::Proportion,
+         summary::ThreatsBySpecies, summary::SpeciesByThreat, 4},
+        {projectfile::Function, &Reader::readNumberedColumn, nullptr, 0, summary::Functionality},
+        {projectfile::SocioEcon, &Reader::readNumberedColumn, nullptr, 0, summary::SocioEcon},
+        {projectfile::DataQuality, &Reader::readNumberedColumn, nullptr, 0, summary::DataQuality},
     };
     return Rows;
 }

@@ -12,6 +12,8 @@ constexpr auto ErrorBase = static_cast<std::int32_t>(0x80040000);
 constexpr auto ErrorEnd = static_cast<std::int32_t>(0x80050000);
 constexpr int UnexpectedError = 9999;
 constexpr const char* RunningApplication = "Brenica";
+constexpr const char* DescriptionStart = "Internal Error description: \"";
+constexpr const char* DescriptionEnd = "\".";
 
 bool isWrapped(const ui::RunTimeError& error) { return error.Number > ErrorBase && error.Number < ErrorEnd; }
 
@@ -21,10 +23,7 @@ std::string unexpectedDescription(const ui::RunTimeError& error, const std::stri
            source +
            "\r\n"
            "Internal Error number: " +
-           ui::toText(error.Number) +
-           ".\r\n"
-           "Internal Error description: \"" +
-           error.Description + "\".";
+           ui::toText(error.Number) + ".\r\n" + DescriptionStart + error.Description + DescriptionEnd;
 }
 
 }  // namespace
@@ -38,6 +37,14 @@ ui::RunTimeError CurrentError() {
         constexpr auto number = ui::ErrorNumber::OutOfMemory;
         return ui::RunTimeError(static_cast<std::int32_t>(number), "", ui::describe(number));
     }
+}
+
+std::string InternalDescription(const ui::RunTimeError& error) {
+    const std::string& text = error.Description;
+    const std::size_t mark = text.find(DescriptionStart);
+    if (mark == std::string::npos) return text;
+    const std::size_t start = mark + std::string_view(DescriptionStart).size();
+    return text.substr(start, text.rfind(DescriptionEnd) - start);
 }
 
 void SwallowError() { CurrentError(); }

@@ -23,6 +23,9 @@ inline constexpr std::int32_t ReportedErrorNumber = static_cast<std::int32_t>(0x
 /// The failure that is being caught, in the form of a run-time error. Passes on any other exception.
 ui::RunTimeError CurrentError();
 
+/// What the failure itself was, without what it was wrapped into.
+std::string InternalDescription(const ui::RunTimeError& error);
+
 /// Ends a command silently: to be called from a catch (...) block alone. Passes on what is no run-time failure.
 void SwallowError();
 

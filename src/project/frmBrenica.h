@@ -20,13 +20,9 @@
 #include "project/project_file_writer.h"
 #include "project/selection_obstacle.h"
 #include "scoring/export_tables.h"
+#include "selection/selection_run.h"
 #include "ui/event.h"
 #include "ui/files.h"
-
-namespace method {
-class Table;
-struct Landscape;
-}  // namespace method
 
 /// The main form: all controls of frmBrenicaControls, the form's own fields and every procedure. Its grids are the
 /// project. Each group of procedures is implemented in the folder of its subsystem, in the file named beside it.
@@ -212,6 +208,10 @@ public:
     /// What would keep a selection with the levels that were asked for last from running to its end.
     std::optional<SelectionObstacle> FindSelectionObstacle() const;
     void InitComplementarity();
+
+    // selection/selection_run.cpp
+    /// The selection on view; nothing where there is none.
+    std::optional<SelectionRun> TakeSelectionRun() const;
 
     // selection/results_display.cpp
     void optCompResults_Click(int index);
@@ -417,6 +417,9 @@ private:
     method::Levels askedLevels_;  ///< by the last press, which may have been refused
     std::optional<SelectionObstacle> obstacleIn(const method::Landscape& landscape,
                                                 const method::Table& threatScores) const;
+    method::Landscape selectionLandscape() const;
+    void runSelection(method::Selection& selection);
+    std::optional<SelectionOutcome> outcome_;  ///< of the selection on view
 
     // selection/results_export.cpp
     void printResult(std::string_view line);

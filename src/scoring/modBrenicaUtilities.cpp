@@ -24,29 +24,6 @@ double binOf(std::string_view label, const Labels& labels, int count) {
     return method::Unreadable;
 }
 
-method::HomeRanges homeRangesOf(const ui::Grid& areaGrid, int homeRangeType, const modGlobal& global) {
-    const int bins = homeRangeType == 1 ? static_cast<int>(DefaultBinLabels.size()) : global.TotalBins;
-    const auto valueOf = [&](std::string_view text) {
-        if (text.empty()) return method::Blank;
-        if (homeRangeType == 0)
-            return ui::tryReal(text, areaGrid.Form().Separator()).value_or(method::Unreadable);
-        return homeRangeType == 1 ? binOf(text, DefaultBinLabels, bins)
-                                  : binOf(text, global.UserBinLabels, bins);
-    };
-    method::HomeRanges ranges;
-    if (homeRangeType != 0) {
-        ranges.In = method::HomeRanges::Kind::Classes;
-        ranges.Classes = static_cast<std::size_t>(bins);
-    }
-    for (int species = 1; species <= global.TotalSpecies; ++species)
-        ranges.Values.push_back(valueOf(areaGrid.TextMatrix(species, area::HomeRange)));
-    return ranges;
-}
-
-bool saysYes(const ui::Grid& grid, int species, int col) {
-    return ui::equalsIgnoringCase(grid.TextMatrix(species, col), "Y");
-}
-
 /// `score` of the values of one row.
 template <class Score>
 double scoreOfRow(const ui::Grid& grid, int species, int cols, Score score) {
@@ -97,10 +74,33 @@ void writeNormalisedScores(ui::Grid& normalised, method::Scores& scores) {
 
 }  // namespace
 
+method::HomeRanges HomeRangesOf(const ui::Grid& areaGrid, int homeRangeType, const modGlobal& global) {
+    const int bins = homeRangeType == 1 ? static_cast<int>(DefaultBinLabels.size()) : global.TotalBins;
+    const auto valueOf = [&](std::string_view text) {
+        if (text.empty()) return method::Blank;
+        if (homeRangeType == 0)
+            return ui::tryReal(text, areaGrid.Form().Separator()).value_or(method::Unreadable);
+        return homeRangeType == 1 ? binOf(text, DefaultBinLabels, bins)
+                                  : binOf(text, global.UserBinLabels, bins);
+    };
+    method::HomeRanges ranges;
+    if (homeRangeType != 0) {
+        ranges.In = method::HomeRanges::Kind::Classes;
+        ranges.Classes = static_cast<std::size_t>(bins);
+    }
+    for (int species = 1; species <= global.TotalSpecies; ++species)
+        ranges.Values.push_back(valueOf(areaGrid.TextMatrix(species, area::HomeRange)));
+    return ranges;
+}
+
+bool SaysYes(const ui::Grid& grid, int species, int col) {
+    return ui::equalsIgnoringCase(grid.TextMatrix(species, col), "Y");
+}
+
 void ScaleHomeRanges(std::vector<double>& scaled, const ui::Grid& areaGrid, int homeRangeType,
                      const modGlobal& global) try {
     if (global.TotalSpecies < 1) return;
-    const method::HomeRanges ranges = homeRangesOf(areaGrid, homeRangeType, global);
+    const method::HomeRanges ranges = HomeRangesOf(areaGrid, homeRangeType, global);
     scaled = resultOf([&] { return method::scaleHomeRanges(ranges); },
                       [&](const method::Failure& failure) {
                           return CellPlace{areaGrid, tableIndex(failure.Row), area::HomeRange};
@@ -131,8 +131,8 @@ double GetHeteroScore(int species, const ui::Grid& habitats, const ui::Grid& zon
 double GetAreaScore(int species, double scaledHomeRange, const ui::Grid& areaGrid) try {
     return resultOf(
         [&] {
-            return method::areaScore(saysYes(areaGrid, species, area::Dispersal),
-                                     saysYes(areaGrid, species, area::Connectivity), scaledHomeRange,
+            return method::areaScore(SaysYes(areaGrid, species, area::Dispersal),
+                                     SaysYes(areaGrid, species, area::Connectivity), scaledHomeRange,
                                      numberAt(areaGrid, species, area::Occupied), landscapeIndex(species));
         },
         [&](const method::Failure&) {

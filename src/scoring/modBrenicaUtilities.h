@@ -4,12 +4,18 @@
 
 #include <vector>
 
+#include "method/landscape.h"
 #include "project/modGlobal.h"
 #include "ui/grid.h"
 
 /// The scores of the candidate species. Species count from 1 and stand in the row of their number; a cell that is read
 /// as a number must hold one, or the failure is reported under the name of the function.
 namespace modBrenicaUtilities {
+
+/// The home ranges of the area table, as the form's type has them: 0 continuous, 1 default bins, 2 user-defined bins.
+method::HomeRanges HomeRangesOf(const ui::Grid& areaGrid, int homeRangeType, const modGlobal& global);
+/// Whether a cell of the area table is "Y", in any case.
+bool SaysYes(const ui::Grid& grid, int species, int col);
 
 /// Home ranges of any kind on one scale from 0 to 3, element s - 1 for species s, from the area table. Continuous
 /// values are scaled to the largest present, bins to the last of their list.

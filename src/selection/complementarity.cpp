@@ -10,20 +10,6 @@
 
 namespace {
 
-/// What a selection works on. The levels and ratings are those of the tables by species.
-method::Landscape landscapeOf(const frmBrenica& form, const modGlobal& global) {
-    const int species = global.TotalSpecies;
-    const auto member = [&](int index) -> const ui::Grid& { return form.flxSummary(index); };
-    method::Landscape landscape;
-    landscape.HabitatLevels = levelsOf(member(summary::HabitatsBySpecies), species, global.TotalHabitatTypes);
-    landscape.ZoneLevels = levelsOf(member(summary::JurisUnitsBySpecies), species, global.TotalJurisUnits);
-    landscape.HabitatThresholds = columnOf(form.flxHabitatTypes, list::LevelOfUse, global.TotalHabitatTypes);
-    landscape.ZoneThresholds = columnOf(form.flxJurisUnits, list::LevelOfUse, global.TotalJurisUnits);
-    landscape.Ratings = ratingsOf(member(summary::ThreatsBySpecies), species, global.TotalLandUses);
-    landscape.Status = columnOf(member(summary::Vulnerability), vulnerability::ConservationStatus, species);
-    return landscape;
-}
-
 /// The cell over which a selection could not start.
 CellPlace startCell(const frmBrenica& form, const method::Failure& failure) {
     const int row = tableIndex(failure.Row);
@@ -35,10 +21,25 @@ CellPlace startCell(const frmBrenica& form, const method::Failure& failure) {
 
 }  // namespace
 
+/// The levels and ratings are those of the tables by species.
+method::Landscape frmBrenica::selectionLandscape() const {
+    const int species = global_.TotalSpecies;
+    method::Landscape landscape;
+    landscape.HabitatLevels =
+        levelsOf(flxSummary(summary::HabitatsBySpecies), species, global_.TotalHabitatTypes);
+    landscape.ZoneLevels =
+        levelsOf(flxSummary(summary::JurisUnitsBySpecies), species, global_.TotalJurisUnits);
+    landscape.HabitatThresholds = columnOf(flxHabitatTypes, list::LevelOfUse, global_.TotalHabitatTypes);
+    landscape.ZoneThresholds = columnOf(flxJurisUnits, list::LevelOfUse, global_.TotalJurisUnits);
+    landscape.Ratings = ratingsOf(flxSummary(summary::ThreatsBySpecies), species, global_.TotalLandUses);
+    landscape.Status =
+        columnOf(flxSummary(summary::Vulnerability), vulnerability::ConservationStatus, species);
+    return landscape;
+}
+
 std::optional<SelectionObstacle> frmBrenica::FindSelectionObstacle() const {
-    return obstacleIn(
-        landscapeOf(*this, global_),
-        threatScoresOf(flxSummary(summary::Vulnerability), global_.TotalSpecies, global_.TotalLandUses));
+    return obstacleIn(selectionLandscape(), threatScoresOf(flxSummary(summary::Vulnerability),
+                                                           global_.TotalSpecies, global_.TotalLandUses));
 }
 
 /// What was added to the lists since the scores has blank cells.
@@ -65,7 +66,7 @@ void frmBrenica::cmdComplement_Click() try {
     askedLevels_.Margin = txtErrorMargin.Real();
     askedLevels_.ThreatRepresentation = txtThreatRep.Real();
     askedLevels_.ConservationStatus = txtCCSRep.Real();
-    const method::Landscape landscape = landscapeOf(*this, global_);
+    const method::Landscape landscape = selectionLandscape();
     const method::Table threatScores =
         threatScoresOf(flxSummary(summary::Vulnerability), global_.TotalSpecies, global_.TotalLandUses);
     if (const auto obstacle = obstacleIn(landscape, threatScores)) return SelectionRefused(*obstacle);
@@ -86,12 +87,7 @@ void frmBrenica::cmdComplement_Click() try {
     global_.SelectionStarting = true;
     global_.ExcludedSpeciesList.clear();
     global_.ExcludedSpeciesCount = 0;
-    modBrenicaUtilities::cmdComplement_Click(
-        platform(), global_, selection,
-        {flxCompResults(0), flxScoresSort(0), flxBrenicSuite, flxHabitatTypes, flxJurisUnits,
-         flxSummary(summary::HabitatsBySpecies), flxSummary(summary::JurisUnitsBySpecies),
-         flxSummary(summary::ThreatsBySpecies), flxSummary(summary::Vulnerability), flxCompResults(1),
-         flxCompResults(2), flxCompResults(3)});
+    runSelection(selection);
     for (ui::OptionButton& button : optCompResults) button.Enabled(true);
     optCompResults(0).Value(true);
     cmdExportResults.Enabled(true);
@@ -100,7 +96,22 @@ void frmBrenica::cmdComplement_Click() try {
     ReportError(9999, "Brenica.cmdComplement_Click", "");
 }
 
+/// What it came to is kept, however it ended.
+void frmBrenica::runSelection(method::Selection& selection) try {
+    modBrenicaUtilities::cmdComplement_Click(
+        platform(), global_, selection,
+        {flxCompResults(0), flxScoresSort(0), flxBrenicSuite, flxHabitatTypes, flxJurisUnits,
+         flxSummary(summary::HabitatsBySpecies), flxSummary(summary::JurisUnitsBySpecies),
+         flxSummary(summary::ThreatsBySpecies), flxSummary(summary::Vulnerability), flxCompResults(1),
+         flxCompResults(2), flxCompResults(3)});
+    outcome_ = SelectionOutcome{selection.suite(), {}};
+} catch (...) {
+    outcome_ = SelectionOutcome{selection.suite(), InternalDescription(CurrentError())};
+    throw;
+}
+
 void frmBrenica::InitComplementarity() try {
+    outcome_.reset();
     flxBrenicSuite.Rows(1);  // so that its first row begins without the colours of an earlier suite
     if (global_.ScoresCalculated) {
         flxBrenicSuite.Rows(2);

@@ -1,0 +1,66 @@
+// SPDX-FileCopyrightText: 2026 The Brenica developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "insight/table.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+
+namespace insight {
+
+namespace {
+
+constexpr std::size_t LongestNumber = 400;  // the largest double with all its digits and some decimals
+
+template <class... Format>
+std::string digits(double value, Format... format) {
+    std::array<char, LongestNumber> text;
+    const auto [end, error] = std::to_chars(text.data(), text.data() + text.size(), value, format...);
+    return {text.data(), end};
+}
+
+/// What a field of a line may hold.
+std::string onOneLine(std::string text) {
+    std::replace_if(
+        text.begin(), text.end(), [](char c) { return c == '\t' || c == '\n' || c == '\r'; }, ' ');
+    return text;
+}
+
+struct Field {
+    std::string operator()(std::monostate) const { return ""; }
+    std::string operator()(bool value) const { return value ? "yes" : "no"; }
+    std::string operator()(std::int64_t value) const { return std::to_string(value); }
+    std::string operator()(double value) const { return digits(value + 0.0); }
+    std::string operator()(const Fixed& number) const {
+        return digits(number.Value, std::chars_format::fixed, number.Places);
+    }
+    std::string operator()(const std::string& text) const { return onOneLine(text); }
+    std::string operator()(const std::vector<std::string>& list) const {
+        std::string text;
+        for (const std::string& item : list) {
+            if (&item != &list.front()) text += "; ";
+            text += onOneLine(item);
+        }
+        return text;
+    }
+};
+
+}  // namespace
+
+std::string fieldOf(const Cell& cell) { return std::visit(Field(), cell); }
+
+std::string tabSeparated(const ResultTable& table) {
+    std::string text;
+    const auto addLine = [&text](const auto& cells, auto toField) {
+        for (const auto& cell : cells) {
+            if (&cell != &cells.front()) text += '\t';
+            text += toField(cell);
+        }
+        text += '\n';
+    };
+    addLine(table.Columns, [](const std::string& heading) { return heading; });
+    for (const auto& row : table.Rows) addLine(row, fieldOf);
+    return text;
+}
+
+}  // namespace insight

@@ -7,13 +7,17 @@
 #include <optional>
 #include <string>
 
-/// What one run of brenica-batch is asked for.
-struct BatchOptions {
+/// A project, and what a planner would enter on the way to its suite.
+struct RunOptions {
     std::string Project;
     std::optional<std::string> ErrorMargin;
     std::optional<std::string> ThreatRepresentation;
     std::optional<std::string> ConservationStatus;
     std::deque<std::string> Answers;
+};
+
+/// What one run of brenica-batch without a verb is asked for.
+struct BatchOptions : RunOptions {
     std::optional<std::string> Results;
     std::optional<std::string> Tables;
     std::optional<std::string> Messages;

@@ -1,0 +1,124 @@
+// SPDX-FileCopyrightText: 2026 The Brenica developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "batch/project_run.h"
+
+#include <ostream>
+
+#include "batch/usage_fault.h"
+#include "ui/text.h"
+
+namespace {
+
+constexpr int FirstPageOfWalk = 2;
+constexpr int LastPageOfWalk = 7;
+
+void printBox(std::ostream& err, const ShownBox& box) {
+    err << box.Title << ": " << withBreaks(box.Text, "\n  ") << '\n';
+    if (box.BoxKind != ShownBox::Kind::Message) err << "  > " << box.Answer << '\n';
+}
+
+}  // namespace
+
+std::string withBreaks(std::string_view text, std::string_view lineBreak) {
+    std::string shown;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] == '\n') continue;
+        if (text[i] != '\r') {
+            shown += text[i];
+        } else if (text.find_first_not_of("\r\n", i) != std::string_view::npos) {
+            shown += lineBreak;
+        }
+    }
+    return shown;
+}
+
+ProjectRun::ProjectRun(const RunOptions& options, std::ostream& err)
+    : options_(options), err_(err), form_(platform_, files_, global_) {
+    platform_.Answers = options.Answers;
+    platform_.OnBox = [this](const ShownBox& box) { printBox(err_, box); };
+    checkLevel(form_.txtErrorMargin, options_.ErrorMargin, "--error-margin");
+    checkLevel(form_.txtThreatRep, options_.ThreatRepresentation, "--threat-representation");
+    checkLevel(form_.txtCCSRep, options_.ConservationStatus, "--conservation-status");
+}
+
+void ProjectRun::checkLevel(const ui::TextBox& box, const std::optional<std::string>& level,
+                            const char* option) const {
+    if (!level) return;
+    for (const NumberBox& row : form_.NumberBoxes()) {
+        if (row.Box != &box) continue;
+        // A comma is a mark between thousands; whoever types it here means a decimal one.
+        const bool hasComma = level->find(',') != std::string::npos;
+        const auto value = ui::tryReal(*level, form_.Separator());
+        if (!hasComma && value && *value >= ui::toReal(row.Minimum) && *value <= ui::toReal(row.Maximum))
+            return;
+        throw UsageFault{std::string(option) + ": '" + *level + "' is no number from " + row.Minimum +
+                         " to " + row.Maximum};
+    }
+}
+
+ExitCode ProjectRun::select() {
+    try {
+        form_.mnuNewProject.UserClick();
+        if (!openProject()) return ExitUnreadableProject;
+        putLevel(form_.txtErrorMargin, options_.ErrorMargin);
+        putLevel(form_.txtThreatRep, options_.ThreatRepresentation);
+        putLevel(form_.txtCCSRep, options_.ConservationStatus);
+        return walkAndSelect();
+    } catch (const std::exception& error) {
+        error_ = error.what();
+        return ExitUnexpectedError;
+    }
+}
+
+/// The form swallows a fault of the file; the files have kept it.
+bool ProjectRun::openProject() {
+    platform_.Files.push_back(options_.Project);
+    form_.mnuOpenProject.UserClick();
+    const auto& fault = files_.LastFault();
+    const bool wasRead = !fault || fault->Line > 0;
+    if (wasRead && files_.LinesEnded() == 0)
+        return sayUnreadable("no line ends in CR, as those of a project do");
+    if (fault)
+        return sayUnreadable(withBreaks(fault->Error.Description, " "), fault->ReadWhole ? 0 : fault->Line);
+    return global_.ProjectFileName == options_.Project || sayUnreadable("cannot be opened");
+}
+
+bool ProjectRun::sayUnreadable(const std::string& reason, int line) {
+    err_ << ProgramName << ": " << options_.Project;
+    if (line > 0) err_ << ':' << line;
+    err_ << ": " << reason << '\n';
+    return false;
+}
+
+void ProjectRun::putLevel(ui::TextBox& box, const std::optional<std::string>& level) {
+    if (!level) return;
+    box.UserFocus();
+    box.UserPaste(*level);
+}
+
+ExitCode ProjectRun::walkAndSelect() {
+    for (int page = FirstPageOfWalk; page <= LastPageOfWalk; ++page) {
+        form_.tabBrenica.UserSelectTab(page);
+        if (form_.CurrentMainTab == page) continue;
+        err_ << ProgramName << ": page " << form_.CurrentMainTab
+             << " may not be left before its rows are complete\n";
+        return ExitNothingToScore;
+    }
+    if (!form_.cmdComplement.Enabled()) {
+        sayWhatIsMissing();
+        return ExitNothingToScore;
+    }
+    form_.cmdComplement.UserClick();
+    return ExitDone;
+}
+
+/// A gap in the grades has had its message from the form; an empty list has none.
+void ProjectRun::sayWhatIsMissing() {
+    const std::pair<int, const char*> lists[] = {{global_.TotalSpecies, "candidate species"},
+                                                 {global_.TotalHabitatTypes, "habitat types"},
+                                                 {global_.TotalJurisUnits, "management zones"},
+                                                 {global_.TotalLandUses, "human activities"}};
+    for (const auto& [count, name] : lists) {
+        if (count < 1) err_ << ProgramName << ": nothing to score: the project has no " << name << '\n';
+    }
+}

@@ -10,10 +10,14 @@
 
 #include "batch/batch_run.h"
 #include "batch/system_io.h"
+#include "batch/verb_run.h"
 
 namespace {
 
 int runCommandLine(int argc, char** argv, std::ostream& out) {
+    const std::span<const char* const> arguments(argv, static_cast<std::size_t>(argc));
+    if (const Verb* verb = argc > 1 ? findVerb(argv[1]) : nullptr)
+        return runVerb(*verb, arguments.subspan(2), out, std::cerr);
     const ParsedOptions parsed = parseOptions(argc, argv, out, std::cerr);
     return parsed.Options ? runBatch(*parsed.Options, out, std::cerr) : parsed.ExitCode;
 }

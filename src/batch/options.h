@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <deque>
 #include <iosfwd>
 #include <optional>
 #include <string>
+#include <vector>
 
 /// A project, and what a planner would enter on the way to its suite.
 struct RunOptions {
@@ -13,7 +13,7 @@ struct RunOptions {
     std::optional<std::string> ErrorMargin;
     std::optional<std::string> ThreatRepresentation;
     std::optional<std::string> ConservationStatus;
-    std::deque<std::string> Answers;
+    std::vector<std::string> Answers;
 };
 
 /// What one run of brenica-batch without a verb is asked for.

@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: 2026 The Brenica developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "batch/json_table.h"
+
+#include <nlohmann/json.hpp>
+
+#include "method/numbers.h"
+
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+struct Value {
+    Json operator()(std::monostate) const { return nullptr; }
+    Json operator()(const insight::Fixed& number) const {
+        return method::roundTo(number.Value, number.Places);
+    }
+    template <class Other>
+    Json operator()(const Other& value) const {
+        return value;
+    }
+};
+
+Json rowOf(const std::vector<std::string>& columns, const std::vector<insight::Cell>& cells) {
+    Json row = Json::object();
+    for (std::size_t i = 0; i < columns.size(); ++i) row[columns[i]] = std::visit(Value(), cells[i]);
+    return row;
+}
+
+}  // namespace
+
+std::string jsonText(const TableOrigin& origin, const Answer& answer) {
+    Json object;
+    object["project"] = origin.Project;
+    object["levels"] = {{"margin", origin.Levels.Margin},
+                        {"threat_representation", origin.Levels.ThreatRepresentation},
+                        {"conservation_status", origin.Levels.ConservationStatus}};
+    object["exit"] = static_cast<int>(origin.Exit);
+    for (const auto& [name, value] : answer.Facts) object[name] = value;
+    object["rows"] = Json::array();
+    for (const auto& row : answer.Table.Rows) object["rows"].push_back(rowOf(answer.Table.Columns, row));
+    return object.dump(-1, ' ', false, Json::error_handler_t::replace) + "\n";
+}

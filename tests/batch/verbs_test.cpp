@@ -63,7 +63,7 @@ TEST_F(Verbs, ExplainARunThatEndedInTheError) {
 }
 
 TEST_F(Verbs, GiveNoTableWhereNothingWasSelected) {
-    EXPECT_EQ(ask("units", oneCoversAll().set("Conservation Status", "0,")), ExitNothingToScore);
+    EXPECT_EQ(ask("units", oneCoversAll().set("Home ranges", "5,")), ExitNothingToScore);
     EXPECT_THAT(err.str(), HasSubstr("Enter"));
     EXPECT_EQ(ask("units", oneCoversAll().set("HeteroHabitat Population", "2,2,1,")), ExitUnexpectedError);
     EXPECT_THAT(err.str(), HasSubstr(report("BrenicaUtilities.GetHeteroScore")));

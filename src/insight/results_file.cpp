@@ -90,13 +90,14 @@ std::size_t readLevels(ResultsFile& file) {
     return last + 1;
 }
 
+/// Two rows, or a row and the end of its pass, stand together; a line elsewhere may look like one row.
 void findRows(ResultsFile& file, std::size_t from) {
-    const auto begin = file.Lines.begin();
-    const auto headings = std::find_if(begin + static_cast<std::ptrdiff_t>(from), file.Lines.end(),
-                                       [](const FileLine& line) { return line.Text == heading::Columns; });
-    const auto start = headings == file.Lines.end() ? begin + static_cast<std::ptrdiff_t>(from) : headings;
     const auto isRow = [](const FileLine& line) { return rowCells(line.Text).has_value(); };
-    const auto first = std::find_if(start, file.Lines.end(), isRow);
+    const auto begin = file.Lines.begin();
+    auto first = begin + static_cast<std::ptrdiff_t>(from);
+    while (first != file.Lines.end() &&
+           !(isRow(*first) && (first + 1 == file.Lines.end() || isRow(first[1]))))
+        ++first;
     const auto last = std::find_if(file.Lines.rbegin(), std::make_reverse_iterator(first), isRow);
     file.FirstRow = static_cast<std::size_t>(first - begin);
     file.EndOfRows = static_cast<std::size_t>(last.base() - begin);

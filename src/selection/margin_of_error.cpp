@@ -1,14 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Brenica developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <array>
 #include <optional>
 #include <span>
 
 #include "entry/modErrorHandling.h"
 #include "project/columns.h"
 #include "scoring/landscape_reader.h"
+#include "selection/margin_answers.h"
 #include "selection/selection.h"
-#include "ui/text.h"
 
 /// Two species whose aggregates lie close together are not told apart by a small difference: the user decides.
 
@@ -61,16 +60,6 @@ std::string firstPrompt(const BandTexts& texts) {
            line(indent + shown(texts.Adds[Unit::Threat]) + " additional threats");
 }
 
-struct RuleAnswer {
-    const char* Text;
-    method::Rule Way;
-};
-
-constexpr std::array RuleAnswers = {
-    RuleAnswer{"a", method::Rule::Aggregate}, RuleAnswer{"b", method::Rule::Heterogeneity},
-    RuleAnswer{"c", method::Rule::Threats}, RuleAnswer{"d", method::Rule::SocioEconomics},
-    RuleAnswer{"e", method::Rule::Number}};
-
 /// The user, asked by dialogues.
 class MarginDialogues : public method::AskingChooser {
 public:
@@ -83,13 +72,12 @@ private:
         BandTexts texts;
         for (const std::size_t offset : listed)
             texts.append(nameAt(offset), band.Species[offset], offset == listed.front() ? "" : "; ");
-        const std::string answer = ui::foldCase(ui::trim(platform_.askText(
-            firstPrompt(texts), "Species with aggregate score within the set margin of error", "a")));
-        for (const RuleAnswer& rule : RuleAnswers) {
-            if (answer == rule.Text) return rule.Way;
-        }
-        showInvalidAnswer("The option entered was invalid. The first species will be added to the suite.");
-        return std::nullopt;
+        const auto rule = ruleOf(platform_.askText(
+            firstPrompt(texts), "Species with aggregate score within the set margin of error", "a"));
+        if (!rule)
+            showInvalidAnswer(
+                "The option entered was invalid. The first species will be added to the suite.");
+        return rule;
     }
 
     /// The numbers shown skip removed species, the rows that an answer names do not.
@@ -99,11 +87,9 @@ private:
         int shown = 0;
         for (const std::size_t offset : listed)
             prompt += ui::toText(++shown) + ": " + std::string(nameAt(offset)) + "\r";
-        const std::string typed =
-            platform_.askText(prompt, "Select the species within the margin or error", "1");
-        for (std::size_t number = 1; number <= band.Count + 1; ++number) {
-            if (ui::trim(typed) == std::to_string(number)) return number;
-        }
+        const auto number =
+            speciesNumberOf(platform_.askText(prompt, "Select the species within the margin or error", "1"));
+        if (number && method::rowOfNumber(band, *number)) return number;
         showInvalidAnswer(
             "The species number entered was invalid. The first species will be added to the suite.");
         return std::nullopt;

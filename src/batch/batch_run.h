@@ -16,6 +16,7 @@ enum ExitCode {
     ExitUnreadableProject = 2,
     ExitNothingToScore = 3,
     ExitUnexpectedError = 4,
+    ExitCheckFailed = 5,
 };
 
 /// Opens the project in a form of its own, walks its pages, runs the selection and writes what was asked for. All of it

@@ -27,7 +27,23 @@ Json rowOf(const std::vector<std::string>& columns, const std::vector<insight::C
     return row;
 }
 
+std::string dumped(const Json& object) {
+    return object.dump(-1, ' ', false, Json::error_handler_t::replace) + "\n";
+}
+
+void addAnswer(Json& object, const Answer& answer) {
+    for (const auto& [name, value] : answer.Facts) object[name] = value;
+    object["rows"] = Json::array();
+    for (const auto& row : answer.Table.Rows) object["rows"].push_back(rowOf(answer.Table.Columns, row));
+}
+
 }  // namespace
+
+std::string jsonText(const Answer& answer) {
+    Json object = Json::object();
+    addAnswer(object, answer);
+    return dumped(object);
+}
 
 std::string jsonText(const TableOrigin& origin, const Answer& answer) {
     Json object;
@@ -36,8 +52,6 @@ std::string jsonText(const TableOrigin& origin, const Answer& answer) {
                         {"threat_representation", origin.Levels.ThreatRepresentation},
                         {"conservation_status", origin.Levels.ConservationStatus}};
     object["exit"] = static_cast<int>(origin.Exit);
-    for (const auto& [name, value] : answer.Facts) object[name] = value;
-    object["rows"] = Json::array();
-    for (const auto& row : answer.Table.Rows) object["rows"].push_back(rowOf(answer.Table.Columns, row));
-    return object.dump(-1, ' ', false, Json::error_handler_t::replace) + "\n";
+    addAnswer(object, answer);
+    return dumped(object);
 }

@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "batch/verb.h"
+#include "batch/project_question.h"
 
 /// What a table was made of.
 struct TableOrigin {
@@ -16,3 +16,5 @@ struct TableOrigin {
 /// One JSON object on one line: the origin, the facts, and the rows with the headings as keys. Numbers are numbers, lists
 /// arrays, yes and no booleans; an empty cell is null. Bytes that are no UTF-8 are replaced.
 std::string jsonText(const TableOrigin& origin, const Answer& answer);
+/// The same without an origin.
+std::string jsonText(const Answer& answer);

@@ -10,7 +10,7 @@
 
 #include "batch/batch_run.h"
 #include "batch/system_io.h"
-#include "batch/verb_run.h"
+#include "batch/verb.h"
 
 namespace {
 

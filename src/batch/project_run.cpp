@@ -108,6 +108,7 @@ ExitCode ProjectRun::walkAndSelect() {
         sayWhatIsMissing();
         return ExitNothingToScore;
     }
+    answersLeft_.assign(platform_.Answers.begin(), platform_.Answers.end());
     form_.cmdComplement.UserClick();
     return ExitDone;
 }

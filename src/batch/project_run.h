@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "batch/batch_run.h"
 #include "batch/options.h"
@@ -24,6 +25,8 @@ public:
 
     /// To be called once.
     ExitCode select();
+    /// The answers that were left when the selection began.
+    const std::vector<std::string>& answersLeft() const { return answersLeft_; }
     /// The report of an unexpected error, as the form gives it.
     const std::string& error() const { return error_; }
 
@@ -46,5 +49,6 @@ private:
     ui::Files files_;
     modGlobal global_;
     frmBrenica form_;
+    std::vector<std::string> answersLeft_;
     std::string error_;
 };

@@ -2,35 +2,26 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <CLI/CLI.hpp>
-#include <string>
-#include <utility>
-#include <vector>
+#include <iosfwd>
+#include <span>
+#include <string_view>
 
-#include "batch/batch_run.h"
-#include "insight/table.h"
-#include "selection/selection_run.h"
-
-/// What a verb is asked for: a run, and how it is to be explained.
-struct VerbOptions : RunOptions {
-    bool Json = false;
+/// What stands behind a verb on the command line, and where it prints.
+struct VerbCall {
+    const struct Verb& Verb;
+    std::span<const char* const> Arguments;
+    std::ostream& Out;  ///< the table
+    std::ostream& Err;  ///< all else
 };
 
-/// What a verb says of a run.
-struct Answer {
-    insight::ResultTable Table;
-    std::vector<std::pair<std::string, bool>> Facts{};  ///< of the whole table, told in JSON alone
-    std::vector<std::string> Notes{};                   ///< lines on standard error
-    ExitCode Code = ExitDone;
-};
-
-/// A question about a suite.
+/// A question about suites that brenica-batch answers.
 struct Verb {
     const char* Name;
     const char* Help;
-    void (*AddOptions)(CLI::App& app, VerbOptions& options);
-    Answer (*Ask)(const SelectionRun& run, const VerbOptions& options);
+    int (*Run)(const VerbCall& call);  ///< gives the exit code
 };
 
 /// The verb of this name, if it is one.
 const Verb* findVerb(std::string_view name);
+
+int runVerb(const Verb& verb, std::span<const char* const> arguments, std::ostream& out, std::ostream& err);

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <nlohmann/json.hpp>
 
-#include "batch/verb_run.h"
+#include "batch/verb.h"
 #include "batch_test.h"
 
 using testing::ElementsAre;

@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: 2026 The Brenica developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "batch/project_question.h"
+
+#include <ostream>
+
+#include "batch/command_line.h"
+#include "batch/json_table.h"
+#include "batch/project_run.h"
+
+namespace {
+
+void sayEndOfRun(std::ostream& err, const SelectionOutcome& outcome) {
+    if (!outcome.Error) return;
+    sayLine(err, "the run ended in an error after " + std::to_string(outcome.Suite.Picks.size()) +
+                     " species: " + withBreaks(*outcome.Error, " "));
+}
+
+}  // namespace
+
+VerbCommandLine::VerbCommandLine(const Verb& verb)
+    : CLI::App(verb.Help, std::string(ProgramName) + " " + verb.Name) {
+    add_flag("--json", Json, "print one JSON object in the place of the table");
+    footer(
+        "Exit code: 0 done, 1 wrong usage, 2 a file cannot be read, 3 nothing to score, 4 unexpected error.");
+}
+
+void sayLine(std::ostream& err, const std::string& line) { err << ProgramName << ": " << line << '\n'; }
+
+int explainProject(const VerbCall& call, const ProjectQuestion& question) {
+    RunOptions options;
+    VerbCommandLine commandLine(call.Verb);
+    if (question.AddOptions) question.AddOptions(commandLine);
+    addRunOptions(commandLine, options);
+    if (const auto code = parseArguments(commandLine, call.Arguments, call.Out, call.Err)) return *code;
+    ProjectRun project(options, call.Err);
+    if (question.Check) question.Check(options);
+    const ExitCode code = project.select();
+    const std::optional<SelectionRun> run = project.form().TakeSelectionRun();
+    if (!run) {
+        if (code == ExitUnexpectedError) call.Err << withBreaks(project.error(), "\n") << '\n';
+        return code == ExitDone ? ExitNothingToScore : code;
+    }
+    sayEndOfRun(call.Err, run->Outcome);
+    const Answer answer = question.Ask({*run, options, project.answersLeft()});
+    for (const std::string& note : answer.Notes) sayLine(call.Err, note);
+    if (answer.Table.Columns.empty()) return answer.Code;
+    call.Out << (commandLine.Json ? jsonText({options.Project, run->Levels, code}, answer)
+                                  : insight::tabSeparated(answer.Table));
+    return answer.Code;
+}

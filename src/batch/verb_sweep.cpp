@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <array>
 #include <charconv>
+#include <filesystem>
 #include <optional>
 #include <string>
 #include <thread>
@@ -93,6 +94,8 @@ void check(SweepOptions& options, const RunOptions& run) {
     options.Settings.Part = shardOf(options.Shard);
     options.Settings.Vary = variedOf(options.Vary);
     if (!options.Counts) return;
+    if (!std::filesystem::is_regular_file(run.Project))
+        throw UsageFault{"--counts: " + run.Project + " is no file, which could be read again"};
     requireDistinct(run.Project, std::array{NamedOutput{"--counts", *options.Counts}});
     try {
         const OutputFile writable(*options.Counts);

@@ -92,3 +92,128 @@ TEST_F(Verbs, SayTheSameInJson) {
     EXPECT_EQ(row["reason"], "level");
     EXPECT_TRUE(row["covered_by"].is_null());
 }
+
+class SweepVerb : public Verbs {
+protected:
+    std::string counts(const std::string& name) const { return folder.file(name); }
+    int sweep(std::vector<std::string> arguments) {
+        arguments.insert(arguments.begin(), {"--vary", "levels,answers,grades", "--runs", "30"});
+        return ask("sweep", withQuestion(), arguments);
+    }
+    int merge(const std::vector<std::string>& files) {
+        std::vector<const char*> raw;
+        for (const std::string& file : files) raw.push_back(file.c_str());
+        out.str("");
+        err.str("");
+        return runVerb(*findVerb("merge"), raw, out, err);
+    }
+    /// Both halves of a sweep, in `a` and `b`.
+    void makeHalves() {
+        ASSERT_EQ(sweep({"--shard", "1/2", "--counts", counts("a")}), ExitDone) << err.str();
+        ASSERT_EQ(sweep({"--shard", "2/2", "--counts", counts("b")}), ExitDone) << err.str();
+    }
+};
+
+TEST_F(SweepVerb, CountsEverySpeciesUnitAndEnd) {
+    EXPECT_EQ(ask("sweep", oneCoversAll(), {"--vary", "levels", "--runs", "8"}), ExitDone);
+    EXPECT_THAT(lines(), testing::Contains("species\t\t1\tSpecies 1\t8\t8\t1.0000\t0.6756\t1.0000"));
+    EXPECT_THAT(lines(), testing::Contains("size\t\t\t1\t8\t8\t1.0000\t0.6756\t1.0000"));
+}
+
+TEST_F(SweepVerb, GivesTheSameForAnyNumberOfThreads) {
+    ASSERT_EQ(sweep({"--threads", "1"}), ExitDone);
+    const std::string one = out.str();
+    out.str("");
+    ASSERT_EQ(sweep({"--threads", "3"}), ExitDone);
+    EXPECT_EQ(out.str(), one);
+}
+
+TEST_F(SweepVerb, IsPutTogetherFromShardsInAnyOrder) {
+    makeHalves();
+    out.str("");
+    sweep({});
+    const std::string whole = out.str();
+    EXPECT_EQ(merge({counts("b"), counts("a")}), ExitDone);
+    EXPECT_EQ(out.str(), whole);
+    EXPECT_EQ(merge({"--json", counts("b"), counts("a")}), ExitDone);
+    EXPECT_EQ(nlohmann::json::parse(out.str())["rows"].size(),
+              static_cast<std::size_t>(std::count(whole.begin(), whole.end(), '\n')) - 1);
+}
+
+TEST_F(SweepVerb, NamesAShardThatDoesNotBelong) {
+    makeHalves();
+    EXPECT_EQ(merge({counts("b")}), ExitWrongUsage);
+    EXPECT_EQ(err.str(), "brenica-batch: shard 1/2 is missing\n");
+    EXPECT_EQ(merge({counts("a"), counts("b"), counts("a")}), ExitWrongUsage);
+    EXPECT_THAT(err.str(), HasSubstr("shard 1/2 is there twice"));
+    ASSERT_EQ(sweep({"--shard", "2/2", "--seed", "2", "--counts", counts("c")}), ExitDone);
+    EXPECT_EQ(merge({counts("a"), counts("c")}), ExitWrongUsage);
+    EXPECT_THAT(err.str(), HasSubstr(counts("c")));
+    EXPECT_THAT(err.str(), HasSubstr("seed"));
+    EXPECT_EQ(merge({counts("a"), counts("nothing")}), ExitWrongUsage);
+    EXPECT_THAT(err.str(), HasSubstr("nothing: cannot be read: No such file or directory"));
+    EXPECT_EQ(out.str(), "");
+}
+
+TEST_F(SweepVerb, RefusesWhatItCannotDo) {
+    const std::vector<std::vector<std::string>> wrong = {{"--shard", "0/2"},
+                                                         {"--shard", "3/2"},
+                                                         {"--shard", "2"},
+                                                         {"--shard", "1/2x"},
+                                                         {"--p", "1.1"},
+                                                         {"--runs", "0"},
+                                                         {"--threads", "0"},
+                                                         {"--p", "nan"},
+                                                         {"--seed", "-1"},
+                                                         {"--counts", projectPath()},
+                                                         {"--counts", "/nowhere/counts"}};
+    for (const auto& arguments : wrong) {
+        EXPECT_EQ(sweep(arguments), ExitWrongUsage) << arguments[0] << ' ' << arguments[1];
+        EXPECT_EQ(out.str(), "");
+    }
+    EXPECT_EQ(ask("sweep", withQuestion()), ExitWrongUsage) << "nothing is varied";
+    EXPECT_EQ(ask("sweep", withQuestion(), {"--vary", "weather"}), ExitWrongUsage);
+}
+
+class VerifyVerb : public Verbs {
+protected:
+    std::string resultsOf(const ProjectText& project) {
+        options.Results = folder.file("results.txt");
+        EXPECT_EQ(run(project), ExitDone);
+        out.str("");
+        err.str("");
+        return readFile(*options.Results);
+    }
+    int verify(const ProjectText& project, const std::string& results,
+               std::vector<std::string> arguments = {}) {
+        writeFile(folder.file("results.txt"), results);
+        arguments.push_back(folder.file("results.txt"));
+        return ask("verify", project, arguments);
+    }
+};
+
+TEST_F(VerifyVerb, FindsThatAFileFollows) {
+    EXPECT_EQ(verify(withQuestion(), resultsOf(withQuestion())), ExitDone);
+    EXPECT_EQ(lines().front(), "check\texpected\tfound\tok");
+    for (std::size_t i = 1; i < lines().size(); ++i) EXPECT_TRUE(lines()[i].ends_with("\tyes")) << lines()[i];
+}
+
+TEST_F(VerifyVerb, NamesTheLineThatDoesNot) {
+    std::string results = resultsOf(withQuestion());
+    results.insert(results.find("Species 1"), "X");
+    EXPECT_EQ(verify(withQuestion(), results), ExitCheckFailed);
+    EXPECT_THAT(lines(),
+                testing::Contains(testing::AllOf(testing::StartsWith("line "), testing::EndsWith("\tno"))));
+}
+
+TEST_F(VerifyVerb, FindsLevelsThatAreNotThoseOfTheFile) {
+    EXPECT_EQ(verify(withQuestion(), resultsOf(withQuestion()), {"--error-margin", "7"}), ExitCheckFailed);
+}
+
+TEST_F(VerifyVerb, CannotReadWhatIsNoResultsFile) {
+    EXPECT_EQ(verify(withQuestion(), "Dear all,\n"), ExitUnreadableProject);
+    EXPECT_THAT(err.str(), HasSubstr("brenica-batch: " + folder.file("results.txt") + ":1: "));
+    EXPECT_EQ(ask("verify", withQuestion(), {folder.path()}), ExitUnreadableProject);
+    EXPECT_THAT(err.str(), HasSubstr(folder.path() + ": cannot be read: Is a directory"));
+    EXPECT_EQ(out.str(), "");
+}

@@ -42,19 +42,20 @@ std::size_t sharedAtEnd(Lines expected, Lines found) {
         expected.rbegin());
 }
 
-/// The steps of the cheapest way through both, from the first lines.
+/// The steps of the cheapest way through both. Costs are those from a place to the end, so that of equal ways the one is
+/// taken that pairs its first lines.
 std::vector<Step> cheapestSteps(Lines expected, Lines found) {
     const std::size_t width = found.size() + 1;
     std::vector<Step> steps((expected.size() + 1) * width, Step::Foreign);
     std::vector<std::uint32_t> cost(width);
-    for (std::size_t f = 1; f < width; ++f) cost[f] = cost[f - 1] + Alone;
-    for (std::size_t e = 1; e <= expected.size(); ++e) {
-        std::uint32_t diagonal = cost[0];
-        cost[0] += Alone;
-        steps[e * width] = Step::Missing;
-        for (std::size_t f = 1; f < width; ++f) {
-            const std::array costs = {diagonal + costOfPair(expected[e - 1], found[f - 1]), cost[f] + Alone,
-                                      cost[f - 1] + Alone};
+    for (std::size_t f = found.size(); f-- > 0;) cost[f] = cost[f + 1] + Alone;
+    for (std::size_t e = expected.size(); e-- > 0;) {
+        std::uint32_t diagonal = cost[found.size()];
+        cost[found.size()] += Alone;
+        steps[e * width + found.size()] = Step::Missing;
+        for (std::size_t f = found.size(); f-- > 0;) {
+            const std::array costs = {diagonal + costOfPair(expected[e], found[f]), cost[f] + Alone,
+                                      cost[f + 1] + Alone};
             const auto best = std::min_element(costs.begin(), costs.end());
             diagonal = cost[f];
             cost[f] = *best;
@@ -62,12 +63,11 @@ std::vector<Step> cheapestSteps(Lines expected, Lines found) {
         }
     }
     std::vector<Step> way;
-    for (std::size_t e = expected.size(), f = found.size(); e + f > 0;) {
+    for (std::size_t e = 0, f = 0; e < expected.size() || f < found.size();) {
         way.push_back(steps[e * width + f]);
-        if (way.back() != Step::Foreign) --e;
-        if (way.back() != Step::Missing) --f;
+        if (way.back() != Step::Foreign) ++e;
+        if (way.back() != Step::Missing) ++f;
     }
-    std::reverse(way.begin(), way.end());
     return way;
 }
 

@@ -78,26 +78,31 @@ bool isHeading(const FileLine& line) {
     throw ResultsFault(number, std::string("the ") + LevelNames[level] + " is missing or no number");
 }
 
-/// Returns the index of the line after the levels.
+/// Returns the index of the line after the first level.
 std::size_t readLevels(ResultsFile& file) {
     const LevelPlaces places = findLevels(file.Lines);
-    std::size_t last = 0;
+    std::size_t first = file.Lines.size();
     for (std::size_t level = 0; level < places.size(); ++level) {
         if (!places[level]) failWithout(level, places, file);
         file.Levels[level] = *statedLevel(file.Lines[*places[level]], LevelKinds[level]);
-        last = std::max(last, *places[level]);
+        first = std::min(first, *places[level]);
     }
-    return last + 1;
+    return first + 1;
 }
 
-/// Two rows, or a row and the end of its pass, stand together; a line elsewhere may look like one row.
+/// Rows follow their headings. Where those are gone, two rows, or a row and the end of its pass, stand together; a line
+/// elsewhere may look like one row.
 void findRows(ResultsFile& file, std::size_t from) {
     const auto isRow = [](const FileLine& line) { return rowCells(line.Text).has_value(); };
     const auto begin = file.Lines.begin();
-    auto first = begin + static_cast<std::ptrdiff_t>(from);
+    const auto start = begin + static_cast<std::ptrdiff_t>(from);
+    auto first = start;
     while (first != file.Lines.end() &&
            !(isRow(*first) && (first + 1 == file.Lines.end() || isRow(first[1]))))
         ++first;
+    const auto above = std::find_if(std::make_reverse_iterator(first), std::make_reverse_iterator(start),
+                                    [](const FileLine& line) { return line.Text == heading::Columns; });
+    if (above.base() != start) first = above.base();
     const auto last = std::find_if(file.Lines.rbegin(), std::make_reverse_iterator(first), isRow);
     file.FirstRow = static_cast<std::size_t>(first - begin);
     file.EndOfRows = static_cast<std::size_t>(last.base() - begin);
@@ -122,9 +127,9 @@ void readSuite(ResultsFile& file, std::size_t from) {
 ResultsFile readResultsFile(std::string_view text) {
     ResultsFile file;
     splitLines(text, file);
-    const std::size_t afterLevels = readLevels(file);
-    findRows(file, afterLevels);
-    readSuite(file, afterLevels);
+    const std::size_t afterLevel = readLevels(file);
+    findRows(file, afterLevel);
+    readSuite(file, afterLevel);
     return file;
 }
 

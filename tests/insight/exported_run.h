@@ -128,6 +128,25 @@ inline std::string randomNames(Draw& draw, std::size_t count) {
     return names;
 }
 
+/// Levels of use, species by species. Mostly some species reaches every unit, so that the run comes to its end.
+inline std::string randomUse(Draw& draw, std::size_t species, std::size_t units) {
+    const std::vector<std::vector<std::string>> pools = {{"0", "0", "0", "3"},
+                                                         {"0", "1", "2", "3"},
+                                                         {"0", "0", "1.5", "2.5", "3"},
+                                                         {"0", "0", "0", "0", "2", "3"},
+                                                         {"0", "0", "0", "0", "0", "0", "0"},
+                                                         {"0.1", "0.7", "3"}};
+    const std::vector<std::string>& pool = draw.of(pools);
+    std::vector<std::string> levels;
+    for (std::size_t i = 0; i < species * units; ++i) levels.push_back(draw.of(pool));
+    for (std::size_t unit = 0; unit < units; ++unit) {
+        if (draw.chance(95)) levels[draw.below(species) * units + unit] = "3";
+    }
+    std::string values;
+    for (const std::string& level : levels) values += (values.empty() ? "" : ",") + level;
+    return values;
+}
+
 /// A project that passes the gates, mostly of several passes.
 inline RandomCase randomCase(std::uint64_t seed) {
     using Pool = std::vector<std::string>;
@@ -146,14 +165,8 @@ inline RandomCase randomCase(std::uint64_t seed) {
     const std::vector<Pool> thresholds = {{"2"}, {"3"}, {"1", "2", "3"}, {"1.5", "2.5"}, {"0", "1", "3"}};
     project.set("Habitat UseLevel", draw.list(draw.of(thresholds), habitats));
     project.set("MZone UseLevel", draw.list(draw.of(thresholds), zones));
-    const std::vector<Pool> uses = {{"0", "0", "0", "3"},
-                                    {"0", "1", "2", "3"},
-                                    {"0", "0", "1.5", "2.5", "3"},
-                                    {"0", "0", "0", "0", "2", "3"},
-                                    {"3"},
-                                    {"0.1", "0.7", "3"}};
-    project.set("HeteroHabitat Population", draw.list(draw.of(uses), species * habitats));
-    project.set("HeteroJU Individual", draw.list(draw.of(uses), species * zones));
+    project.set("HeteroHabitat Population", randomUse(draw, species, habitats));
+    project.set("HeteroJU Individual", randomUse(draw, species, zones));
     project.set("Urgency", draw.list({"0", "1", "2", "3"}, threats));
     project.set("Probability of occurence", draw.list({"0", "0.1", "0.33", "1", "1", "1"}, threats));
     for (const char* rating : {"Severity", "Recovery", "Proportion"}) {
@@ -178,7 +191,7 @@ inline RandomCase randomCase(std::uint64_t seed) {
 
     random.Settings.Margin = draw.of(Pool{"0", "1", "5", "12.5", "20", "35", "60", "100"});
     random.Settings.ThreatRepresentation = draw.of(Pool{"0", "0.25", "0.5", "0.75", "0.9", "1"});
-    random.Settings.ConservationStatus = draw.of(Pool{"1", "1", "0.9", "0.5"});
+    random.Settings.ConservationStatus = draw.of(Pool{"1", "1", "1", "0.9", "0.5"});
     const Pool answers = {"a", "b", "c", "d", "e", "e", "e", "1", "2", "3", "4", "x", ""};
     for (std::size_t i = draw.below(16); i > 0; --i) random.Settings.Answers.push_back(draw.of(answers));
     return random;

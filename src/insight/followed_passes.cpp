@@ -19,7 +19,7 @@ public:
     Follower(Recomputation& run, const ResultsFile& file, const std::vector<std::string>& names)
         : run_(run), file_(file), names_(names), next_(file.FirstRow) {
         for (const std::string& name : names)
-            cutNames_.emplace_back(rowCells(rowLine(mark::None, name, 1, {}).Text)->Name);
+            cutNames_.emplace_back(rowStart(rowLine(mark::None, name, 1, {}).Text).Name);
     }
 
     FollowedRun follow() {
@@ -36,16 +36,15 @@ private:
     void takeLines(FollowedPass& pass);
     void choose(FollowedPass& pass);
     std::vector<Mark> marks(const FollowedPass& pass) const;
-    std::optional<std::size_t> rowOfLine(const FollowedPass& pass, const RowCells& cells) const;
-    std::optional<std::size_t> rowOfSuite(const Pass& pass) const;
+    std::optional<std::size_t> rowOfLine(const FollowedPass& pass, std::size_t line) const;
+    bool isUnmarked(const FollowedPass& pass, std::size_t row) const;
+    std::optional<std::size_t> rowOfSuite(const FollowedPass& pass) const;
     bool mayDrop(const FollowedPass& pass) const;
-    bool comesAgain(const Pass& pass, std::size_t species) const;
+    bool isLeft(const FollowedPass& pass, std::size_t row) const;
     bool firstPass() const { return followed_.Passes.empty(); }
-    std::optional<RowCells> cellsAt(std::size_t line) const { return rowCells(file_.Lines[line].Text); }
+    RowStart startOf(std::size_t line) const { return rowStart(file_.Lines[line].Text); }
     bool endsPass(std::size_t line) const { return file_.Lines[line].Text == endOfPass().Text; }
-    bool hasName(const RowCells& cells, std::size_t species) const {
-        return cells.Name == cutNames_[species];
-    }
+    bool hasName(const RowStart& row, std::size_t species) const { return row.Name == cutNames_[species]; }
 
     Recomputation& run_;
     const ResultsFile& file_;
@@ -69,26 +68,27 @@ void Follower::followPass() {
     followed_.Passes.push_back(std::move(pass));
 }
 
-/// Up to the line that ends the pass. Where that one is gone, the next pass begins with rank 1.
+/// Up to the line that ends the pass. Where that one is gone, the next pass begins with rank 1; where the file ends
+/// within the pass, its last line may be cut.
 void Follower::takeLines(FollowedPass& pass) {
     pass.FirstLine = next_;
     std::size_t end = next_;
     while (end < file_.EndOfRows && !endsPass(end)) ++end;
     const std::size_t rows = next_ + pass.Expected.Rows.size();
     for (std::size_t line = rows; line <= rows + 1 && line < end; ++line) {
-        const auto cells = cellsAt(line);
         const bool doubled = line > 0 && file_.Lines[line].Text == file_.Lines[line - 1].Text;
-        if (cells && cells->Values[0] == "1" && !doubled) end = line;
+        if (startOf(line).Rank == "1" && !doubled) end = line;
     }
-    if (end < file_.EndOfRows && endsPass(end)) ++end;
     // No pass is empty: a line that ends one for the second time belongs to the one before.
     while (end < file_.EndOfRows && endsPass(end)) ++end;
+    const bool cut = end == file_.EndOfRows && end <= rows && end > next_ && !endsPass(end - 1);
+    if (cut && end < file_.Lines.size() && !file_.Lines[end].Text.empty()) ++end;
     pass.EndOfLines = next_ = end;
 }
 
 void Follower::choose(FollowedPass& pass) {
     const Pass& expected = pass.Expected;
-    const std::optional<std::size_t> inSuite = rowOfSuite(expected);
+    const std::optional<std::size_t> inSuite = rowOfSuite(pass);
     const std::vector<Mark> marked = marks(pass);
     const auto worth = [&](const Mark& mark) {
         return (expected.Rows[mark.Row].Permitted ? 2 : 0) + (mark.Row == inSuite ? 1 : 0);
@@ -98,7 +98,7 @@ void Follower::choose(FollowedPass& pass) {
     if (best != marked.end()) {
         pass.Pick = best->Row;
         pass.MarkedLine = best->Line;
-    } else if (inSuite && !comesAgain(expected, expected.Rows[*inSuite].Species)) {
+    } else if (inSuite && !isLeft(pass, *inSuite)) {
         pass.Pick = inSuite;
     } else if (!mayDrop(pass)) {
         pass.Pick = expected.Top;
@@ -109,43 +109,57 @@ void Follower::choose(FollowedPass& pass) {
 std::vector<Mark> Follower::marks(const FollowedPass& pass) const {
     std::vector<Mark> marked;
     for (std::size_t line = pass.FirstLine; line < pass.EndOfLines; ++line) {
-        const auto cells = cellsAt(line);
-        if (!cells || (cells->Mark != mark::Picked && !(firstPass() && cells->Mark == mark::Omitted)))
-            continue;
-        const auto row = rowOfLine(pass, *cells);
-        if (!row) continue;
-        const PassRow& expected = pass.Expected.Rows[*row];
-        if (expected.addsNothing() == (cells->Mark == mark::Omitted)) marked.push_back({*row, line});
+        const std::string_view shown = startOf(line).Mark;
+        if (shown != mark::Picked && !(firstPass() && shown == mark::Omitted)) continue;
+        const auto row = rowOfLine(pass, line);
+        if (row && pass.Expected.Rows[*row].addsNothing() == (shown == mark::Omitted))
+            marked.push_back({*row, line});
     }
     return marked;
 }
 
-/// By rank and name, else by name, else by rank.
-std::optional<std::size_t> Follower::rowOfLine(const FollowedPass& pass, const RowCells& cells) const {
-    std::optional<std::size_t> named;
-    std::optional<std::size_t> ranked;
+/// By name and rank, else by name and place, else by name, else by rank.
+std::optional<std::size_t> Follower::rowOfLine(const FollowedPass& pass, std::size_t line) const {
+    const RowStart found = startOf(line);
+    std::optional<std::size_t> best;
+    int worthOfBest = 0;
     for (std::size_t row = 0; row < pass.Expected.Rows.size(); ++row) {
-        const bool sameName = hasName(cells, pass.Expected.Rows[row].Species);
-        const bool sameRank = cells.Values[0] == std::to_string(row + 1);
-        if (sameName && sameRank) return row;
-        if (sameName && !named) named = row;
-        if (sameRank) ranked = row;
+        const int worth = (hasName(found, pass.Expected.Rows[row].Species) ? 4 : 0) +
+                          (found.Rank == std::to_string(row + 1) ? 2 : 0) +
+                          (line - pass.FirstLine == row ? 1 : 0);
+        if (worth < 2 || worth <= worthOfBest) continue;
+        best = row;
+        worthOfBest = worth;
     }
-    return named ? named : ranked;
+    return best;
 }
 
-/// The row of the species that the list of the suite names next; a permitted one where names are equal.
-std::optional<std::size_t> Follower::rowOfSuite(const Pass& pass) const {
+/// The row of the species that the list of the suite names next. Where names are equal, one that the file does not show
+/// as left, and that is permitted.
+std::optional<std::size_t> Follower::rowOfSuite(const FollowedPass& pass) const {
     const std::size_t number = followed_.Suite.size();
     if (number >= file_.Suite.size()) return {};
-    std::optional<std::size_t> found;
-    for (std::size_t row = 0; row < pass.Rows.size(); ++row) {
-        const PassRow& candidate = pass.Rows[row];
+    std::optional<std::size_t> best;
+    int worthOfBest = -1;
+    for (std::size_t row = 0; row < pass.Expected.Rows.size(); ++row) {
+        const PassRow& candidate = pass.Expected.Rows[row];
         if (names_[candidate.Species] != file_.Suite[number] || candidate.addsNothing()) continue;
-        if (candidate.Permitted) return row;
-        found = row;
+        const int worth = (isUnmarked(pass, row) ? 0 : 2) + (candidate.Permitted ? 1 : 0);
+        if (worth <= worthOfBest) continue;
+        best = row;
+        worthOfBest = worth;
     }
-    return found;
+    return best;
+}
+
+bool Follower::isUnmarked(const FollowedPass& pass, std::size_t row) const {
+    for (std::size_t line = pass.FirstLine; line < pass.EndOfLines; ++line) {
+        const RowStart found = startOf(line);
+        if (found.Mark != mark::Picked && found.Rank == std::to_string(row + 1) &&
+            hasName(found, pass.Expected.Rows[row].Species))
+            return true;
+    }
+    return false;
 }
 
 /// A later pass marks nothing where its pick adds nothing.
@@ -156,17 +170,20 @@ bool Follower::mayDrop(const FollowedPass& pass) const {
                        [](const PassRow& row) { return row.Permitted && row.Omitted; });
 }
 
-/// Whether the next lines have as many rows of that name as they would have if the species had not been picked.
-bool Follower::comesAgain(const Pass& pass, std::size_t species) const {
-    const auto staying = std::count_if(pass.Rows.begin(), pass.Rows.end(), [&](const PassRow& row) {
-        return !row.Omitted && cutNames_[row.Species] == cutNames_[species];
-    });
+/// Whether the file shows that the species of the row was not picked: the lines of the next pass have as many rows of its
+/// name as they would have then. Where the file is cut there the row itself must do.
+bool Follower::isLeft(const FollowedPass& pass, std::size_t row) const {
+    const std::string& name = cutNames_[pass.Expected.Rows[row].Species];
+    const auto left = std::count_if(
+        pass.Expected.Rows.begin(), pass.Expected.Rows.end(),
+        [&](const PassRow& other) { return !other.Omitted && cutNames_[other.Species] == name; });
     std::ptrdiff_t found = 0;
-    for (std::size_t line = next_; line < file_.EndOfRows && !endsPass(line); ++line) {
-        const auto cells = cellsAt(line);
-        if (cells && hasName(*cells, species)) ++found;
+    std::size_t line = next_;
+    for (; line < file_.EndOfRows && !endsPass(line); ++line) {
+        if (startOf(line).Name == name) ++found;
     }
-    return found >= staying;
+    const bool cut = line == file_.Lines.size() || (line > next_ && line == file_.EndOfRows);
+    return found >= left || (cut && isUnmarked(pass, row));
 }
 
 }  // namespace

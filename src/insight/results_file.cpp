@@ -106,6 +106,8 @@ void findRows(ResultsFile& file, std::size_t from) {
     const auto last = std::find_if(file.Lines.rbegin(), std::make_reverse_iterator(first), isRow);
     file.FirstRow = static_cast<std::size_t>(first - begin);
     file.EndOfRows = static_cast<std::size_t>(last.base() - begin);
+    // The last row of a file that was cut.
+    if (!file.EndsLine && file.EndOfRows + 1 == file.Lines.size()) ++file.EndOfRows;
 }
 
 void readSuite(ResultsFile& file, std::size_t from) {

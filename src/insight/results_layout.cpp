@@ -199,6 +199,16 @@ Fields fieldsOf(LineKind kind, std::string_view text) {
     }
 }
 
+RowStart rowStart(std::string_view text) {
+    const std::string_view named = firstCharacters(text, NameWidth);
+    RowStart start;
+    start.Mark = firstCharacters(named, MarkWidth);
+    start.Name = named.substr(start.Mark.size());
+    start.Rank = text.substr(named.size());
+    start.Rank = start.Rank.substr(0, start.Rank.find('\t'));
+    return start;
+}
+
 /// From the end, since a name may hold tabs.
 std::optional<RowCells> rowCells(std::string_view text) {
     RowCells cells;
@@ -210,11 +220,11 @@ std::optional<RowCells> rowCells(std::string_view text) {
         cells.Values[i] = text.substr(begin);
         text.remove_suffix(text.size() - begin);
     }
-    const std::string_view named = firstCharacters(text, NameWidth);
-    if (characters(named) < NameWidth) return {};
-    cells.Mark = firstCharacters(named, MarkWidth);
-    cells.Name = named.substr(cells.Mark.size());
-    cells.Values[0] = text.substr(named.size());
+    if (characters(text) < NameWidth) return {};
+    const RowStart start = rowStart(text);
+    cells.Mark = start.Mark;
+    cells.Name = start.Name;
+    cells.Values[0] = text.substr(start.Mark.size() + start.Name.size());
     return cells;
 }
 

@@ -80,10 +80,19 @@ struct LineField {
 /// The parts of a line that is to be of a kind; nothing where it cannot be. A line whose kind has no parts is one.
 std::optional<std::vector<LineField>> fieldsOf(LineKind kind, std::string_view text);
 
-/// The fixed parts of a row of a pass.
-struct RowCells {
+/// What a row of a pass begins with, as far as it goes.
+struct RowStart {
     std::string_view Mark;
     std::string_view Name;  ///< as it is cut, with the blanks that fill it
+    std::string_view Rank;
+};
+/// Takes any line for a row.
+RowStart rowStart(std::string_view text);
+
+/// All of a row: rank, scores, additions.
+struct RowCells {
+    std::string_view Mark;
+    std::string_view Name;
     std::array<std::string_view, 10> Values;
 };
 std::optional<RowCells> rowCells(std::string_view text);

@@ -14,9 +14,12 @@ namespace {
 constexpr std::array LevelNames = {"margin of error", "threat representation", "conservation status"};
 
 void splitLines(std::string_view text, ResultsFile& file) {
-    const std::size_t firstEnd = text.find('\n');
-    file.CarriageReturns = firstEnd != std::string_view::npos && firstEnd > 0 && text[firstEnd - 1] == '\r';
-    const std::string_view end = file.CarriageReturns ? "\r\n" : "\n";
+    constexpr std::string_view Written = "\r\n";
+    // One may be left of the carriage return that the text itself has.
+    const std::size_t first = text.find(Written);
+    file.CarriageReturns =
+        first != std::string_view::npos && text.find(Written, first + 1) != std::string_view::npos;
+    const std::string_view end = file.CarriageReturns ? Written : "\n";
     std::size_t number = 1;
     while (!text.empty()) {
         const std::size_t length = std::min(text.find(end), text.size());

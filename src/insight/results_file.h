@@ -36,7 +36,7 @@ struct ResultsFile {
     std::vector<std::string_view> Suite;
 };
 
-/// The text must outlive the result. Any bytes will do. A line ends at LF or CR LF, whichever the first one does: so a
+/// The text must outlive the result. Any bytes will do. Lines end in CR LF where two of them do, else in LF; so a
 /// name may hold a line break where lines end as they are written. Throws ResultsFault where the levels are not stated.
 ResultsFile readResultsFile(std::string_view text);
 

@@ -139,6 +139,18 @@ bool tellsPlace(const std::vector<std::size_t>& numbers, const std::vector<insig
                        [&](std::size_t number) { return number >= from && number <= to; });
 }
 
+bool allDiffer(std::vector<std::string> names) {
+    std::sort(names.begin(), names.end());
+    return std::adjacent_find(names.begin(), names.end()) == names.end();
+}
+
+/// Whether a pass has no pick in the suite.
+bool dropsAPick(const ExportedRun& exported) {
+    const Lines lines = linesOf(exported.Results);
+    const auto passes = std::count(lines.begin(), lines.end(), insight::endOfPass().Text);
+    return static_cast<std::size_t>(passes) != exported.Run->Outcome.Suite.Picks.size();
+}
+
 class ChangedResultsTest : public testing::Test {
 protected:
     /// Runs of random projects that wrote a file, as many as are asked for.
@@ -200,10 +212,12 @@ TEST_F(ChangedResultsTest, ACutFileIsFoundWhereverItIsCut) {
                 const ResultsFile file = insight::readResultsFile(text);
                 const Verification verification = insight::verifyResults(*exported.Run, file);
                 ASSERT_FALSE(verification.Holds) << text;
-                // What stands before the cut is right.
-                for (const std::size_t number : placesOf(verification))
+                // What stands before the cut is right, where the suite alone says how the run went.
+                if (!allDiffer(exported.Run->Species) || dropsAPick(exported)) continue;
+                for (const std::size_t number : placesOf(verification)) {
                     ASSERT_GE(number + 1, file.Lines.back().Number)
                         << text << insight::tabSeparated(verification.Table);
+                }
             } catch (const insight::ResultsFault& fault) {
                 // A line that is missing would be the next one.
                 EXPECT_LE(fault.Line,

@@ -22,10 +22,10 @@ struct PlannedRun {
 
 inline std::string examplePath(const std::string& name) { return BRENICA_SOURCE_DIR "/examples/" + name; }
 
-inline PlannedRun fullExample() {
+inline PlannedRun fullLandscape() {
     return {examplePath("full_landscape.brn"), "6", "0.4", "0.8", {"b", "d", "b", "2"}};
 }
-inline PlannedRun smallExample() { return {examplePath("small_landscape.brn")}; }
+inline PlannedRun smallLandscape() { return {examplePath("small_landscape.brn")}; }
 
 inline SelectionRun selected(const PlannedRun& planned) {
     ScriptedPlatform platform;

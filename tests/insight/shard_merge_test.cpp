@@ -20,7 +20,7 @@ namespace {
 
 const SelectionRun& small() {
     static const SelectionRun run = [] {
-        SelectionRun selectedRun = selected(smallExample());
+        SelectionRun selectedRun = selected(smallLandscape());
         selectedRun.Species[0] = "An odd\tname \\ of\r\ntwo lines";
         return selectedRun;
     }();

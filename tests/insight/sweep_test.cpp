@@ -8,7 +8,6 @@
 #include <cmath>
 #include <set>
 
-#include "insight/representation.h"
 #include "insight/sweep_worker.h"
 #include "selected_run.h"
 
@@ -23,7 +22,7 @@ using testing::Pair;
 namespace {
 
 const SelectionRun& full() {
-    static const SelectionRun run = selected(fullExample());
+    static const SelectionRun run = selected(fullLandscape());
     return run;
 }
 
@@ -32,7 +31,7 @@ SweepSettings settingsOf(Varied vary, std::uint64_t runs, std::uint64_t seed = 1
     settings.Vary = vary;
     settings.Runs = runs;
     settings.Seed = seed;
-    settings.Answers = marginAnswers(fullExample().Answers);
+    settings.Answers = marginAnswers(fullLandscape().Answers);
     return settings;
 }
 
@@ -69,7 +68,7 @@ void expectAlwaysTheSuite(const SelectionRun& run, const SweepCounts& counts, Co
 
 TEST(ASweep, ThatVariesNothingAlwaysGivesTheSuite) {
     expectAlwaysTheSuite(full(), insight::sweep(full(), settingsOf({}, 5)), 5);
-    const SelectionRun small = selected(smallExample());
+    const SelectionRun small = selected(smallLandscape());
     expectAlwaysTheSuite(small, insight::sweep(small, {.Vary = {}, .Runs = 3}), 3);
 }
 
@@ -85,7 +84,7 @@ TEST(ASweep, OfGradesThatAreNeverOffGivesTheSuite) {
 TEST(ASweep, UsesTheAnswersGivenInEachRun) {
     SweepSettings settings = settingsOf({}, 4);
     settings.Answers.clear();
-    PlannedRun planned = fullExample();
+    PlannedRun planned = fullLandscape();
     planned.Answers.clear();
     const SelectionRun other = selected(planned);
     const SweepCounts counts = insight::sweep(full(), settings);
@@ -177,32 +176,6 @@ TEST(ASweep, GivesTheFrequenciesOfAnIndependentOne) {
                       4 * std::sqrt(pooled * (1 - pooled) * (1 / N1 + 1 / N2)) + 1 / N1)
                 << "row " << row;
         }
-    }
-}
-
-/// What a worker counts as missed is what the representation of the varied run says.
-TEST(ASweep, CountsAsMissedWhatAnEligibleSpeciesCovers) {
-    const SweepSettings settings = settingsOf(All, 200);
-    const insight::GradeVariation grades(full().Landscape, full().DataQuality, settings);
-    insight::SweepWorker worker(full(), settings, &grades);
-    SweepCounts expected(insight::namesOf(full()));
-    for (std::uint64_t number = 0; number < 200; ++number) {
-        worker.run(number);
-        SelectionRun varied = full();
-        varied.Levels = worker.levels();
-        varied.Landscape = worker.landscape();
-        varied.ThreatScores = worker.threatScores();
-        const insight::Representation representation(varied);
-        for (std::size_t u = 0; u < representation.units(); ++u) {
-            const auto [kind, unit] = representation.unit(u);
-            if (worker.suite().CoveredBy[kind][unit] > 0) continue;
-            ++expected.Uncovered[kind][unit];
-            if (representation.coverable(u)) ++expected.Missed[kind][unit];
-        }
-    }
-    for (const Unit kind : method::UnitKinds) {
-        EXPECT_EQ(worker.counts().Uncovered[kind], expected.Uncovered[kind]);
-        EXPECT_EQ(worker.counts().Missed[kind], expected.Missed[kind]);
     }
 }
 

@@ -153,6 +153,8 @@ TEST(ACountsFile, SaysWhereItIsDamaged) {
     EXPECT_EQ(readFault(with(text, "done\t17", "done\t18")), "x:16: '18' is no whole number from 0 to 17");
     EXPECT_EQ(readFault(with(text, "done\t17", "done\t1.5")), "x:16: '1.5' is no whole number from 0 to 17");
     EXPECT_EQ(readFault(with(text, "shard\t2", "shard\t4")), "x:15: '4' is no whole number from 1 to 3");
+    const std::string second = "\nspecies\t" + small().Species[1] + "\t";
+    EXPECT_EQ(readFault(with(text, second, second + "9")).substr(0, 6), "x:19: ");  // more suites than runs
     EXPECT_EQ(readFault(with(text, "odd\\t", "odd\\q")),
               "x:18: a backslash stands before no t, n, r or backslash");
     EXPECT_EQ(readFault(text + "more\n"),
@@ -196,8 +198,11 @@ TEST(Shards, ThatAreThereTwiceAreNamed) {
 
 TEST(Shards, ThatWereCutShortAreNamed) {
     ShardCounts stopped = shard(2);
-    stopped.Counts.Runs = 5;
-    EXPECT_EQ(mergeFault({shard(1), stopped, shard(3)}), "shard 2/3 was cut short: s2 has 5 runs of 17");
+    for (const int runs : {0, 5, 16}) {
+        stopped.Counts.Runs = static_cast<insight::Count>(runs);
+        EXPECT_EQ(mergeFault({shard(1), stopped, shard(3)}),
+                  "shard 2/3 was cut short: s2 has " + std::to_string(runs) + " runs of 17");
+    }
 }
 
 TEST(Shards, OfAnotherSweepAreNamed) {

@@ -128,6 +128,17 @@ TEST(ASweep, InShardsAddsUpToTheWhole) {
     }
 }
 
+/// A table that was published can be made again as long as the numbers of its runs stay: from 0, shard I of N the runs
+/// I - 1, I - 1 + N and so on.
+TEST(ASweep, DoesTheRunsOfItsShard) {
+    SweepSettings settings = settingsOf(All, 11);
+    settings.Part = {2, 4};
+    const insight::GradeVariation grades(full().Landscape, full().DataQuality, settings);
+    insight::SweepWorker worker(full(), settings, &grades);
+    for (const std::uint64_t number : {1, 5, 9}) worker.run(number);
+    EXPECT_EQ(insight::sweep(full(), settings), worker.counts());
+}
+
 TEST(ASweep, OfAnotherSeedDrawsOtherRuns) {
     EXPECT_NE(insight::sweep(full(), settingsOf(All, 50, 1)), insight::sweep(full(), settingsOf(All, 50, 2)));
 }

@@ -13,6 +13,7 @@ namespace {
 
 constexpr std::array Verbs = {
     Verb{"units", "Tells which units the suite covers and why others stay uncovered.", answerUnits},
+    Verb{"minimum", "Tells whether the suite is the smallest, and how that is known.", answerMinimum},
     Verb{"sweep", "Selects many times with other levels, answers and grades and counts the suites.",
          answerSweep},
     Verb{"merge", "Puts the shards of a sweep together.", answerMerge},

@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <optional>
 
+#include "insight/run_suite.h"
+
 namespace insight {
 
 namespace {
@@ -126,8 +128,9 @@ std::uint64_t spread(std::uint64_t step) { return (step * 0x9E3779B97F4A7C15U) >
 
 }  // namespace
 
-Rows smallerSuite(const CoverIndex& index, const CoverPart& part, Rows suite, std::size_t lower,
-                  SearchBudget& budget) {
+Rows smallSuite(const CoverIndex& index, const CoverPart& part, std::size_t lower, SearchBudget& budget) {
+    Rows suite = greedySuite(index, part.Species, part.Units);
+    if (suite.size() <= lower) return suite;
     ChangingSuite changing(index, part);
     for (const std::uint32_t row : suite) changing.put(row);
     std::optional<std::size_t> justPut;

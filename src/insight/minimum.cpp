@@ -52,7 +52,8 @@ MinimumAnswer findMinimum(const CoverIndex& index, const RunSuite& run, SearchBu
     const UnitWeights linear = linearBound(index, part, budget);
     known.Lower = std::max<std::size_t>(linear.Bound, 1);
     budget.reached(known.Lower, known.upper());
-    known.Suite = smallerSuite(index, part, known.Suite, known.Lower, budget);
+    const Rows small = smallSuite(index, part, known.Lower, budget);
+    if (small.size() < known.upper()) known.Suite = small;
     CoverSearch search(index, budget);
     narrow(search, part, known, budget);
     if (known.isProven()) answer.BestIsProven = findBestTotal(search, index, all, known.Suite);

@@ -37,7 +37,8 @@ Answer searchProject(const ExplainedProject& project, const SearchOptions& optio
     const insight::SearchEffort effort{secondsOf(options), options.Nodes, &interruption.wanted(), tell};
     insight::SearchBudget budget(effort);
     const insight::Representation representation(project.Run);
-    const insight::CoverIndex index(coverProblem(project.Run, representation));
+    const insight::CoverProblem problem = coverProblem(project.Run, representation);
+    const insight::CoverIndex index(problem);
     const insight::RunSuite suite = runSuite(project.Run, index);
     const insight::MinimumAnswer minimum = findMinimum(index, suite, budget);
     Answer answer = ask({project, index, suite, minimum, budget});

@@ -4,6 +4,8 @@
 
 #include <array>
 
+#include "insight/names.h"
+
 namespace insight {
 
 namespace {
@@ -11,16 +13,6 @@ namespace {
 constexpr std::array ProofNames = {"witness", "weights", "search"};
 
 Cell number(std::size_t value) { return static_cast<std::int64_t>(value); }
-
-std::string unitName(const SelectionRun& run, const CoverIndex& index, std::size_t unit) {
-    std::size_t number = index.problem().Units[unit];
-    for (const method::Unit kind : method::UnitKinds) {
-        const std::vector<std::string>& names = run.Units[kind];
-        if (number < names.size()) return names[number];
-        number -= names.size();
-    }
-    return "";
-}
 
 std::vector<std::string> evidence(const SelectionRun& run, const CoverIndex& index,
                                   const MinimumAnswer& minimum) {
@@ -35,18 +27,6 @@ std::vector<std::string> evidence(const SelectionRun& run, const CoverIndex& ind
 }
 
 }  // namespace
-
-std::vector<std::string> speciesNames(const SelectionRun& run, const CoverIndex& index, const Rows& rows) {
-    std::vector<std::string> names;
-    for (const std::uint32_t row : rows) names.push_back(run.Species[index.problem().Species[row]]);
-    return names;
-}
-
-std::vector<std::string> unitNames(const SelectionRun& run, const CoverIndex& index, const Rows& units) {
-    std::vector<std::string> names;
-    for (const std::uint32_t unit : units) names.push_back(unitName(run, index, unit));
-    return names;
-}
 
 ResultTable minimumTable(const SelectionRun& run, const CoverIndex& index, const RunSuite& suite,
                          const MinimumAnswer& minimum) {

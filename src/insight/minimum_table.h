@@ -11,8 +11,4 @@ namespace insight {
 ResultTable minimumTable(const SelectionRun& run, const CoverIndex& index, const RunSuite& suite,
                          const MinimumAnswer& minimum);
 
-/// Names of the species of rows, and of the units of bits.
-std::vector<std::string> speciesNames(const SelectionRun& run, const CoverIndex& index, const Rows& rows);
-std::vector<std::string> unitNames(const SelectionRun& run, const CoverIndex& index, const Rows& units);
-
 }  // namespace insight

@@ -86,3 +86,90 @@ TEST(Minimum, TableOfASmallCase) {
         "measure\tvalue\ngreedy_size\t3\ngreedy_complete\tyes\nredundant\tS1\npruned_size\t2\nlower\t2\nupper\t2\n"
         "proven\tyes\ngap\t1\ngreedy_total\t6.25\nminimum_total\t2.75\nsuite\tS2; S3\nproof\twitness\nwitness\tH3; H6\n");
 }
+
+TEST(Minimum, NothingToCoverIsTheEmptySuite) {
+    for (const bool isExcluded : {false, true}) {
+        const Solved solved(CoverCase{.Uses = {{isExcluded ? 1 : 0}}, .Excluded = {isExcluded}});
+        EXPECT_TRUE(solved.Minimum.isProven());
+        EXPECT_EQ(
+            tabSeparated(solved.table()),
+            "measure\tvalue\ngreedy_size\t0\ngreedy_complete\tyes\nredundant\t\npruned_size\t0\nlower\t0\n"
+            "upper\t0\nproven\tyes\ngap\t0\ngreedy_total\t0\nminimum_total\t0\nsuite\t\nproof\twitness\n"
+            "witness\t\n");
+    }
+}
+
+TEST(Minimum, ARunThatMissedAUnitHasNoGap) {
+    const Solved solved(CoverCase{.Uses = {{1, 0}, {0, 1}}, .Picks = {0}});
+    EXPECT_EQ(solved.field("greedy_complete"), "no");
+    EXPECT_EQ(solved.field("gap"), "");
+    EXPECT_EQ(solved.field("pruned_size"), "1");
+    EXPECT_EQ(solved.field("suite"), "S1; S2");
+}
+
+TEST(Minimum, OfEqualSpeciesTheBetterThenTheFirstIsTaken) {
+    const CoverCase made = {.Uses = {{1, 1}, {1, 1}, {1, 1}}, .Picks = {2}};
+    EXPECT_EQ(Solved(made).field("suite"), "S1");
+    CoverCase graded = made;
+    graded.Aggregates = {1, 2, 2};
+    EXPECT_EQ(Solved(graded).field("suite"), "S2");
+}
+
+TEST(Minimum, WeightsProveWhatNoWitnessCan) {
+    // Three units, each two of which share a species: two species are needed, and no two units are apart.
+    const Solved solved(CoverCase{.Uses = {{1, 1, 0}, {1, 0, 1}, {0, 1, 1}}, .Picks = {0, 1}});
+    EXPECT_EQ(solved.field("lower"), "2");
+    EXPECT_EQ(solved.field("proof"), "weights");
+    EXPECT_EQ(solved.field("witness"), "1 H1; 1 H2; 1 H3");
+}
+
+TEST(Minimum, ManySuitesOfOneTotalStillGiveTheFirst) {
+    // Sixteen pairs of which each has a unit: 65536 suites with the same total.
+    CoverCase made;
+    for (std::size_t s = 0; s < 32; ++s) {
+        made.Uses.emplace_back(17);
+        made.Uses.back()[s / 2] = 1;
+    }
+    for (const std::size_t s : {1U, 3U, 5U}) made.Uses[s][16] = 1;
+    const Solved solved(made);
+    std::vector<std::string> names;
+    for (std::size_t s = 0; s < 32; s += 2) names.push_back("S" + std::to_string(s + 1));
+    names[2] = "S6";
+    EXPECT_TRUE(solved.Minimum.isProven());
+    EXPECT_EQ(solved.names("suite"), names);
+}
+
+TEST(Minimum, WithFewNodesItIsAnInterval) {
+    std::mt19937 random(7);
+    int open = 0;
+    for (int i = 0; i < 60; ++i) {
+        const CoverCase made = randomCase(random, 60, 60);
+        const Solved whole(made);
+        ASSERT_TRUE(whole.Minimum.isProven());
+        const std::size_t minimum = whole.Minimum.Known.Lower;
+        for (const std::uint64_t nodes : {0U, 1U, 10U, 100U}) {
+            const Solved cut(made, {.Nodes = nodes});
+            const SmallestSuite& known = cut.Minimum.Known;
+            ASSERT_LE(known.Lower, minimum);
+            ASSERT_GE(known.upper(), minimum);
+            ASSERT_TRUE(coversAll(cut.Index, known.Suite));
+            ASSERT_EQ(tabSeparated(cut.table()), tabSeparated(Solved(made, {.Nodes = nodes}).table()));
+            const auto bound = proven(cut);
+            if (bound) {
+                ASSERT_EQ(*bound, known.Lower);
+            }
+            open += cut.Minimum.isProven() ? 0 : 1;
+        }
+    }
+    EXPECT_GT(open, 20);
+}
+
+TEST(Minimum, IsStoppedFromOutside) {
+    std::mt19937 random(3);
+    const std::atomic<bool> stop = true;
+    CoverCase made = randomCase(random, 60, 60);
+    while (made.Uses.size() < 50 || made.Uses.front().size() < 50) made = randomCase(random, 60, 60);
+    const Solved solved(made, {.Stop = &stop});
+    EXPECT_FALSE(solved.Minimum.isProven());
+    EXPECT_TRUE(coversAll(solved.Index, solved.Minimum.Known.Suite));
+}

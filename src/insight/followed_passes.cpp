@@ -3,6 +3,7 @@
 #include "insight/followed_passes.h"
 
 #include <algorithm>
+#include <charconv>
 
 namespace insight {
 
@@ -14,6 +15,14 @@ struct Mark {
     std::size_t Line;
 };
 
+/// Whether the line shows the row's rank.
+bool hasRank(const RowStart& found, std::size_t row) {
+    std::size_t rank = 0;
+    std::from_chars(found.Rank.data(), found.Rank.data() + found.Rank.size(), rank);
+    return rank == row + 1;
+}
+
+/// Goes through the passes and the lines of the file side by side.
 class Follower {
 public:
     Follower(Recomputation& run, const ResultsFile& file, const std::vector<std::string>& names)
@@ -43,12 +52,13 @@ private:
     bool isLeft(const FollowedPass& pass, std::size_t row) const;
     bool firstPass() const { return followed_.Passes.empty(); }
     RowStart startOf(std::size_t line) const { return rowStart(file_.Lines[line].Text); }
-    bool endsPass(std::size_t line) const { return file_.Lines[line].Text == endOfPass().Text; }
+    bool endsPass(std::size_t line) const { return file_.Lines[line].Text == endOfPass_; }
     bool hasName(const RowStart& row, std::size_t species) const { return row.Name == cutNames_[species]; }
 
     Recomputation& run_;
     const ResultsFile& file_;
     const std::vector<std::string>& names_;
+    const std::string endOfPass_ = endOfPass().Text;
     std::vector<std::string> cutNames_;  ///< as the rows show them
     std::size_t next_;                   ///< the line where the next pass begins
     FollowedRun followed_;
@@ -90,8 +100,8 @@ void Follower::choose(FollowedPass& pass) {
     const Pass& expected = pass.Expected;
     const std::optional<std::size_t> inSuite = rowOfSuite(pass);
     const std::vector<Mark> marked = marks(pass);
-    const auto worth = [&](const Mark& mark) {
-        return (expected.Rows[mark.Row].Permitted ? 2 : 0) + (mark.Row == inSuite ? 1 : 0);
+    const auto worth = [&](const Mark& candidate) {
+        return (expected.Rows[candidate.Row].Permitted ? 2 : 0) + (candidate.Row == inSuite ? 1 : 0);
     };
     const auto best = std::max_element(marked.begin(), marked.end(),
                                        [&](const Mark& a, const Mark& b) { return worth(a) < worth(b); });
@@ -125,8 +135,7 @@ std::optional<std::size_t> Follower::rowOfLine(const FollowedPass& pass, std::si
     int worthOfBest = 0;
     for (std::size_t row = 0; row < pass.Expected.Rows.size(); ++row) {
         const int worth = (hasName(found, pass.Expected.Rows[row].Species) ? 4 : 0) +
-                          (found.Rank == std::to_string(row + 1) ? 2 : 0) +
-                          (line - pass.FirstLine == row ? 1 : 0);
+                          (hasRank(found, row) ? 2 : 0) + (line - pass.FirstLine == row ? 1 : 0);
         if (worth < 2 || worth <= worthOfBest) continue;
         best = row;
         worthOfBest = worth;
@@ -155,7 +164,7 @@ std::optional<std::size_t> Follower::rowOfSuite(const FollowedPass& pass) const 
 bool Follower::isUnmarked(const FollowedPass& pass, std::size_t row) const {
     for (std::size_t line = pass.FirstLine; line < pass.EndOfLines; ++line) {
         const RowStart found = startOf(line);
-        if (found.Mark != mark::Picked && found.Rank == std::to_string(row + 1) &&
+        if (found.Mark != mark::Picked && hasRank(found, row) &&
             hasName(found, pass.Expected.Rows[row].Species))
             return true;
     }

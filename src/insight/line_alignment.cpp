@@ -14,7 +14,7 @@ using Lines = std::span<const std::string_view>;
 
 constexpr std::uint32_t Alone = 2;
 /// Pairs of lines that are compared at most: as many bytes are needed.
-constexpr std::size_t MostComparisons = std::size_t{1} << 24;
+constexpr std::size_t MostComparisons = std::size_t{1} << 22;
 
 enum class Step : std::uint8_t { Pair, Missing, Foreign };
 

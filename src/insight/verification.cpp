@@ -16,9 +16,10 @@ namespace {
 
 constexpr std::array<double, LevelKinds.size()> HighestLevels = {100, 1, 1};
 
-using Levels = std::array<std::optional<double>, LevelKinds.size()>;
+/// In the order of the file.
+using OptionalLevels = std::array<std::optional<double>, LevelKinds.size()>;
 
-Levels inOrder(const GivenLevels& given) {
+OptionalLevels inOrder(const GivenLevels& given) {
     return {given.Margin, given.ThreatRepresentation, given.ConservationStatus};
 }
 
@@ -29,6 +30,7 @@ Cell cellOf(const std::vector<std::string_view>& values) {
     return texts;
 }
 
+/// Sets the lines that the run writes beside those of the file: what stands above the passes, each pass, what follows.
 class Verifier {
 public:
     Verifier(const SelectionRun& project, const ResultsFile& file, const GivenLevels& given)
@@ -58,7 +60,7 @@ private:
 
     const SelectionRun& project_;
     const ResultsFile& file_;
-    const Levels given_;
+    const OptionalLevels given_;
     const method::Levels levels_;
     Verification verification_;
 };
@@ -222,7 +224,7 @@ void Verifier::add(const std::string& place, const std::string& name, Cell expec
 }  // namespace
 
 method::Levels levelsOf(const ResultsFile& file, const GivenLevels& given) {
-    const Levels wanted = inOrder(given);
+    const OptionalLevels wanted = inOrder(given);
     std::array<double, LevelKinds.size()> levels{};
     for (std::size_t level = 0; level < levels.size(); ++level) {
         const double stated = file.Levels[level];

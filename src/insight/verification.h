@@ -20,7 +20,8 @@ struct GivenLevels {
 };
 
 /// The levels to check a file with: as it states them, cut at their bounds. One that is given and reads the same in the
-/// file's 15 digits takes its place.
+/// file's 15 digits takes its place. Whoever needs a run of the project to have its landscape makes it at these levels
+/// (plainNumber() writes them), since a gate may depend on them.
 method::Levels levelsOf(const ResultsFile& file, const GivenLevels& given = {});
 
 struct Verification {

@@ -151,27 +151,28 @@ bool dropsAPick(const ExportedRun& exported) {
     return static_cast<std::size_t>(passes) != exported.Run->Outcome.Suite.Picks.size();
 }
 
-class ChangedResultsTest : public testing::Test {
-protected:
-    /// Runs of random projects that wrote a file, as many as are asked for.
-    std::vector<ExportedRun> runs(std::size_t count) const {
+/// Runs of random projects that wrote a file; made once.
+const std::vector<ExportedRun>& runs() {
+    static const std::vector<ExportedRun> made = [] {
+        constexpr std::size_t Count = 120;
         TemporaryFolder folder;
         std::vector<ExportedRun> files;
-        for (std::uint64_t seed = 1000; files.size() < count; ++seed) {
+        for (std::uint64_t seed = 1000; files.size() < Count; ++seed) {
             const exported::RandomCase random = exported::randomCase(seed);
             ExportedRun exported = exported::runOf(random.Project, random.Settings, folder);
             if (!exported.Results.empty()) files.push_back(std::move(exported));
         }
         return files;
-    }
-};
+    }();
+    return made;
+}
 
 }  // namespace
 
-TEST_F(ChangedResultsTest, EveryChangeIsFoundWhereItIs) {
+TEST(ChangedResults, EveryChangeIsFoundWhereItIs) {
     Draw draw(7);
     int changes = 0;
-    for (const ExportedRun& exported : runs(150)) {
+    for (const ExportedRun& exported : runs()) {
         const Lines lines = linesOf(exported.Results);
         for (int i = 0; i < 60; ++i) {
             const auto change = changed(draw, lines);
@@ -200,12 +201,12 @@ TEST_F(ChangedResultsTest, EveryChangeIsFoundWhereItIs) {
             }
         }
     }
-    EXPECT_GT(changes, 7000);
+    EXPECT_GT(changes, 5000);
 }
 
-TEST_F(ChangedResultsTest, ACutFileIsFoundWhereverItIsCut) {
+TEST(ChangedResults, ACutFileIsFoundWhereverItIsCut) {
     Draw draw(8);
-    for (const ExportedRun& exported : runs(150)) {
+    for (const ExportedRun& exported : runs()) {
         for (int i = 0; i < 30; ++i) {
             const std::string text = exported.Results.substr(0, draw.below(exported.Results.size()));
             try {
@@ -227,9 +228,9 @@ TEST_F(ChangedResultsTest, ACutFileIsFoundWhereverItIsCut) {
     }
 }
 
-TEST_F(ChangedResultsTest, AnyBytesAreReadWithoutHarm) {
+TEST(ChangedResults, AnyBytesAreReadWithoutHarm) {
     Draw draw(9);
-    const std::vector<ExportedRun> exported = runs(20);
+    const std::vector<ExportedRun>& exported = runs();
     int verified = 0;
     for (int i = 0; i < 3000; ++i) {
         const ExportedRun& one = draw.of(exported);
@@ -259,7 +260,7 @@ TEST_F(ChangedResultsTest, AnyBytesAreReadWithoutHarm) {
     EXPECT_GT(verified, 1000);
 }
 
-TEST_F(ChangedResultsTest, NoiseIsNoResultsFile) {
+TEST(ChangedResults, NoiseIsNoResultsFile) {
     Draw draw(10);
     for (int i = 0; i < 2000; ++i) {
         std::string noise(draw.below(300), ' ');

@@ -14,6 +14,8 @@ namespace {
 constexpr std::array Verbs = {
     Verb{"units", "Tells which units the suite covers and why others stay uncovered.", answerUnits},
     Verb{"minimum", "Tells whether the suite is the smallest, and how that is known.", answerMinimum},
+    Verb{"suites", "Lists all suites of the minimal size.", answerSuites},
+    Verb{"species", "Tells what hangs on each species and who could stand in for it.", answerSpecies},
     Verb{"sweep", "Selects many times with other levels, answers and grades and counts the suites.",
          answerSweep},
     Verb{"merge", "Puts the shards of a sweep together.", answerMerge},

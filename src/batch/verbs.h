@@ -7,6 +7,8 @@
 /// Each verb; gives its exit code.
 int answerUnits(const VerbCall& call);
 int answerMinimum(const VerbCall& call);
+int answerSuites(const VerbCall& call);
+int answerSpecies(const VerbCall& call);
 int answerSweep(const VerbCall& call);
 int answerMerge(const VerbCall& call);
 int answerVerify(const VerbCall& call);

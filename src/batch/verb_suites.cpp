@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: 2026 The Brenica developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "batch/search_options.h"
+#include "batch/verbs.h"
+#include "insight/suites.h"
+
+namespace {
+
+struct SuitesOptions {
+    SearchOptions Search;
+    std::size_t Limit = 1000;
+    std::size_t Within = 0;
+};
+
+constexpr std::size_t MostWithin = 1000;
+
+void addOptions(CLI::App& app, SuitesOptions& options) {
+    addSearchOptions(app, options.Search);
+    app.add_option("--limit", options.Limit, "how many suites are listed at most")
+        ->type_name("N")
+        ->check(CLI::Range(std::size_t{1}, insight::MostCounted))
+        ->capture_default_str();
+    app.add_option("--within", options.Within, "how many species more than the minimum a suite may have")
+        ->type_name("K")
+        ->check(CLI::Range(std::size_t{0}, MostWithin))
+        ->capture_default_str();
+}
+
+std::string noteOn(const insight::SuiteList& list, const insight::MinimumAnswer& minimum) {
+    if (!minimum.isProven()) return "the minimum is not proven; the best suite known is shown";
+    const std::string shown = std::to_string(list.Suites.size());
+    return "more than " + shown + " suites; " + shown + " are shown";
+}
+
+Answer ask(const SuitesOptions& options, const SearchedProject& found) {
+    const insight::SuiteList list =
+        findSuites(found.Index, found.Minimum, options.Within, options.Limit, found.Budget);
+    Answer answer{suiteTable(found.Project.Run, found.Index, list)};
+    answer.Facts.emplace_back("complete", list.isComplete());
+    if (!list.isComplete()) answer.Notes.push_back(noteOn(list, found.Minimum));
+    return answer;
+}
+
+}  // namespace
+
+int answerSuites(const VerbCall& call) {
+    SuitesOptions options;
+    return explainProject(call, {.AddOptions = [&](CLI::App& app) { addOptions(app, options); },
+                                 .Ask =
+                                     [&](const ExplainedProject& project) {
+                                         return searchProject(project, options.Search,
+                                                              [&](const SearchedProject& found) {
+                                                                  return ask(options, found);
+                                                              });
+                                     }});
+}

@@ -3,7 +3,9 @@
 #include "batch/command_line.h"
 
 #include <algorithm>
+#include <charconv>
 #include <ostream>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -27,7 +29,28 @@ std::vector<std::string> lastFirst(std::span<const char* const> given) {
     return arguments;
 }
 
+template <class Number>
+CLI::Validator numberWithin(Number least, Number most, const std::string& kind) {
+    std::ostringstream bounds;
+    bounds << kind << " from " << least << " to " << most;
+    return CLI::Validator(
+        [least, most, wanted = bounds.str()](const std::string& text) -> std::string {
+            Number number{};
+            const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+            const bool whole = error == std::errc() && end == text.data() + text.size();
+            if (whole && number >= least && number <= most) return "";
+            return "'" + text + "' is no " + wanted;
+        },
+        "");
+}
+
 }  // namespace
+
+CLI::Validator wholeNumber(std::uint64_t least, std::uint64_t most) {
+    return numberWithin(least, most, "whole number");
+}
+
+CLI::Validator realNumber(double least, double most) { return numberWithin(least, most, "number"); }
 
 void addRunOptions(CLI::App& app, RunOptions& options) {
     app.add_option("project", options.Project, "the project file")->type_name("PROJECT.brn")->required();

@@ -2,12 +2,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "batch/search_options.h"
 
+#include <limits>
+
+#include "batch/command_line.h"
 #include "batch/interruption.h"
 #include "batch/progress_line.h"
 
 namespace {
 
 constexpr double UsualSeconds = 60;
+constexpr double MostSeconds = 1e9;
 
 /// With nodes alone no clock decides anything, so that the answer is the same everywhere.
 std::optional<double> secondsOf(const SearchOptions& options) {
@@ -20,10 +24,11 @@ std::optional<double> secondsOf(const SearchOptions& options) {
 void addSearchOptions(CLI::App& app, SearchOptions& options) {
     app.add_option("--time", options.Seconds, "seconds that the search may take, 60 where no nodes are given")
         ->type_name("S")
-        ->check(CLI::NonNegativeNumber);
+        ->check(realNumber(0, MostSeconds));
     app.add_option("--nodes", options.Nodes,
                    "steps that it may take; alone they give the same answer everywhere")
-        ->type_name("N");
+        ->type_name("N")
+        ->check(wholeNumber(0, std::numeric_limits<std::uint64_t>::max()));
 }
 
 Answer searchProject(const ExplainedProject& project, const SearchOptions& options,

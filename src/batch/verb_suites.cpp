@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Brenica developers
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "batch/command_line.h"
 #include "batch/search_options.h"
 #include "batch/verbs.h"
 #include "insight/suites.h"
@@ -18,11 +19,11 @@ void addOptions(CLI::App& app, SuitesOptions& options) {
     addSearchOptions(app, options.Search);
     app.add_option("--limit", options.Limit, "how many suites are listed at most")
         ->type_name("N")
-        ->check(CLI::Range(std::size_t{1}, insight::MostCounted))
+        ->check(wholeNumber(1, insight::MostCounted))
         ->capture_default_str();
     app.add_option("--within", options.Within, "how many species more than the minimum a suite may have")
         ->type_name("K")
-        ->check(CLI::Range(std::size_t{0}, MostWithin))
+        ->check(wholeNumber(0, MostWithin))
         ->capture_default_str();
 }
 

@@ -3,10 +3,12 @@
 #include <array>
 #include <charconv>
 #include <filesystem>
+#include <limits>
 #include <optional>
 #include <string>
 #include <thread>
 
+#include "batch/command_line.h"
 #include "batch/distinct_outputs.h"
 #include "batch/input_file.h"
 #include "batch/interruption.h"
@@ -41,20 +43,21 @@ void addOptions(CLI::App& app, SweepOptions& options) {
         ->required();
     app.add_option("--runs", settings.Runs, "how many runs, of all shards together")
         ->type_name("N")
-        ->check(CLI::Range(std::uint64_t{1}, insight::MostRuns))
+        ->check(wholeNumber(1, insight::MostRuns))
         ->capture_default_str();
     app.add_option("--seed", settings.Seed, "the same seed draws the same")
         ->type_name("N")
+        ->check(wholeNumber(0, std::numeric_limits<std::uint64_t>::max()))
         ->capture_default_str();
     app.add_option("--p", settings.P, "probability that a grade is off by one step")
         ->type_name("P")
-        ->check(CLI::Range(0.0, 1.0))
+        ->check(realNumber(0, 1))
         ->capture_default_str();
     app.add_flag("--zeros", settings.Zeros, "grades of 0 are varied, too");
     app.add_flag("--quality", settings.Quality, "p is multiplied by a third of the quality of the data");
     app.add_option("--threads", options.Threads, "how many threads; they change no count")
         ->type_name("N")
-        ->check(CLI::Range(1U, MostThreads));
+        ->check(wholeNumber(1, MostThreads));
     app.add_option("--shard", options.Shard, "do the I-th of N parts only")->type_name("I/N");
     app.add_option("--counts", options.Counts, "write the counts, for merge")->type_name("FILE");
 }

@@ -169,10 +169,10 @@ TEST_F(SweepVerb, RefusesWhatItCannotDo) {
                                                          {"--counts", "/nowhere/counts"}};
     for (const auto& arguments : wrong) {
         EXPECT_EQ(sweep(arguments), ExitWrongUsage) << arguments[0] << ' ' << arguments[1];
-        EXPECT_EQ(out.str(), "");
     }
     EXPECT_EQ(ask("sweep", withQuestion()), ExitWrongUsage) << "nothing is varied";
     EXPECT_EQ(ask("sweep", withQuestion(), {"--vary", "weather"}), ExitWrongUsage);
+    EXPECT_EQ(out.str(), "");
 }
 
 class VerifyVerb : public Verbs {
@@ -215,5 +215,66 @@ TEST_F(VerifyVerb, CannotReadWhatIsNoResultsFile) {
     EXPECT_THAT(err.str(), HasSubstr("brenica-batch: " + folder.file("results.txt") + ":1: "));
     EXPECT_EQ(ask("verify", withQuestion(), {folder.path()}), ExitUnreadableProject);
     EXPECT_THAT(err.str(), HasSubstr(folder.path() + ": cannot be read: Is a directory"));
+    EXPECT_EQ(out.str(), "");
+}
+
+/// Three species that cover a habitat each, and a fourth that covers what two of them do.
+class SearchVerbs : public Verbs {
+protected:
+    static ProjectText needsTwo() {
+        ProjectText project(4, 3, 1, 1);
+        project.set("HeteroHabitat Population", "2,0,0,0,2,0,0,0,2,2,2,0")
+            .set("HeteroJU Individual", "2,2,2,2");
+        return project.set("Function1", "3,3,3,0");
+    }
+};
+
+TEST_F(SearchVerbs, MinimumTellsWhetherTheSuiteIsTheSmallest) {
+    EXPECT_EQ(ask("minimum", needsTwo(), {"--error-margin", "0"}), ExitDone);
+    EXPECT_EQ(lines().front(), "measure\tvalue");
+    EXPECT_THAT(lines(), testing::Contains("lower\t2"));
+    EXPECT_THAT(lines(), testing::Contains("upper\t2"));
+    EXPECT_THAT(lines(), testing::Contains("proven\tyes"));
+    EXPECT_THAT(lines(), testing::Contains("suite\tSpecies 3; Species 4"));
+    EXPECT_THAT(lines(), testing::Contains("proof\twitness"));
+}
+
+TEST_F(SearchVerbs, SuitesListAllThatAreAsSmall) {
+    EXPECT_EQ(ask("suites", needsTwo()), ExitDone);
+    EXPECT_EQ(lines().size(), 2U);
+    EXPECT_THAT(err.str(), testing::Not(HasSubstr("brenica-batch: ")));
+    out.str("");
+    EXPECT_EQ(ask("suites", needsTwo(), {"--within", "1", "--limit", "1", "--json"}), ExitDone);
+    EXPECT_THAT(err.str(), HasSubstr("brenica-batch: more than 1 suites; 1 are shown\n"));
+    const auto object = nlohmann::json::parse(out.str());
+    EXPECT_EQ(object["complete"], false);
+    EXPECT_EQ(object["rows"][0]["species"], nlohmann::json({"Species 3", "Species 4"}));
+}
+
+TEST_F(SearchVerbs, SpeciesTellWhatHangsOnEach) {
+    EXPECT_EQ(ask("species", needsTwo()), ExitDone);
+    ASSERT_EQ(lines().size(), 5U);
+    EXPECT_THAT(lines()[1], HasSubstr("\tnone\t0.0000\t"));
+    EXPECT_THAT(lines()[3], HasSubstr("\tall\t1.0000\t"));
+    EXPECT_THAT(lines()[3], HasSubstr("\tinf\tHabitat 3\t"));
+}
+
+TEST_F(SearchVerbs, SayTheSameWithNodesAlone) {
+    for (const char* verb : {"minimum", "suites", "species"}) {
+        ask(verb, needsTwo(), {"--nodes", "1"});
+        const std::string first = out.str();
+        out.str("");
+        ask(verb, needsTwo(), {"--nodes", "1"});
+        EXPECT_EQ(out.str(), first) << verb;
+        out.str("");
+    }
+}
+
+TEST_F(SearchVerbs, RefuseWhatIsNoNumber) {
+    const std::vector<std::vector<std::string>> wrong = {
+        {"--time", "-1"}, {"--time", "nan"}, {"--time", "soon"}, {"--nodes", "-1"}, {"--nodes", "1.5"}};
+    for (const auto& arguments : wrong) EXPECT_EQ(ask("minimum", needsTwo(), arguments), ExitWrongUsage);
+    EXPECT_EQ(ask("suites", needsTwo(), {"--limit", "0"}), ExitWrongUsage);
+    EXPECT_EQ(ask("suites", needsTwo(), {"--within", "-1"}), ExitWrongUsage);
     EXPECT_EQ(out.str(), "");
 }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <deque>
+#include <filesystem>
 #include <optional>
 #include <random>
 #include <string>
@@ -49,9 +50,10 @@ inline ExportedRun runOf(const std::string& path, const RunSettings& settings,
         if (!form.cmdComplement.Enabled()) return exported;
         form.cmdComplement.UserClick();
         const std::string results = folder.file("results.txt");
+        std::filesystem::remove(results);
         platform.Files.push_back(results);
         form.cmdExportResults.UserClick();
-        exported.Results = readFile(results);
+        if (std::filesystem::exists(results)) exported.Results = readFile(results);
     } catch (const ui::RunTimeError&) {
     }
     exported.Run = form.TakeSelectionRun();

@@ -33,8 +33,8 @@ int explainProject(const VerbCall& call, const ProjectQuestion& question) {
     if (question.AddOptions) question.AddOptions(commandLine);
     addRunOptions(commandLine, options);
     if (const auto code = parseArguments(commandLine, call.Arguments, call.Out, call.Err)) return *code;
+    if (question.Prepare) question.Prepare(options);
     ProjectRun project(options, call.Err);
-    if (question.Check) question.Check(options);
     const ExitCode code = project.select();
     const std::optional<SelectionRun> run = project.form().TakeSelectionRun();
     if (!run) {
@@ -44,7 +44,6 @@ int explainProject(const VerbCall& call, const ProjectQuestion& question) {
     sayEndOfRun(call.Err, run->Outcome);
     const Answer answer = question.Ask({*run, options, project.answersLeft()});
     for (const std::string& note : answer.Notes) sayLine(call.Err, note);
-    if (answer.Table.Columns.empty()) return answer.Code;
     call.Out << (commandLine.Json ? jsonText({options.Project, run->Levels, code}, answer)
                                   : insight::tabSeparated(answer.Table));
     return answer.Code;

@@ -31,8 +31,8 @@ struct ExplainedProject {
 /// What a verb asks of a project.
 struct ProjectQuestion {
     std::function<void(CLI::App&)> AddOptions{};
-    /// Looks, before the project is opened, whether the options can be met; throws UsageFault.
-    std::function<void(const RunOptions&)> Check{};
+    /// Looks at the options before the project is opened; may fill in levels. Throws UsageFault or UnreadableFault.
+    std::function<void(RunOptions&)> Prepare{};
     std::function<Answer(const ExplainedProject&)> Ask;
 };
 

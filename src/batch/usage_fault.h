@@ -8,3 +8,8 @@
 struct UsageFault {
     std::string Text;
 };
+
+/// A file that a verb is asked about cannot be read.
+struct UnreadableFault {
+    std::string Text;
+};

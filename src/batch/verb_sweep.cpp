@@ -138,6 +138,6 @@ int answerSweep(const VerbCall& call) {
     SweepOptions options;
     return explainProject(call,
                           {.AddOptions = [&](CLI::App& app) { addOptions(app, options); },
-                           .Check = [&](const RunOptions& run) { check(options, run); },
+                           .Prepare = [&](const RunOptions& run) { check(options, run); },
                            .Ask = [&](const ExplainedProject& project) { return ask(options, project); }});
 }

@@ -1,53 +1,70 @@
 // SPDX-FileCopyrightText: 2026 The Brenica developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <optional>
-#include <ostream>
 #include <string>
 #include <system_error>
 
 #include "batch/input_file.h"
 #include "batch/project_question.h"
+#include "batch/usage_fault.h"
 #include "batch/verbs.h"
 #include "insight/verification.h"
 #include "ui/numbers.h"
 
 namespace {
 
-/// The levels have been looked at when the project was opened.
-insight::GivenLevels givenLevels(const RunOptions& options) {
-    const auto number = [](const std::optional<std::string>& text) -> std::optional<double> {
-        if (!text) return std::nullopt;
-        return ui::toReal(*text);
-    };
-    return {number(options.ErrorMargin), number(options.ThreatRepresentation),
-            number(options.ConservationStatus)};
+/// A results file, and the levels that the command line gives beside it.
+struct GivenResults {
+    std::string Path;
+    std::string Text;
+    insight::ResultsFile File;
+    insight::GivenLevels Levels;
+};
+
+std::optional<double> levelIn(const std::optional<std::string>& text) {
+    if (!text) return std::nullopt;
+    return ui::tryReal(*text, ui::DecimalSeparator::Point);
 }
 
-Answer unreadable(const std::string& text) { return {{}, {}, {text}, ExitUnreadableProject}; }
-
-Answer ask(const std::string& path, const ExplainedProject& project) {
+void readResults(GivenResults& results) {
     try {
-        const std::string text = readWhole(path);
-        const auto verification =
-            insight::verifyResults(project.Run, insight::readResultsFile(text), givenLevels(project.Options));
-        return {verification.Table, {}, {}, verification.Holds ? ExitDone : ExitCheckFailed};
+        results.Text = readWhole(results.Path);
+        results.File = insight::readResultsFile(results.Text);
     } catch (const insight::ResultsFault& fault) {
-        return unreadable(path + ":" + std::to_string(fault.Line) + ": " + fault.what());
+        throw UnreadableFault{results.Path + ":" + std::to_string(fault.Line) + ": " + fault.what()};
     } catch (const std::system_error& error) {
-        return unreadable(path + ": cannot be read: " + error.code().message());
+        throw UnreadableFault{results.Path + ": cannot be read: " + error.code().message()};
     }
+}
+
+/// The project is run with the levels of the file, since what has to be graded depends on them.
+void prepare(GivenResults& results, RunOptions& options) {
+    readResults(results);
+    results.Levels = {levelIn(options.ErrorMargin), levelIn(options.ThreatRepresentation),
+                      levelIn(options.ConservationStatus)};
+    const method::Levels levels = insight::levelsOf(results.File);
+    const auto fill = [](std::optional<std::string>& option, double level) {
+        if (!option) option = ui::toText(level);
+    };
+    fill(options.ErrorMargin, levels.Margin);
+    fill(options.ThreatRepresentation, levels.ThreatRepresentation);
+    fill(options.ConservationStatus, levels.ConservationStatus);
+}
+
+Answer verify(const GivenResults& results, const SelectionRun& run) {
+    const auto verification = insight::verifyResults(run, results.File, results.Levels);
+    return {verification.Table, {}, {}, verification.Holds ? ExitDone : ExitCheckFailed};
 }
 
 }  // namespace
 
 int answerVerify(const VerbCall& call) {
-    std::string results;
-    return explainProject(call,
-                          {.AddOptions =
-                               [&](CLI::App& app) {
-                                   app.add_option("results", results, "the results text file")
-                                       ->type_name("RESULTS")
-                                       ->required();
-                               },
-                           .Ask = [&](const ExplainedProject& project) { return ask(results, project); }});
+    GivenResults results;
+    const auto addResults = [&](CLI::App& app) {
+        app.add_option("results", results.Path, "the results text file")->type_name("RESULTS")->required();
+    };
+    return explainProject(
+        call, {.AddOptions = addResults,
+               .Prepare = [&](RunOptions& options) { prepare(results, options); },
+               .Ask = [&](const ExplainedProject& project) { return verify(results, project.Run); }});
 }

@@ -35,5 +35,8 @@ int runVerb(const Verb& verb, std::span<const char* const> arguments, std::ostre
     } catch (const UsageFault& fault) {
         err << ProgramName << ": " << fault.Text << '\n';
         return ExitWrongUsage;
+    } catch (const UnreadableFault& fault) {
+        err << ProgramName << ": " << fault.Text << '\n';
+        return ExitUnreadableProject;
     }
 }

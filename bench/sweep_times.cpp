@@ -6,7 +6,7 @@
 #include <memory>
 #include <string>
 
-#include "insight/sweep.h"
+#include "insight/sweep/sweep.h"
 #include "plain_project.h"
 
 /// Sweeps of project files that are given as arguments: runs a second on one thread and on two, beside the selections a

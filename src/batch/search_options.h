@@ -7,7 +7,7 @@
 #include <optional>
 
 #include "batch/project_question.h"
-#include "insight/minimum.h"
+#include "insight/cover/minimum.h"
 
 /// What a search for suites may cost, as the command line says.
 struct SearchOptions {

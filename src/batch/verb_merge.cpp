@@ -9,7 +9,7 @@
 #include "batch/project_question.h"
 #include "batch/usage_fault.h"
 #include "batch/verbs.h"
-#include "insight/shard_merge.h"
+#include "insight/sweep/shard_merge.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "batch/search_options.h"
 #include "batch/verbs.h"
-#include "insight/minimum_table.h"
+#include "insight/cover/minimum_table.h"
 
 int answerMinimum(const VerbCall& call) {
     SearchOptions options;

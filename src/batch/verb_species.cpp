@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "batch/search_options.h"
 #include "batch/verbs.h"
-#include "insight/species_table.h"
+#include "insight/cover/species_table.h"
 
 int answerSpecies(const VerbCall& call) {
     SearchOptions options;

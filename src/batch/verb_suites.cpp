@@ -3,7 +3,7 @@
 #include "batch/command_line.h"
 #include "batch/search_options.h"
 #include "batch/verbs.h"
-#include "insight/suites.h"
+#include "insight/cover/suites.h"
 
 namespace {
 

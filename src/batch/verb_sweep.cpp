@@ -17,8 +17,8 @@
 #include "batch/project_question.h"
 #include "batch/usage_fault.h"
 #include "batch/verbs.h"
-#include "insight/counts_file.h"
-#include "insight/sweep.h"
+#include "insight/sweep/counts_file.h"
+#include "insight/sweep/sweep.h"
 #include "selection/margin_answers.h"
 
 namespace {

@@ -8,7 +8,7 @@
 #include "batch/project_question.h"
 #include "batch/usage_fault.h"
 #include "batch/verbs.h"
-#include "insight/verification.h"
+#include "insight/verify/verification.h"
 #include "ui/numbers.h"
 
 namespace {

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "insight/cover_index.h"
+#include "insight/cover/cover_index.h"
 
 /// From the rows and bits of a problem back to the names of the lists.
 namespace insight {

@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "insight/cover_problem.h"
+#include "insight/cover/cover_problem.h"
 
 /// All suites of a small problem, by looking at every set of species. It shares nothing with the searches.
 struct BruteForce {

@@ -5,7 +5,7 @@
 
 #include "insight/exported_run.h"
 #include "insight/results_lines.h"
-#include "insight/verification.h"
+#include "insight/verify/verification.h"
 
 /// Whatever is changed in a results file is found, and where it was changed.
 

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "insight/cover_index.h"
+#include "insight/cover/cover_index.h"
 
 /// Runs that are made for the tests of the searches: habitats alone, a species either represents one or does not.
 struct CoverCase {

@@ -3,9 +3,9 @@
 #include <gmock/gmock.h>
 
 #include "cover_cases.h"
-#include "insight/minimum_table.h"
+#include "insight/cover/minimum_table.h"
+#include "insight/cover/species_table.h"
 #include "insight/names.h"
-#include "insight/species_table.h"
 #include "project_runs.h"
 
 using namespace insight;

@@ -7,7 +7,7 @@
 
 #include "brute_force.h"
 #include "cover_cases.h"
-#include "insight/minimum_table.h"
+#include "insight/cover/minimum_table.h"
 #include "proof_checker.h"
 
 using namespace insight;

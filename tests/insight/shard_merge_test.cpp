@@ -1,13 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Brenica developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "insight/shard_merge.h"
+#include "insight/sweep/shard_merge.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
 
-#include "insight/sweep.h"
+#include "insight/sweep/sweep.h"
 #include "selected_run.h"
 
 using insight::CountsFault;

@@ -4,7 +4,7 @@
 
 #include "brute_force.h"
 #include "cover_cases.h"
-#include "insight/species_table.h"
+#include "insight/cover/species_table.h"
 
 using namespace insight;
 

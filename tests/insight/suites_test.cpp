@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Brenica developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "insight/suites.h"
+#include "insight/cover/suites.h"
 
 #include <gmock/gmock.h>
 

@@ -6,8 +6,8 @@
 #include <numeric>
 
 #include "insight/representation.h"
-#include "insight/sweep.h"
-#include "insight/sweep_worker.h"
+#include "insight/sweep/sweep.h"
+#include "insight/sweep/sweep_worker.h"
 #include "method/landscapes.h"
 
 /// What holds for sweeps of any landscape.

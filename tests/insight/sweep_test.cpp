@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Brenica developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "insight/sweep.h"
+#include "insight/sweep/sweep.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -8,7 +8,7 @@
 #include <cmath>
 #include <set>
 
-#include "insight/sweep_worker.h"
+#include "insight/sweep/sweep_worker.h"
 #include "selected_run.h"
 
 using insight::Count;

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Brenica developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "insight/variation.h"
+#include "insight/sweep/variation.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Brenica developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "insight/verification.h"
+#include "insight/verify/verification.h"
 
 #include <algorithm>
 #include <sstream>
@@ -139,13 +139,13 @@ TEST_F(VerificationTest, TheRecomputationIncludesNothingOfTheSelection) {
     int included = 0;
     for (const char* name :
          {"recomputed_scores.h", "recomputed_scores.cpp", "recomputation.h", "recomputation.cpp"}) {
-        std::istringstream source(readFile(std::string(BRENICA_SOURCE_DIR) + "/src/insight/" + name));
+        std::istringstream source(readFile(std::string(BRENICA_SOURCE_DIR) + "/src/insight/verify/" + name));
         for (std::string text; std::getline(source, text);) {
             if (!text.starts_with("#include \"")) continue;
             ++included;
-            EXPECT_THAT(text.substr(9),
-                        testing::AnyOf("\"insight/recomputed_scores.h\"", "\"insight/recomputation.h\"",
-                                       "\"method/landscape.h\"", "\"method/levels.h\""));
+            EXPECT_THAT(text.substr(9), testing::AnyOf("\"insight/verify/recomputed_scores.h\"",
+                                                       "\"insight/verify/recomputation.h\"",
+                                                       "\"method/landscape.h\"", "\"method/levels.h\""));
         }
     }
     EXPECT_EQ(included, 5);

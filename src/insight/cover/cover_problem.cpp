@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: 2026 The Brenica developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "insight/cover/cover_problem.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "method/numbers.h"
+
+namespace insight {
+
+namespace {
+
+constexpr double LargestAggregate = 1e12;
+
+std::int64_t thousandthsOf(double aggregate) {
+    if (!method::isNumber(aggregate)) return 0;
+    return std::llround(std::clamp(aggregate, -LargestAggregate, LargestAggregate) * 1000);
+}
+
+}  // namespace
+
+CoverProblem coverProblem(const SelectionRun& run, const Representation& representation) {
+    CoverProblem problem;
+    for (std::size_t u = 0; u < representation.units(); ++u) {
+        if (representation.coverable(u)) problem.Units.push_back(u);
+    }
+    for (std::size_t s = 0; s < representation.species(); ++s) {
+        if (!representation.eligible(s)) continue;
+        problem.Species.push_back(s);
+        problem.Aggregates.push_back(thousandthsOf(run.Aggregates[s]));
+    }
+    problem.Covers = method::BitTable(problem.Species.size(), method::wordsFor(problem.Units.size()));
+    for (std::size_t row = 0; row < problem.Species.size(); ++row) {
+        for (std::size_t bit = 0; bit < problem.Units.size(); ++bit) {
+            if (representation.covers(problem.Species[row], problem.Units[bit]))
+                problem.Covers.row(row)[bit / method::WordBits] |= method::Word{1}
+                                                                   << (bit % method::WordBits);
+        }
+    }
+    return problem;
+}
+
+}  // namespace insight

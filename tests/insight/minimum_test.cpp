@@ -164,6 +164,23 @@ TEST(Minimum, WithFewNodesItIsAnInterval) {
     EXPECT_GT(open, 20);
 }
 
+TEST(Minimum, TellsHowFarItIsSomeTimesASecond) {
+    std::mt19937 random(6);
+    CoverCase made;
+    for (std::size_t s = 0; s < 300; ++s) {
+        made.Uses.emplace_back(200);
+        for (int& use : made.Uses.back()) use = random() % 12 == 0 ? 1 : 0;
+    }
+    std::vector<SearchProgress> told;
+    const Solved solved(
+        made, {.Seconds = 0.7, .OnProgress = [&](const SearchProgress& now) { told.push_back(now); }});
+    EXPECT_FALSE(solved.Minimum.isProven());
+    ASSERT_THAT(told, testing::SizeIs(testing::AllOf(testing::Ge(1U), testing::Le(3U))));
+    EXPECT_LT(told.front().Nodes, told.back().Nodes + 1);
+    EXPECT_EQ(told.back().Lower, solved.Minimum.Known.Lower);
+    EXPECT_EQ(told.back().Upper, solved.Minimum.Known.upper());
+}
+
 TEST(Minimum, IsStoppedFromOutside) {
     std::mt19937 random(3);
     const std::atomic<bool> stop = true;

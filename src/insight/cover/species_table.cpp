@@ -27,21 +27,12 @@ Cell costCell(const ReplacementCost& cost) {
     return std::to_string(cost.Lower) + "-" + std::to_string(*cost.Upper);
 }
 
-/// The cells from `number` to `rarity`, empty but for the first three.
-std::vector<Cell> rowOf(const SelectionRun& run, std::size_t species, std::size_t columns) {
-    std::vector<Cell> row(columns);
-    row[0] = number(species + 1);
-    row[1] = run.Species[species];
-    row[2] = false;
-    row[3] = std::int64_t{run.Ranks[species]};
-    row[5] = std::string("excluded");
-    return row;
-}
-
-/// Places in the row of the cells that eligible species alone have.
 enum Column : std::size_t {
-    Eligible = 2,
-    Pick = 4,
+    Number,
+    Name,
+    Eligible,
+    Rank,
+    Pick,
     Class,
     Share,
     Lost,
@@ -49,8 +40,20 @@ enum Column : std::size_t {
     Cost,
     OnlyFor,
     Substitutes,
-    Rarity
+    Rarity,
+    Columns
 };
+
+/// An excluded species has no other cells.
+std::vector<Cell> excludedRow(const SelectionRun& run, std::size_t species) {
+    std::vector<Cell> row(Columns);
+    row[Number] = number(species + 1);
+    row[Name] = run.Species[species];
+    row[Eligible] = false;
+    row[Rank] = std::int64_t{run.Ranks[species]};
+    row[Class] = std::string("excluded");
+    return row;
+}
 
 void addRole(const SelectionRun& run, const CoverIndex& index, const SpeciesRole& role,
              std::vector<Cell>& row) {
@@ -78,8 +81,7 @@ ResultTable speciesTable(const SelectionRun& run, const CoverIndex& index, const
     ResultTable table;
     table.Columns = {"number", "species",    "eligible", "rank",     "pick",        "class", "share",
                      "lost",   "lost_units", "cost",     "only_for", "substitutes", "rarity"};
-    for (std::size_t s = 0; s < run.Species.size(); ++s)
-        table.Rows.push_back(rowOf(run, s, table.Columns.size()));
+    for (std::size_t s = 0; s < run.Species.size(); ++s) table.Rows.push_back(excludedRow(run, s));
     const auto rowAt = [&](std::size_t row) -> std::vector<Cell>& {
         return table.Rows[index.problem().Species[row]];
     };

@@ -8,7 +8,7 @@
 #include <memory>
 
 #include "cover_cases.h"
-#include "insight/minimum.h"
+#include "insight/cover/minimum.h"
 
 using namespace insight;
 

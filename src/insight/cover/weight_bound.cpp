@@ -82,7 +82,7 @@ void WeightBound::rescale(const CoverNode& node) {
     std::int64_t highest = 0;
     forEach(node.Units, [&](std::size_t u) { highest = std::max(highest, weights_[u]); });
     if (highest < FirstWeight / 4) {
-        for (std::int64_t& weight : weights_) weight *= 4;
+        for (std::int64_t& weight : weights_) weight = std::min(weight * 4, LargestWeight);
         if (highest == 0) forEach(node.Units, [&](std::size_t u) { weights_[u] = FirstWeight; });
     }
     if (highest > FirstWeight * 16) {

@@ -11,7 +11,7 @@ namespace insight {
 
 namespace {
 
-constexpr double LargestAggregate = 1e12;
+constexpr double LargestAggregate = 1e9;
 
 std::int64_t thousandthsOf(double aggregate) {
     if (!method::isNumber(aggregate)) return 0;

@@ -18,7 +18,7 @@ struct CoverProblem {
     std::vector<std::size_t> Units;    ///< of each bit: the unit, rising; coverable ones alone
     method::BitTable Covers;           ///< row × unit
     /// First-pass aggregate of each row in thousandths, so that totals are exact. One that is no number counts 0; one
-    /// beyond a trillion is cut there.
+    /// beyond a billion is cut there.
     std::vector<std::int64_t> Aggregates;
 };
 

@@ -202,6 +202,23 @@ RC_GTEST_PROP(Method, what_is_left_is_the_same_as_adding_up_anew, (const Landsca
     }
 }
 
+/// Words of 64 units: the last unit stands in the second one.
+TEST(Method, what_is_left_of_many_units_goes_down_unit_by_unit) {
+    constexpr std::size_t Units = 70;
+    Landscape land = emptyLandscape(1, Units, 1, 1);
+    land.HabitatLevels = Table(1, Units, 3.0);
+    const UnitLayout layout(Units, 1, 1);
+    Remainder remainder;
+    remainder.load(land, layout);
+    std::vector<Word> covered(layout.words());
+    for (std::size_t unit = Units; unit-- > 0;) {
+        layout.part(std::span(covered), Unit::Habitat).insert(unit);
+        remainder.cover(Unit::Habitat, unit);
+        remainder.refresh(0, covered);
+        EXPECT_EQ(remainder.heterogeneity(0), 6.0 * static_cast<double>(unit));
+    }
+}
+
 RC_GTEST_PROP(Method, blocks_of_any_size_are_sorted_alike, (unsigned seed)) {
     std::mt19937 random(seed);
     std::vector<SortKey> rows;

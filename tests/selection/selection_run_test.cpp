@@ -13,7 +13,7 @@ protected:
         project.set("HeteroHabitat Population", "3,0,0,2").set("HeteroJU Individual", "1,2");
         project.set("Habitat Area", "4,5").set("Habitat UseLevel", "3,2").set("Area Dispersal", "Y,N");
         project.set("Area Connectivity", "N,y").set("Landscape Occupied", "0.25,0.5");
-        return project.set("Function2", "1,3").set("Socio-Econ4", "2,1").set("Data Quality5", "6,5");
+        return project.set("Function2", "3,0").set("Socio-Econ4", "2,1").set("Data Quality5", "6,5");
     }
 };
 
@@ -25,7 +25,7 @@ TEST_F(TakenRun, IsNoneBeforeASelection) {
 
 TEST_F(TakenRun, HoldsWhatTheSelectionWasMadeOf) {
     openForSelection(typical());
-    type(form.txtErrorMargin, "7");
+    type(form.txtErrorMargin, "0.5");
     select();
     const auto run = form.TakeSelectionRun();
     ASSERT_TRUE(run);
@@ -41,10 +41,10 @@ TEST_F(TakenRun, HoldsWhatTheSelectionWasMadeOf) {
     EXPECT_THAT(land.Dispersal, ElementsAre(1, 0));
     EXPECT_THAT(land.Connectivity, ElementsAre(0, 1));
     EXPECT_THAT(land.Occupied, ElementsAre(0.25, 0.5));
-    EXPECT_EQ(land.Functions.at(1, 1), 3);
+    EXPECT_EQ(land.Functions.at(0, 1), 3);
     EXPECT_EQ(land.SocioEconomics.at(0, 3), 2);
     EXPECT_EQ(run->DataQuality.at(0, 4), 6);
-    EXPECT_EQ(run->Levels.Margin, 7);
+    EXPECT_EQ(run->Levels.Margin, 0.5);
     EXPECT_EQ(run->ThreatScores.rows(), 2U);
     EXPECT_EQ(run->Aggregates.size(), 2U);
     EXPECT_THAT(run->Ranks, testing::UnorderedElementsAre(1, 2));

@@ -23,6 +23,7 @@ method::Table blocksOf(const ui::Grid& table, int col, int species, int items) {
 }  // namespace
 
 double numberOf(std::string_view text, ui::DecimalSeparator separator) {
+    if (text.size() == 1 && text[0] >= '0' && text[0] <= '9') return text[0] - '0';  // nearly every grade
     if (ui::isBlank(text)) return method::Blank;
     return ui::tryReal(text, separator).value_or(method::Unreadable);
 }

@@ -38,6 +38,18 @@ using Rows = std::vector<std::vector<std::string>>;
 /// The example landscapes show what their readme tells.
 class Example : public BatchTest {
 protected:
+    /// The levels and answers of an options file.
+    void takeOptions(const std::string& name) {
+        std::vector<std::string> arguments = {"brenica-batch"};
+        std::ifstream file(example(name));
+        for (std::string line; std::getline(file, line);) arguments.push_back(line);
+        arguments.push_back("project.brn");
+        std::vector<const char*> raw;
+        for (const std::string& argument : arguments) raw.push_back(argument.c_str());
+        const ParsedOptions parsed = parseOptions(static_cast<int>(raw.size()), raw.data(), out, err);
+        ASSERT_TRUE(parsed.Options);
+        options = *parsed.Options;
+    }
     void runExample(const std::string& name, ExitCode expected = ExitDone) {
         options.Project = example(name);
         options.Tables = folder.file("tables");
@@ -189,18 +201,27 @@ TEST_F(SmallExample, OmitsTheWoodpeckerAndAsksNothing) {
                   std::string(AllCovered) + "\n");
 }
 
+class MissedUnitExample : public Example {};
+
+TEST_F(MissedUnitExample, EndsWellAndLeavesOutAZoneThatASpeciesCovers) {
+    takeOptions("missed_unit.options");
+    runExample("missed_unit.brn");
+    EXPECT_THAT(table("BrenicSuiteData"),
+                ElementsAre(testing::_, ElementsAre("1", "Grey Heron", "1", "0", "1"),
+                            ElementsAre("2", "Bank Vole", "1", "1", "0")));
+    EXPECT_THAT(out.str(), testing::EndsWith("Management Zones: Lakeside Reserve\n"));
+}
+
+TEST_F(MissedUnitExample, CoversItWhereNoOmittedSpeciesIsTaken) {
+    options.ErrorMargin = "30";
+    runExample("missed_unit.brn");
+    EXPECT_THAT(out.str(), testing::EndsWith(std::string(AllCovered) + "\n"));
+}
+
 class FullExample : public Example {
 protected:
     void SetUp() override {
-        std::vector<std::string> arguments = {"brenica-batch"};
-        std::ifstream file(example("full_landscape.options"));
-        for (std::string line; std::getline(file, line);) arguments.push_back(line);
-        arguments.push_back("project.brn");
-        std::vector<const char*> raw;
-        for (const std::string& argument : arguments) raw.push_back(argument.c_str());
-        const ParsedOptions parsed = parseOptions(static_cast<int>(raw.size()), raw.data(), out, err);
-        ASSERT_TRUE(parsed.Options);
-        options = *parsed.Options;
+        takeOptions("full_landscape.options");
         runExample("full_landscape.brn");
     }
     /// The prompts of the dialogues between species, each with the names in brackets.

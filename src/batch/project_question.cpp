@@ -7,6 +7,7 @@
 #include "batch/command_line.h"
 #include "batch/json_table.h"
 #include "batch/project_run.h"
+#include "insight/definitions.h"
 
 namespace {
 
@@ -21,8 +22,13 @@ void sayEndOfRun(std::ostream& err, const SelectionOutcome& outcome) {
 VerbCommandLine::VerbCommandLine(const Verb& verb)
     : CLI::App(verb.Help, std::string(ProgramName) + " " + verb.Name) {
     add_flag("--json", Json, "print one JSON object in the place of the table");
+    std::string words = "Definitions:\n";
+    for (const insight::Definition& definition : insight::definitions())
+        words += std::string("  ") + definition.Term + ": " + definition.Meaning + "\n";
     footer(
-        "Exit code: 0 done, 1 wrong usage, 2 a file cannot be read, 3 nothing to score, 4 unexpected error.");
+        words +
+        "\nExit code: 0 done, 1 wrong usage, 2 a file cannot be read, 3 nothing to score, 4 an error before the "
+        "selection, 5 a check failed.");
 }
 
 void sayLine(std::ostream& err, const std::string& line) { err << ProgramName << ": " << line << '\n'; }

@@ -77,6 +77,11 @@ TEST_F(Verbs, RefuseWhatTheyDoNotKnow) {
     EXPECT_EQ(out.str(), "");
 }
 
+TEST_F(Verbs, TellTheirWords) {
+    EXPECT_EQ(ask("units", oneCoversAll(), {"--help"}), ExitDone);
+    EXPECT_THAT(out.str(), HasSubstr("  Coverable: some eligible species covers the unit."));
+}
+
 TEST_F(Verbs, SayTheSameInJson) {
     EXPECT_EQ(ask("units", failing(), {"--json", "--error-margin", "3"}), ExitDone);
     const auto object = nlohmann::json::parse(out.str());

@@ -15,6 +15,12 @@ struct Value {
     Json operator()(const insight::Fixed& number) const {
         return method::roundTo(number.Value, number.Places);
     }
+    Json operator()(const std::string& text) const { return insight::oneLine(text); }
+    Json operator()(const std::vector<std::string>& list) const {
+        Json array = Json::array();
+        for (const std::string& item : list) array.push_back(insight::oneLine(item));
+        return array;
+    }
     template <class Other>
     Json operator()(const Other& value) const {
         return value;

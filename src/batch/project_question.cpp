@@ -3,6 +3,7 @@
 #include "batch/project_question.h"
 
 #include <ostream>
+#include <sstream>
 
 #include "batch/command_line.h"
 #include "batch/json_table.h"
@@ -39,18 +40,21 @@ int explainProject(const VerbCall& call, const ProjectQuestion& question) {
     if (question.AddOptions) question.AddOptions(commandLine);
     addRunOptions(commandLine, options);
     if (const auto code = parseArguments(commandLine, call.Arguments, call.Out, call.Err)) return *code;
+    std::ostringstream unheard;
+    ProjectRun project(options, question.AboutRun ? call.Err : unheard);
     if (question.Prepare) question.Prepare(options);
-    ProjectRun project(options, call.Err);
     const ExitCode code = project.select();
     const std::optional<SelectionRun> run = project.form().TakeSelectionRun();
     if (!run) {
+        call.Err << unheard.str();
         if (code == ExitUnexpectedError) call.Err << withBreaks(project.error(), "\n") << '\n';
         return code == ExitDone ? ExitNothingToScore : code;
     }
-    sayEndOfRun(call.Err, run->Outcome);
+    if (question.AboutRun) sayEndOfRun(call.Err, run->Outcome);
     const Answer answer = question.Ask({*run, options, project.answersLeft()});
     for (const std::string& note : answer.Notes) sayLine(call.Err, note);
-    call.Out << (commandLine.Json ? jsonText({options.Project, run->Levels, code}, answer)
-                                  : insight::tabSeparated(answer.Table));
+    call.Out << (commandLine.Json
+                     ? jsonText({options.Project, run->Levels, question.AboutRun ? code : ExitDone}, answer)
+                     : insight::tabSeparated(answer.Table));
     return answer.Code;
 }

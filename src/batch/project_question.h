@@ -34,6 +34,8 @@ struct ProjectQuestion {
     /// Looks at the options before the project is opened; may fill in levels. Throws UsageFault or UnreadableFault.
     std::function<void(RunOptions&)> Prepare{};
     std::function<Answer(const ExplainedProject&)> Ask;
+    /// False where another run is asked about: nothing is then said of this one.
+    bool AboutRun = true;
 };
 
 /// Opens the project, walks and selects as without a verb, asks and prints the answer.

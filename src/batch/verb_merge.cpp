@@ -17,19 +17,18 @@ insight::ShardCounts readShard(const std::string& path) {
     try {
         return insight::readCounts(path, readWhole(path));
     } catch (const std::system_error& error) {
-        throw UsageFault{path + ": cannot be read: " + error.code().message()};
+        throw UnreadableFault{path + ": cannot be read: " + error.code().message()};
     }
 }
 
 /// A fault may name several shards, a line each.
-int sayFaults(std::ostream& err, const std::string& lines) {
+void sayFaults(std::ostream& err, const std::string& lines) {
     std::size_t start = 0;
     while (start < lines.size()) {
         const std::size_t end = std::min(lines.find('\n', start), lines.size());
         sayLine(err, lines.substr(start, end - start));
         start = end + 1;
     }
-    return ExitWrongUsage;
 }
 
 }  // namespace
@@ -46,8 +45,9 @@ int answerMerge(const VerbCall& call) {
         call.Out << (commandLine.Json ? jsonText(answer) : insight::tabSeparated(answer.Table));
         return ExitDone;
     } catch (const insight::CountsFault& fault) {
-        return sayFaults(call.Err, fault.what());
+        throw UnreadableFault{fault.what()};
     } catch (const insight::MergeFault& fault) {
-        return sayFaults(call.Err, fault.what());
+        sayFaults(call.Err, fault.what());
+        return ExitWrongUsage;
     }
 }

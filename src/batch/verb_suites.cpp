@@ -27,10 +27,14 @@ void addOptions(CLI::App& app, SuitesOptions& options) {
         ->capture_default_str();
 }
 
-std::string noteOn(const insight::SuiteList& list, const insight::MinimumAnswer& minimum) {
-    if (!minimum.isProven()) return "the minimum is not proven; the best suite known is shown";
+std::string noteOn(const SuitesOptions& options, const insight::SuiteList& list,
+                   const insight::MinimumAnswer& minimum) {
+    if (!minimum.Known.isProven()) return "the minimum is not proven; the best suite known is shown";
+    if (!minimum.isProven()) return "the best total is not proven; the best suite known is shown";
     const std::string shown = std::to_string(list.Suites.size());
-    return "more than " + shown + " suites; " + shown + " are shown";
+    if (list.Suites.size() == options.Limit || list.Count >= insight::MostCounted)
+        return "more than " + shown + " suites; " + shown + " are shown";
+    return "the search ended early; " + shown + " suites are shown, there may be more";
 }
 
 Answer ask(const SuitesOptions& options, const SearchedProject& found) {
@@ -38,7 +42,7 @@ Answer ask(const SuitesOptions& options, const SearchedProject& found) {
         findSuites(found.Index, found.Minimum, options.Within, options.Limit, found.Budget);
     Answer answer{suiteTable(found.Project.Run, found.Index, list)};
     answer.Facts.emplace_back("complete", list.isComplete());
-    if (!list.isComplete()) answer.Notes.push_back(noteOn(list, found.Minimum));
+    if (!list.isComplete()) answer.Notes.push_back(noteOn(options, list, found.Minimum));
     return answer;
 }
 

@@ -29,6 +29,7 @@ struct SweepOptions {
     unsigned Threads = std::max(1U, std::thread::hardware_concurrency());
     std::string Shard = "1/1";
     std::optional<std::string> Counts;
+    std::string ProjectHash;  ///< before it was opened; empty without counts
 };
 
 constexpr unsigned MostThreads = 1024;
@@ -84,16 +85,14 @@ insight::Varied variedOf(const std::vector<std::string>& names) {
     return varied;
 }
 
-void writeCounts(const std::string& path, const std::string& text) {
-    try {
-        OutputFile(path).write(text);
-    } catch (const std::system_error& error) {
-        throw UsageFault{path + ": cannot be written: " + error.code().message()};
-    }
+std::string hashOf(const std::string& project) { return sha256(readWhole(project)); }
+
+std::string cannotBeWritten(const std::string& path, const std::system_error& error) {
+    return path + ": cannot be written: " + error.code().message();
 }
 
-/// Whatever can be found wrong before the work.
-void check(SweepOptions& options, const RunOptions& run) {
+/// Whatever can be found wrong before the work, which may be long.
+void prepare(SweepOptions& options, const RunOptions& run) {
     options.Settings.Part = shardOf(options.Shard);
     options.Settings.Vary = variedOf(options.Vary);
     if (!options.Counts) return;
@@ -103,7 +102,29 @@ void check(SweepOptions& options, const RunOptions& run) {
     try {
         const OutputFile writable(*options.Counts);
     } catch (const std::system_error& error) {
-        throw UsageFault{*options.Counts + ": cannot be written: " + error.code().message()};
+        throw UsageFault{cannotBeWritten(*options.Counts, error)};
+    }
+    options.ProjectHash = hashOf(run.Project);
+}
+
+/// What keeps the counts from being written, if something does.
+std::optional<std::string> writeCounts(const SweepOptions& options, const ExplainedProject& project,
+                                       const insight::SweepNames& names, const insight::SweepCounts& counts) {
+    const insight::SweepSettings& settings = options.Settings;
+    try {
+        if (hashOf(project.Options.Project) != options.ProjectHash)
+            return project.Options.Project + " was changed during the sweep; no counts are written";
+    } catch (const std::system_error& error) {
+        return project.Options.Project + ": cannot be read again: " + error.code().message() +
+               "; no counts are written";
+    }
+    try {
+        const auto identity =
+            insight::identityOf({BRENICA_VERSION, options.ProjectHash}, project.Run.Levels, settings);
+        OutputFile(*options.Counts).write(insight::countsText(identity, settings.Part, names, counts));
+        return std::nullopt;
+    } catch (const std::system_error& error) {
+        return cannotBeWritten(*options.Counts, error);
     }
 }
 
@@ -125,9 +146,10 @@ Answer ask(SweepOptions& options, const ExplainedProject& project) {
                                std::to_string(wanted) + " runs" +
                                (options.Counts ? "; no counts are written" : ""));
     } else if (options.Counts) {
-        const auto identity = insight::identityOf(
-            {BRENICA_VERSION, sha256(readWhole(project.Options.Project))}, project.Run.Levels, settings);
-        writeCounts(*options.Counts, insight::countsText(identity, settings.Part, names, counts));
+        if (const auto fault = writeCounts(options, project, names, counts)) {
+            answer.Notes.push_back(*fault);
+            answer.Code = ExitWrongUsage;
+        }
     }
     return answer;
 }
@@ -138,6 +160,6 @@ int answerSweep(const VerbCall& call) {
     SweepOptions options;
     return explainProject(call,
                           {.AddOptions = [&](CLI::App& app) { addOptions(app, options); },
-                           .Prepare = [&](const RunOptions& run) { check(options, run); },
+                           .Prepare = [&](const RunOptions& run) { prepare(options, run); },
                            .Ask = [&](const ExplainedProject& project) { return ask(options, project); }});
 }

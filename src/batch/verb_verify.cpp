@@ -43,12 +43,9 @@ void prepare(GivenResults& results, RunOptions& options) {
     results.Levels = {levelIn(options.ErrorMargin), levelIn(options.ThreatRepresentation),
                       levelIn(options.ConservationStatus)};
     const method::Levels levels = insight::levelsOf(results.File);
-    const auto fill = [](std::optional<std::string>& option, double level) {
-        if (!option) option = ui::toText(level);
-    };
-    fill(options.ErrorMargin, levels.Margin);
-    fill(options.ThreatRepresentation, levels.ThreatRepresentation);
-    fill(options.ConservationStatus, levels.ConservationStatus);
+    options.ErrorMargin = ui::toText(levels.Margin);
+    options.ThreatRepresentation = ui::toText(levels.ThreatRepresentation);
+    options.ConservationStatus = ui::toText(levels.ConservationStatus);
 }
 
 Answer verify(const GivenResults& results, const SelectionRun& run) {
@@ -66,5 +63,6 @@ int answerVerify(const VerbCall& call) {
     return explainProject(
         call, {.AddOptions = addResults,
                .Prepare = [&](RunOptions& options) { prepare(results, options); },
-               .Ask = [&](const ExplainedProject& project) { return verify(results, project.Run); }});
+               .Ask = [&](const ExplainedProject& project) { return verify(results, project.Run); },
+               .AboutRun = false});
 }

@@ -33,6 +33,11 @@ std::span<const Definition> definitions() {
          " whole numbers W for units; no suite is smaller than the sum of W / the largest sum over"
          " the units of one eligible species. search: all smaller suites were ruled out. What is "
          "not proven is an interval."},
+        {"Sweep",
+         "levels: the margin from 0 to twice the given one, the others up to 0.2 away, within their "
+         "bounds, to 2 decimals. answers: any of the species that a question lists. grades: levels of "
+         "use, severity, recovery, proportion, functions and socio-economics, those that are not 0, one "
+         "step up or down with probability p."},
         {"Frequency",
          "the share of runs whose suite holds the species; low and high are the 95 % interval of "
          "Wilson. It is not irreplaceability."}};

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cmath>
 
 namespace insight {
 
@@ -19,33 +20,35 @@ std::string digits(double value, Format... format) {
     return {text.data(), end};
 }
 
-/// What a field of a line may hold.
-std::string onOneLine(std::string text) {
-    std::replace_if(
-        text.begin(), text.end(), [](char c) { return c == '\t' || c == '\n' || c == '\r'; }, ' ');
-    return text;
-}
-
 struct Field {
     std::string operator()(std::monostate) const { return ""; }
     std::string operator()(bool value) const { return value ? "yes" : "no"; }
     std::string operator()(std::int64_t value) const { return std::to_string(value); }
-    std::string operator()(double value) const { return digits(value + 0.0); }
+    std::string operator()(double value) const {
+        const bool plain = value == 0 || (std::abs(value) >= 1e-5 && std::abs(value) < 1e15);
+        return plain ? digits(value + 0.0, std::chars_format::fixed) : digits(value);
+    }
     std::string operator()(const Fixed& number) const {
         return digits(number.Value, std::chars_format::fixed, number.Places);
     }
-    std::string operator()(const std::string& text) const { return onOneLine(text); }
+    std::string operator()(const std::string& text) const { return oneLine(text); }
     std::string operator()(const std::vector<std::string>& list) const {
         std::string text;
         for (const std::string& item : list) {
             if (&item != &list.front()) text += "; ";
-            text += onOneLine(item);
+            text += oneLine(item);
         }
         return text;
     }
 };
 
 }  // namespace
+
+std::string oneLine(std::string text) {
+    std::replace_if(
+        text.begin(), text.end(), [](char c) { return c == '\t' || c == '\n' || c == '\r'; }, ' ');
+    return text;
+}
 
 std::string fieldOf(const Cell& cell) { return std::visit(Field(), cell); }
 

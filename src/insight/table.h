@@ -25,6 +25,9 @@ struct ResultTable {
     std::vector<std::vector<Cell>> Rows;  ///< each has a cell for every column
 };
 
+/// A text with its tabs and line breaks as blanks.
+std::string oneLine(std::string text);
+
 /// A cell as one field: "yes" or "no", lists parted by "; ", tabs and line breaks as blanks.
 std::string fieldOf(const Cell& cell);
 

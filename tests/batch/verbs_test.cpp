@@ -155,7 +155,7 @@ TEST_F(SweepVerb, NamesAShardThatDoesNotBelong) {
     EXPECT_EQ(merge({counts("a"), counts("c")}), ExitWrongUsage);
     EXPECT_THAT(err.str(), HasSubstr(counts("c")));
     EXPECT_THAT(err.str(), HasSubstr("seed"));
-    EXPECT_EQ(merge({counts("a"), counts("nothing")}), ExitWrongUsage);
+    EXPECT_EQ(merge({counts("a"), counts("nothing")}), ExitUnreadableProject);
     EXPECT_THAT(err.str(), HasSubstr("nothing: cannot be read: No such file or directory"));
     EXPECT_EQ(out.str(), "");
 }
@@ -180,6 +180,13 @@ TEST_F(SweepVerb, RefusesWhatItCannotDo) {
     EXPECT_EQ(out.str(), "");
 }
 
+TEST_F(SweepVerb, PrintsItsTableThoughTheCountsCannotBeWritten) {
+    EXPECT_EQ(sweep({"--counts", "/dev/full"}), ExitWrongUsage);
+    EXPECT_THAT(err.str(),
+                HasSubstr("brenica-batch: /dev/full: cannot be written: No space left on device\n"));
+    EXPECT_THAT(out.str(), testing::StartsWith("what\t"));
+}
+
 class VerifyVerb : public Verbs {
 protected:
     std::string resultsOf(const ProjectText& project) {
@@ -201,6 +208,7 @@ TEST_F(VerifyVerb, FindsThatAFileFollows) {
     EXPECT_EQ(verify(withQuestion(), resultsOf(withQuestion())), ExitDone);
     EXPECT_EQ(lines().front(), "check\texpected\tfound\tok");
     for (std::size_t i = 1; i < lines().size(); ++i) EXPECT_TRUE(lines()[i].ends_with("\tyes")) << lines()[i];
+    EXPECT_EQ(err.str(), "") << "the run with the usual answers is not what is asked about";
 }
 
 TEST_F(VerifyVerb, NamesTheLineThatDoesNot) {

@@ -10,6 +10,14 @@ beginSweep() {
         echo "usage: $0 SHARDS FOLDER [OPTION of sweep...] PROJECT.brn" >&2
         exit 1
     fi
+    local option
+    for option in "${@:3}"; do
+        case $option in --threads* | --shard* | --counts* | --json)
+            echo "$0: $option is this script's own" >&2
+            exit 1
+            ;;
+        esac
+    done
     batch=$(command -v "${BRENICA_BATCH:-brenica-batch}") || {
         echo "$0: there is no brenica-batch; set BRENICA_BATCH to its path" >&2
         exit 1
@@ -25,6 +33,14 @@ beginSweep() {
         exit 1
     fi
     printf '%s\n' "$made" >"$folder/sweep"
+}
+
+# Numbers of the shards without counts, one a line. Counts are there whole or not at all.
+missingShards() {
+    local number
+    for ((number = 1; number <= shards; ++number)); do
+        [ -e "$folder/$number.counts" ] || echo "$number"
+    done
 }
 
 # Prints the table of the whole sweep; says what is missing.

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "insight/sweep/shard_merge.h"
 
+#include <algorithm>
 #include <map>
 
 namespace insight {
@@ -24,22 +25,32 @@ private:
     std::string text_;
 };
 
+/// The sweep that most shards are of; of equally many the first.
+const ShardCounts& commonest(const std::vector<ShardCounts>& shards) {
+    std::map<SweepIdentity, std::size_t> counts;
+    for (const ShardCounts& shard : shards) ++counts[shard.Identity];
+    return *std::max_element(shards.begin(), shards.end(), [&](const ShardCounts& a, const ShardCounts& b) {
+        return counts[a.Identity] < counts[b.Identity];
+    });
+}
+
 /// In what the two differ first.
-void compare(const ShardCounts& shard, const ShardCounts& first, Faults& faults) {
-    for (std::size_t i = 0; i < first.Identity.size(); ++i) {
-        const auto& [key, expected] = first.Identity[i];
+void compare(const ShardCounts& shard, const ShardCounts& common, Faults& faults) {
+    for (std::size_t i = 0; i < common.Identity.size(); ++i) {
+        const auto& [key, expected] = common.Identity[i];
         const std::string& found = shard.Identity[i].second;
         if (found == expected) continue;
-        return faults.add(shard.File + " is of another sweep than " + first.File + ": " + key + " is '" +
+        return faults.add(shard.File + " is of another sweep than " + common.File + ": " + key + " is '" +
                           found + "', not '" + expected + "'");
     }
-    if (!(shard.Names == first.Names))
-        faults.add(shard.File + " is of another sweep than " + first.File + ": other species or units");
+    if (!(shard.Names == common.Names))
+        faults.add(shard.File + " is of another sweep than " + common.File + ": other species or units");
 }
 
 void requireOneSweep(const std::vector<ShardCounts>& shards) {
     Faults faults;
-    for (const ShardCounts& shard : shards) compare(shard, shards.front(), faults);
+    const ShardCounts& common = commonest(shards);
+    for (const ShardCounts& shard : shards) compare(shard, common, faults);
     faults.raise();
 }
 

@@ -16,7 +16,7 @@ struct MergeFault : std::runtime_error {
 };
 
 /// What the whole sweep came to, whatever the order of its shards. Throws MergeFault where a shard is of another sweep
-/// than the first one, was cut short, is there twice or is missing. REQUIRES: at least one shard
+/// than most of them, was cut short, is there twice or is missing. REQUIRES: at least one shard
 SweepCounts mergedCounts(const std::vector<ShardCounts>& shards);
 
 }  // namespace insight

@@ -30,6 +30,16 @@ double drawLevel(double from, double to, double highest, RandomStream& stream) {
     return method::roundTo(from + (to - from) * stream.real(), LevelPlaces);
 }
 
+template <method::Table Landscape::*Member>
+method::Table& tableOf(Landscape& land) {
+    return land.*Member;
+}
+
+template <method::Table method::ThreatRatings::*Member>
+method::Table& ratingOf(Landscape& land) {
+    return land.Ratings.*Member;
+}
+
 /// A table of grades, the highest grade that it takes, and the criterion that it belongs to.
 struct GradeTable {
     method::Table& (*In)(Landscape&);
@@ -37,36 +47,14 @@ struct GradeTable {
     Criterion Of;
 };
 
-constexpr std::array GradeTables = {GradeTable{[](Landscape & land) -> auto& {return land.HabitatLevels;
-}  // namespace
-, 3, Criterion::Heterogeneity
-}  // namespace insight
-, GradeTable{[](Landscape & land) -> auto& {return land.ZoneLevels;
-}
-, 3, Criterion::Heterogeneity
-}
-, GradeTable{[](Landscape & land) -> auto& {return land.Ratings.Severity;
-}
-, 3, Criterion::Vulnerability
-}
-, GradeTable{[](Landscape & land) -> auto& {return land.Ratings.Recovery;
-}
-, 3, Criterion::Vulnerability
-}
-, GradeTable{[](Landscape & land) -> auto& {return land.Ratings.Proportion;
-}
-, 4, Criterion::Vulnerability
-}
-, GradeTable{[](Landscape & land) -> auto& {return land.Functions;
-}
-, 3, Criterion::Functionality
-}
-, GradeTable {
-    [](Landscape & land) -> auto& { return land.SocioEconomics; }
-    , 2, Criterion::SocioEconomics
-}
-}
-;
+constexpr std::array GradeTables = {
+    GradeTable{tableOf<&Landscape::HabitatLevels>, 3, Criterion::Heterogeneity},
+    GradeTable{tableOf<&Landscape::ZoneLevels>, 3, Criterion::Heterogeneity},
+    GradeTable{ratingOf<&method::ThreatRatings::Severity>, 3, Criterion::Vulnerability},
+    GradeTable{ratingOf<&method::ThreatRatings::Recovery>, 3, Criterion::Vulnerability},
+    GradeTable{ratingOf<&method::ThreatRatings::Proportion>, 4, Criterion::Vulnerability},
+    GradeTable{tableOf<&Landscape::Functions>, 3, Criterion::Functionality},
+    GradeTable{tableOf<&Landscape::SocioEconomics>, 2, Criterion::SocioEconomics}};
 
 /// p for each species under one criterion.
 std::vector<double> probabilities(const method::Table& quality, Criterion criterion,

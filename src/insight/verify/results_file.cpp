@@ -76,7 +76,11 @@ bool isHeading(const FileLine& line) {
     if (std::none_of(lines.begin(), lines.end(), isHeading))
         throw ResultsFault(1, "none of the headings of a results file follows");
     std::size_t number = lines.back().Number;
-    if (level + 1 < places.size() && places[level + 1]) number = lines[*places[level + 1]].Number;
+    if (level + 1 < places.size() && places[level + 1]) {
+        const std::size_t next = *places[level + 1];
+        number = lines[next].Number;
+        if (next > 0 && !lines[next - 1].Text.empty()) --number;
+    }
     if (level > 0) number = lines[*places[level - 1]].Number + 1;
     throw ResultsFault(number, std::string("the ") + LevelNames[level] + " is missing or no number");
 }

@@ -24,6 +24,7 @@ OptionalLevels inOrder(const GivenLevels& given) {
 }
 
 Cell cellOf(const std::vector<std::string_view>& values) {
+    if (values.size() == 1 && values.front().empty()) return {};
     if (values.size() == 1) return asUtf8(values.front());
     std::vector<std::string> texts;
     for (const std::string_view value : values) texts.push_back(asUtf8(value));

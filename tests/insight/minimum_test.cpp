@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Brenica developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <gmock/gmock.h>
+#include <chrono>
 
 #include <atomic>
 #include <optional>
@@ -172,13 +173,16 @@ TEST(Minimum, TellsHowFarItIsSomeTimesASecond) {
         for (int& use : made.Uses.back()) use = random() % 12 == 0 ? 1 : 0;
     }
     std::vector<SearchProgress> told;
+    const auto start = std::chrono::steady_clock::now();
     const Solved solved(
         made, {.Seconds = 0.7, .OnProgress = [&](const SearchProgress& now) { told.push_back(now); }});
+    const std::chrono::duration<double> took = std::chrono::steady_clock::now() - start;
     EXPECT_FALSE(solved.Minimum.isProven());
-    ASSERT_THAT(told, testing::SizeIs(testing::AllOf(testing::Ge(1U), testing::Le(3U))));
-    EXPECT_LT(told.front().Nodes, told.back().Nodes + 1);
-    EXPECT_EQ(told.back().Lower, solved.Minimum.Known.Lower);
-    EXPECT_EQ(told.back().Upper, solved.Minimum.Known.upper());
+    ASSERT_FALSE(told.empty());
+    EXPECT_LE(static_cast<double>(told.size()), 5 * took.count());
+    EXPECT_LE(told.front().Nodes, told.back().Nodes);
+    EXPECT_LE(told.back().Lower, solved.Minimum.Known.Lower);
+    EXPECT_GE(told.back().Upper, solved.Minimum.Known.upper());
 }
 
 TEST(Minimum, IsStoppedFromOutside) {

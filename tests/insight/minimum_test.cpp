@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Brenica developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <gmock/gmock.h>
-#include <chrono>
 
 #include <atomic>
+#include <chrono>
 #include <optional>
 
 #include "brute_force.h"

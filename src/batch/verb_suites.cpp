@@ -1,14 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Brenica developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "batch/command_line.h"
-#include "batch/search_options.h"
+#include "batch/search_question.h"
 #include "batch/verbs.h"
 #include "insight/cover/suites.h"
 
 namespace {
 
 struct SuitesOptions {
-    SearchOptions Search;
     std::size_t Limit = 1000;
     std::size_t Within = 0;
 };
@@ -16,7 +15,6 @@ struct SuitesOptions {
 constexpr std::size_t MostWithin = 1000;
 
 void addOptions(CLI::App& app, SuitesOptions& options) {
-    addSearchOptions(app, options.Search);
     app.add_option("--limit", options.Limit, "how many suites are listed at most")
         ->type_name("N")
         ->check(wholeNumber(1, insight::MostCounted))
@@ -50,12 +48,6 @@ Answer ask(const SuitesOptions& options, const SearchedProject& found) {
 
 int answerSuites(const VerbCall& call) {
     SuitesOptions options;
-    return explainProject(call, {.AddOptions = [&](CLI::App& app) { addOptions(app, options); },
-                                 .Ask =
-                                     [&](const ExplainedProject& project) {
-                                         return searchProject(project, options.Search,
-                                                              [&](const SearchedProject& found) {
-                                                                  return ask(options, found);
-                                                              });
-                                     }});
+    return answerBySearch(call, {.Ask = [&](const SearchedProject& found) { return ask(options, found); },
+                                 .AddOptions = [&](CLI::App& app) { addOptions(app, options); }});
 }

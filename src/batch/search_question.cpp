@@ -1,8 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Brenica developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "batch/search_options.h"
+#include "batch/search_question.h"
 
+#include <cstdint>
 #include <limits>
+#include <optional>
 
 #include "batch/command_line.h"
 #include "batch/interruption.h"
@@ -13,13 +15,17 @@ namespace {
 constexpr double UsualSeconds = 60;
 constexpr double MostSeconds = 1e9;
 
+/// What a search for suites may cost, as the command line says.
+struct SearchOptions {
+    std::optional<double> Seconds;
+    std::optional<std::uint64_t> Nodes;
+};
+
 /// With nodes alone no clock decides anything, so that the answer is the same everywhere.
 std::optional<double> secondsOf(const SearchOptions& options) {
     if (options.Seconds || options.Nodes) return options.Seconds;
     return UsualSeconds;
 }
-
-}  // namespace
 
 void addSearchOptions(CLI::App& app, SearchOptions& options) {
     app.add_option("--time", options.Seconds, "seconds that the search may take, 60 where no nodes are given")
@@ -32,7 +38,7 @@ void addSearchOptions(CLI::App& app, SearchOptions& options) {
 }
 
 Answer searchProject(const ExplainedProject& project, const SearchOptions& options,
-                     const std::function<Answer(const SearchedProject&)>& ask) {
+                     const SearchQuestion& question) {
     const Interruption interruption;
     ProgressLine progress;
     const auto tell = [&](const insight::SearchProgress& now) {
@@ -46,7 +52,20 @@ Answer searchProject(const ExplainedProject& project, const SearchOptions& optio
     const insight::CoverIndex index(problem);
     const insight::RunSuite suite = runSuite(project.Run, index);
     const insight::MinimumAnswer minimum = findMinimum(index, suite, budget);
-    Answer answer = ask({project, index, suite, minimum, budget});
+    Answer answer = question.Ask({project, index, suite, minimum, budget});
     if (interruption.wanted()) answer.Notes.push_back("stopped: what is known so far is shown");
     return answer;
+}
+
+}  // namespace
+
+int answerBySearch(const VerbCall& call, const SearchQuestion& question) {
+    SearchOptions options;
+    const auto addOptions = [&](CLI::App& app) {
+        addSearchOptions(app, options);
+        if (question.AddOptions) question.AddOptions(app);
+    };
+    return explainProject(call, {.AddOptions = addOptions, .Ask = [&](const ExplainedProject& project) {
+                                     return searchProject(project, options, question);
+                                 }});
 }

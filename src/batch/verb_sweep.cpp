@@ -138,7 +138,7 @@ Answer ask(SweepOptions& options, const ExplainedProject& project) {
     };
     const insight::SweepCounts counts =
         insight::sweep(project.Run, settings, {options.Threads, &interruption.wanted(), tell});
-    const insight::SweepNames names = insight::namesOf(project.Run);
+    const insight::SweepNames names = insight::sweepNames(project.Run);
     Answer answer{sweepTable(names, counts)};
     const std::uint64_t wanted = insight::runsOf(settings.Runs, settings.Part);
     if (counts.Runs < wanted) {

@@ -2,16 +2,27 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "insight/names.h"
 
+#include <array>
+
 namespace insight {
 
+const char* nameOf(method::Unit kind) {
+    constexpr std::array Names = {"habitat", "zone", "threat"};
+    return Names[static_cast<std::size_t>(kind)];
+}
+
+const std::string& unitName(const SelectionRun& run, const UnitNumber& unit) {
+    return run.Units[unit.Kind][unit.Number];
+}
+
+std::vector<std::string> speciesNames(const SelectionRun& run, const std::vector<std::size_t>& species) {
+    std::vector<std::string> names;
+    for (const std::size_t s : species) names.push_back(run.Species[s]);
+    return names;
+}
+
 const std::string& unitName(const SelectionRun& run, const CoverIndex& index, std::size_t unit) {
-    std::size_t number = index.problem().Units[unit];
-    const std::size_t habitats = run.Units[method::Unit::Habitat].size();
-    if (number < habitats) return run.Units[method::Unit::Habitat][number];
-    number -= habitats;
-    const std::size_t zones = run.Units[method::Unit::Zone].size();
-    return number < zones ? run.Units[method::Unit::Zone][number]
-                          : run.Units[method::Unit::Threat][number - zones];
+    return unitName(run, index.problem().Units[unit]);
 }
 
 std::vector<std::string> unitNames(const SelectionRun& run, const CoverIndex& index, const Rows& units) {

@@ -4,6 +4,7 @@
 
 #include <array>
 
+#include "insight/names.h"
 #include "method/numbers.h"
 
 namespace insight {
@@ -38,7 +39,7 @@ UnitState stateOf(const SelectionRun& run, const Representation& representation,
 std::string reasonOf(const SelectionRun& run, const UnitState& state) {
     if (state.Fate != UnitFate::Uncoverable) return "";
     if (state.Excluded.empty()) return "level";
-    return "excluded: " + fieldOf(namesOf(run, state.Excluded));
+    return "excluded: " + fieldOf(speciesNames(run, state.Excluded));
 }
 
 template <class Number>
@@ -55,21 +56,6 @@ std::vector<UnitState> unitStates(const SelectionRun& run, const Representation&
     return states;
 }
 
-const char* nameOf(method::Unit kind) {
-    constexpr std::array Names = {"habitat", "zone", "threat"};
-    return Names[static_cast<std::size_t>(kind)];
-}
-
-const std::string& nameOf(const SelectionRun& run, const UnitNumber& unit) {
-    return run.Units[unit.Kind][unit.Number];
-}
-
-std::vector<std::string> namesOf(const SelectionRun& run, const std::vector<std::size_t>& species) {
-    std::vector<std::string> names;
-    for (const std::size_t s : species) names.push_back(run.Species[s]);
-    return names;
-}
-
 ResultTable unitTable(const SelectionRun& run, const Representation& representation) {
     ResultTable table;
     table.Columns = {"kind", "number", "unit", "state", "species", "needed", "best", "reason", "covered_by"};
@@ -79,7 +65,7 @@ ResultTable unitTable(const SelectionRun& run, const Representation& representat
         const UnitNumber& unit = representation.unit(u);
         const std::string reason = reasonOf(run, state);
         table.Rows.push_back({std::string(nameOf(unit.Kind)), static_cast<std::int64_t>(unit.Number) + 1,
-                              nameOf(run, unit), FateNames[static_cast<std::size_t>(state.Fate)],
+                              unitName(run, unit), FateNames[static_cast<std::size_t>(state.Fate)],
                               static_cast<std::int64_t>(state.Covering),
                               method::asWritten(representation.needed(u)), cellOf(state.Best),
                               reason.empty() ? Cell() : Cell(reason),

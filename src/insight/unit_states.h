@@ -28,11 +28,6 @@ struct UnitState {
 /// One for each unit, in order.
 std::vector<UnitState> unitStates(const SelectionRun& run, const Representation& representation);
 
-/// "habitat", "zone" or "threat".
-const char* nameOf(method::Unit kind);
-const std::string& nameOf(const SelectionRun& run, const UnitNumber& unit);
-std::vector<std::string> namesOf(const SelectionRun& run, const std::vector<std::size_t>& species);
-
 ResultTable unitTable(const SelectionRun& run, const Representation& representation);
 
 }  // namespace insight

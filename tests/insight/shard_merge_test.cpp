@@ -42,7 +42,7 @@ const insight::SweepOrigin Origin{"2.0.0", "c0ffee"};
 std::string shardText(std::uint32_t number, SweepSettings given = settings(),
                       const insight::SweepOrigin& origin = Origin) {
     given.Part = {number, 3};
-    return countsText(identityOf(origin, small().Levels, given), given.Part, insight::namesOf(small()),
+    return countsText(identityOf(origin, small().Levels, given), given.Part, insight::sweepNames(small()),
                       insight::sweep(small(), given));
 }
 
@@ -114,7 +114,7 @@ TEST(ACountsFile, IsReadBack) {
     EXPECT_EQ(read.Part.Number, 2u);
     EXPECT_EQ(read.Part.Of, 3u);
     EXPECT_EQ(read.Identity, identityOf(Origin, small().Levels, given));
-    EXPECT_EQ(read.Names, insight::namesOf(small()));
+    EXPECT_EQ(read.Names, insight::sweepNames(small()));
     EXPECT_EQ(read.Counts, insight::sweep(small(), given));
 }
 
@@ -167,7 +167,7 @@ TEST(ACountsFile, SaysWhereItIsDamaged) {
 
 TEST(Shards, InAnyOrderGiveTheTableOfTheWhole) {
     const std::string whole =
-        tabSeparated(sweepTable(insight::namesOf(small()), insight::sweep(small(), settings())));
+        tabSeparated(sweepTable(insight::sweepNames(small()), insight::sweep(small(), settings())));
     std::vector<std::uint32_t> order = {1, 2, 3};
     do {
         std::vector<ShardCounts> shards;
@@ -232,7 +232,7 @@ TEST(Shards, OfAnotherNumberOfShardsAreNamed) {
     given.Part = {2, 4};
     const ShardCounts foreign =
         insight::readCounts("s2", countsText(identityOf(Origin, small().Levels, given), given.Part,
-                                             insight::namesOf(small()), insight::sweep(small(), given)));
+                                             insight::sweepNames(small()), insight::sweep(small(), given)));
     EXPECT_EQ(mergeFault({shard(1), foreign, shard(3)}),
               "s2 is of another sweep than s1: shards is '4', not '3'");
 }

@@ -51,7 +51,7 @@ RC_GTEST_PROP(AnySweep, comes_to_the_same_in_threads_and_shards, (const Landscap
     SweepSettings settings = everything();
     const SweepCounts whole = insight::sweep(run, settings);
     RC_ASSERT(insight::sweep(run, settings, {.Threads = 2}) == whole);
-    SweepCounts sum(insight::namesOf(run));
+    SweepCounts sum(insight::sweepNames(run));
     for (const std::uint32_t number : {2u, 3u, 1u}) {
         settings.Part = {number, 3};
         sum.add(insight::sweep(run, settings));
@@ -75,7 +75,7 @@ RC_GTEST_PROP(AnySweep, counts_as_missed_what_an_eligible_species_covers, (const
     const SweepSettings settings = everything();
     const insight::GradeVariation grades(given.Landscape, given.DataQuality, settings);
     insight::SweepWorker worker(given, settings, &grades);
-    SweepCounts expected(insight::namesOf(given));
+    SweepCounts expected(insight::sweepNames(given));
     for (std::uint64_t number = 0; number < Runs; ++number) {
         worker.run(number);
         SelectionRun varied = given;

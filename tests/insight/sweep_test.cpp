@@ -38,7 +38,7 @@ SweepSettings settingsOf(Varied vary, std::uint64_t runs, std::uint64_t seed = 1
 constexpr Varied All{.Levels = true, .Answers = true, .Grades = true};
 
 std::string tableOf(const SelectionRun& run, const SweepCounts& counts) {
-    return tabSeparated(sweepTable(insight::namesOf(run), counts));
+    return tabSeparated(sweepTable(insight::sweepNames(run), counts));
 }
 
 /// Sizes that occurred and how often.
@@ -117,7 +117,7 @@ TEST(ASweep, InShardsAddsUpToTheWhole) {
     SweepSettings settings = settingsOf(All, 101);
     const SweepCounts whole = insight::sweep(full(), settings);
     for (const std::uint32_t shards : {2u, 3u, 7u, 150u}) {
-        SweepCounts sum(insight::namesOf(full()));
+        SweepCounts sum(insight::sweepNames(full()));
         for (std::uint32_t number = shards; number > 0; --number) {
             settings.Part = {number, shards};
             const SweepCounts counts = insight::sweep(full(), settings, {.Threads = 2});

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "insight/cover/bit_set.h"
 #include "method/numbers.h"
 
 namespace insight {
@@ -22,8 +23,11 @@ std::int64_t thousandthsOf(double aggregate) {
 
 CoverProblem coverProblem(const SelectionRun& run, const Representation& representation) {
     CoverProblem problem;
+    std::vector<std::size_t> coverable;
     for (std::size_t u = 0; u < representation.units(); ++u) {
-        if (representation.coverable(u)) problem.Units.push_back(u);
+        if (!representation.coverable(u)) continue;
+        coverable.push_back(u);
+        problem.Units.push_back(representation.unit(u));
     }
     for (std::size_t s = 0; s < representation.species(); ++s) {
         if (!representation.eligible(s)) continue;
@@ -32,10 +36,9 @@ CoverProblem coverProblem(const SelectionRun& run, const Representation& represe
     }
     problem.Covers = method::BitTable(problem.Species.size(), method::wordsFor(problem.Units.size()));
     for (std::size_t row = 0; row < problem.Species.size(); ++row) {
-        for (std::size_t bit = 0; bit < problem.Units.size(); ++bit) {
-            if (representation.covers(problem.Species[row], problem.Units[bit]))
-                problem.Covers.row(row)[bit / method::WordBits] |= method::Word{1}
-                                                                   << (bit % method::WordBits);
+        for (std::size_t bit = 0; bit < coverable.size(); ++bit) {
+            if (representation.covers(problem.Species[row], coverable[bit]))
+                insert(problem.Covers.row(row), bit);
         }
     }
     return problem;

@@ -15,7 +15,7 @@ using Rows = std::vector<std::uint32_t>;
 
 struct CoverProblem {
     std::vector<std::size_t> Species;  ///< of each row: the candidate, rising; eligible ones alone
-    std::vector<std::size_t> Units;    ///< of each bit: the unit, rising; coverable ones alone
+    std::vector<UnitNumber> Units;     ///< of each bit, in their order; coverable ones alone
     method::BitTable Covers;           ///< row × unit
     /// First-pass aggregate of each row in thousandths, so that totals are exact. One that is no number counts 0; one
     /// beyond a billion is cut there.

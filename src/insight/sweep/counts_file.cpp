@@ -7,7 +7,7 @@
 #include <charconv>
 #include <optional>
 
-#include "insight/unit_states.h"
+#include "insight/names.h"
 
 namespace insight {
 

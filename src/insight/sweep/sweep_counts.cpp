@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "insight/unit_states.h"
+#include "insight/names.h"
 
 namespace insight {
 
@@ -53,7 +53,7 @@ private:
 
 }  // namespace
 
-SweepNames namesOf(const SelectionRun& run) { return {run.Species, run.Units}; }
+SweepNames sweepNames(const SelectionRun& run) { return {run.Species, run.Units}; }
 
 SweepCounts::SweepCounts(const SweepNames& names) {
     Species.assign(names.Species.size(), 0);

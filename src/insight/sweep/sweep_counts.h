@@ -22,7 +22,7 @@ struct SweepNames {
     bool operator==(const SweepNames&) const = default;
 };
 
-SweepNames namesOf(const SelectionRun& run);
+SweepNames sweepNames(const SelectionRun& run);
 
 struct SweepCounts {
     SweepCounts() = default;

@@ -37,7 +37,7 @@ SweepWorker::SweepWorker(const SelectionRun& given, const SweepSettings& setting
       levels_(given.Levels),
       landscape_(given.Landscape),
       eligible_(method::eligible(landscape_.Status, levels_.ConservationStatus)),
-      counts_(namesOf(given)) {
+      counts_(sweepNames(given)) {
     thresholds_[Unit::Habitat] =
         method::wholeThresholds(landscape_.HabitatThresholds, method::Quantity::HabitatThreshold);
     thresholds_[Unit::Zone] =

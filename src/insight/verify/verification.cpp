@@ -6,6 +6,7 @@
 #include <functional>
 #include <utility>
 
+#include "insight/names.h"
 #include "insight/verify/followed_passes.h"
 #include "insight/verify/line_alignment.h"
 #include "insight/verify/utf8.h"
@@ -45,7 +46,6 @@ private:
     std::vector<ResultLine> head(const Recomputation& run, const FollowedRun& followed) const;
     std::vector<ResultLine> linesOf(const FollowedPass& pass, bool first) const;
     std::vector<ResultLine> tail(const Recomputation& run) const;
-    std::vector<std::string> speciesNames(const std::vector<std::size_t>& species) const;
 
     void checkPass(const FollowedPass& pass, bool first);
     void checkPick(const FollowedPass& pass, std::size_t line);
@@ -83,16 +83,10 @@ Verification Verifier::verify() {
     return std::move(verification_);
 }
 
-std::vector<std::string> Verifier::speciesNames(const std::vector<std::size_t>& species) const {
-    std::vector<std::string> names;
-    for (const std::size_t s : species) names.push_back(project_.Species[s]);
-    return names;
-}
-
 /// From the excluded species to the headings of the passes.
 std::vector<ResultLine> Verifier::head(const Recomputation& run, const FollowedRun& followed) const {
     const RecomputedScores& scores = run.scores();
-    std::vector<ResultLine> lines = excludedLines(speciesNames(run.excluded()));
+    std::vector<ResultLine> lines = excludedLines(speciesNames(project_, run.excluded()));
     const auto add = [&](LineKind kind, std::string_view text) {
         lines.push_back({kind, std::string(text)});
     };
@@ -109,7 +103,8 @@ std::vector<ResultLine> Verifier::head(const Recomputation& run, const FollowedR
     add(LineKind::Empty, "");
     add(LineKind::Heading, heading::Suite);
     std::size_t number = 0;
-    for (const std::string& name : speciesNames(followed.Suite)) lines.push_back(chosenLine(++number, name));
+    for (const std::string& name : speciesNames(project_, followed.Suite))
+        lines.push_back(chosenLine(++number, name));
     // The list of an empty suite has its first number all the same.
     if (number == 0) lines.push_back(chosenLine(1, ""));
     for (ResultLine& line : legend()) lines.push_back(std::move(line));

@@ -20,6 +20,9 @@ struct Fixed {
 using Cell =
     std::variant<std::monostate, bool, std::int64_t, double, Fixed, std::string, std::vector<std::string>>;
 
+/// How many there are, or a place in a list.
+inline Cell numberCell(std::uint64_t value) { return static_cast<std::int64_t>(value); }
+
 struct ResultTable {
     std::vector<std::string> Columns;
     std::vector<std::vector<Cell>> Rows;  ///< each has a cell for every column

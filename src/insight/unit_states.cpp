@@ -64,11 +64,10 @@ ResultTable unitTable(const SelectionRun& run, const Representation& representat
         const UnitState& state = states[u];
         const UnitNumber& unit = representation.unit(u);
         const std::string reason = reasonOf(run, state);
-        table.Rows.push_back({std::string(nameOf(unit.Kind)), static_cast<std::int64_t>(unit.Number) + 1,
+        table.Rows.push_back({std::string(nameOf(unit.Kind)), numberCell(unit.Number + 1),
                               unitName(run, unit), FateNames[static_cast<std::size_t>(state.Fate)],
-                              static_cast<std::int64_t>(state.Covering),
-                              method::asWritten(representation.needed(u)), cellOf(state.Best),
-                              reason.empty() ? Cell() : Cell(reason),
+                              numberCell(state.Covering), method::asWritten(representation.needed(u)),
+                              cellOf(state.Best), reason.empty() ? Cell() : Cell(reason),
                               state.CoveredBy > 0 ? Cell(std::int64_t{state.CoveredBy}) : Cell()});
     }
     return table;

@@ -12,8 +12,6 @@ namespace {
 
 constexpr std::array ProofNames = {"witness", "weights", "search"};
 
-Cell number(std::size_t value) { return static_cast<std::int64_t>(value); }
-
 std::vector<std::string> evidence(const SelectionRun& run, const CoverIndex& index,
                                   const MinimumAnswer& minimum) {
     if (minimum.By == Proof::Witness) return unitNames(run, index, minimum.Witness);
@@ -37,12 +35,12 @@ ResultTable minimumTable(const SelectionRun& run, const CoverIndex& index, const
     const auto add = [&table](const char* measure, Cell value) {
         table.Rows.push_back({std::string(measure), std::move(value)});
     };
-    add("greedy_size", number(greedy));
+    add("greedy_size", numberCell(greedy));
     add("greedy_complete", suite.Complete);
     add("redundant", speciesNames(run, index, suite.Redundant));
-    add("pruned_size", number(suite.Pruned.size()));
-    add("lower", number(known.Lower));
-    add("upper", number(known.upper()));
+    add("pruned_size", numberCell(suite.Pruned.size()));
+    add("lower", numberCell(known.Lower));
+    add("upper", numberCell(known.upper()));
     add("proven", minimum.isProven());
     add("gap", suite.Complete ? Cell(gap) : Cell());
     add("greedy_total", totalOf(totalOf(index, suite.Picks)));

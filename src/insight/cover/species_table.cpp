@@ -14,8 +14,6 @@ namespace {
 constexpr std::array ClassNames = {"all", "some", "none"};
 constexpr int Places = 4;  // of shares and rarities
 
-Cell number(std::size_t value) { return static_cast<std::int64_t>(value); }
-
 Cell classCell(const std::optional<SpeciesClass>& known) {
     return known ? Cell(std::string(ClassNames[static_cast<std::size_t>(*known)])) : Cell();
 }
@@ -23,7 +21,7 @@ Cell classCell(const std::optional<SpeciesClass>& known) {
 /// "inf", a number, or "A-B" where no more is proven.
 Cell costCell(const ReplacementCost& cost) {
     if (!cost.Upper) return std::string("inf");
-    if (*cost.Upper == cost.Lower) return number(cost.Lower);
+    if (*cost.Upper == cost.Lower) return numberCell(cost.Lower);
     return std::to_string(cost.Lower) + "-" + std::to_string(*cost.Upper);
 }
 
@@ -47,7 +45,7 @@ enum Column : std::size_t {
 /// An excluded species has no other cells.
 std::vector<Cell> excludedRow(const SelectionRun& run, std::size_t species) {
     std::vector<Cell> row(Columns);
-    row[Number] = number(species + 1);
+    row[Number] = numberCell(species + 1);
     row[Name] = run.Species[species];
     row[Eligible] = false;
     row[Rank] = std::int64_t{run.Ranks[species]};
@@ -68,8 +66,8 @@ void addRole(const SelectionRun& run, const CoverIndex& index, const SpeciesRole
 void addPick(const SelectionRun& run, const CoverIndex& index, const Rows& picks, std::size_t pick,
              std::vector<Cell>& row) {
     const BitSet lost = lostWithout(index, picks, picks[pick]);
-    row[Pick] = number(pick + 1);
-    row[Lost] = number(count(lost));
+    row[Pick] = numberCell(pick + 1);
+    row[Lost] = numberCell(count(lost));
     row[LostUnits] = unitNames(run, index, lost);
     row[Substitutes] = speciesNames(run, index, substitutesOf(index, picks, picks[pick]));
 }

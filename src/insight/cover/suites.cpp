@@ -55,9 +55,8 @@ SuiteList findSuites(const CoverIndex& index, const MinimumAnswer& minimum, std:
 ResultTable suiteTable(const SelectionRun& run, const CoverIndex& index, const SuiteList& list) {
     ResultTable table = {{"suite", "size", "total", "species"}, {}};
     for (const Rows& suite : list.Suites) {
-        table.Rows.push_back({static_cast<std::int64_t>(table.Rows.size()) + 1,
-                              static_cast<std::int64_t>(suite.size()), totalOf(totalOf(index, suite)),
-                              speciesNames(run, index, suite)});
+        table.Rows.push_back({numberCell(table.Rows.size() + 1), numberCell(suite.size()),
+                              totalOf(totalOf(index, suite)), speciesNames(run, index, suite)});
     }
     return table;
 }

@@ -25,7 +25,7 @@ public:
     void list(const char* what, const Cell& kind, const std::vector<std::string>& names,
               const std::vector<Count>& counts) {
         for (std::size_t i = 0; i < names.size(); ++i)
-            row({what, kind, static_cast<std::int64_t>(i) + 1, names[i]}, counts[i]);
+            row({what, kind, numberCell(i + 1), names[i]}, counts[i]);
     }
     void single(const char* what, std::size_t value, Count count) {
         row({what, Cell(), Cell(), std::to_string(value)}, count);
@@ -33,8 +33,8 @@ public:
 
 private:
     void row(std::vector<Cell> cells, Count count) {
-        cells.emplace_back(static_cast<std::int64_t>(count));
-        cells.emplace_back(static_cast<std::int64_t>(runs_));
+        cells.push_back(numberCell(count));
+        cells.push_back(numberCell(runs_));
         if (runs_ == 0) {
             cells.resize(table_.Columns.size());
         } else {

@@ -8,22 +8,13 @@
 
 namespace insight {
 
-namespace {
-
 using method::Unit;
 
-/// As method::highestThreatScores, but a score that is no number is passed over.
-std::vector<double> neededThreatScores(const method::Table& scores, double representation) {
-    std::vector<double> needed(scores.columns(), 0);
-    for (std::size_t species = 0; species < scores.rows(); ++species) {
-        for (std::size_t threat = 0; threat < needed.size(); ++threat)
-            needed[threat] = std::max(needed[threat], scores.at(species, threat));
-    }
-    for (double& score : needed) score *= representation;
-    return needed;
+double neededThreatScore(const method::Table& scores, std::size_t threat, double representation) {
+    double highest = 0;
+    for (std::size_t s = 0; s < scores.rows(); ++s) highest = std::max(highest, scores.at(s, threat));
+    return representation * highest;
 }
-
-}  // namespace
 
 Representation::Representation(const SelectionRun& run)
     : run_(run), eligible_(method::eligible(run.Landscape.Status, run.Levels.ConservationStatus)) {
@@ -34,7 +25,10 @@ Representation::Representation(const SelectionRun& run)
     add(Unit::Habitat,
         method::wholeThresholds(run.Landscape.HabitatThresholds, method::Quantity::HabitatThreshold));
     add(Unit::Zone, method::wholeThresholds(run.Landscape.ZoneThresholds, method::Quantity::ZoneThreshold));
-    add(Unit::Threat, neededThreatScores(run.ThreatScores, run.Levels.ThreatRepresentation));
+    std::vector<double> scores(run.ThreatScores.columns());
+    for (std::size_t threat = 0; threat < scores.size(); ++threat)
+        scores[threat] = neededThreatScore(run.ThreatScores, threat, run.Levels.ThreatRepresentation);
+    add(Unit::Threat, scores);
     findCovers();
 }
 
@@ -44,7 +38,7 @@ void Representation::findCovers() {
     for (std::size_t s = 0; s < species(); ++s) {
         const std::span<method::Word> row = covers_.row(s);
         for (std::size_t u = 0; u < units(); ++u) {
-            if (!(value(s, u) >= needed_[u])) continue;
+            if (!method::represents(value(s, u), needed_[u])) continue;
             row[u / method::WordBits] |= method::Word{1} << (u % method::WordBits);
             if (eligible(s)) coverable_[u] = true;
         }

@@ -19,6 +19,10 @@ struct UnitNumber {
     bool operator==(const UnitNumber&) const = default;
 };
 
+/// What the score of a threat must reach: the level of threat representation times the highest score of any species, and
+/// at least 0. As method::highestThreatScores, but a score that is no number is passed over.
+double neededThreatScore(const method::Table& scores, std::size_t threat, double representation);
+
 /// Units count over all kinds here, from 0: habitats, then zones, then threats.
 class Representation {
 public:
@@ -43,8 +47,7 @@ public:
     /// Whether an eligible species covers the unit.
     bool coverable(std::size_t unit) const { return coverable_[unit]; }
 
-    /// What a species must reach: the threshold as a whole number; for a threat the highest score of any species, and at
-    /// least 0, times the level of threat representation.
+    /// What a species must reach: the threshold as a whole number; for a threat its neededThreatScore.
     double needed(std::size_t unit) const { return needed_[unit]; }
     /// The level of use or threat score of a species that is compared with it; may be no number.
     double value(std::size_t species, std::size_t unit) const;

@@ -2,8 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "insight/sweep/sweep_worker.h"
 
-#include <algorithm>
-
+#include "insight/representation.h"
 #include "method/coverage.h"
 
 namespace insight {
@@ -19,12 +18,6 @@ bool anyReaches(const method::Table& values, std::size_t unit, double needed,
         if (eligible[s] && method::represents(values.at(s, unit), needed)) return true;
     }
     return false;
-}
-
-double highestOf(const method::Table& scores, std::size_t threat) {
-    double highest = 0;
-    for (std::size_t s = 0; s < scores.rows(); ++s) highest = std::max(highest, scores.at(s, threat));
-    return highest;
 }
 
 }  // namespace
@@ -102,7 +95,7 @@ void SweepWorker::countUncovered(Unit kind) {
 /// Asked for the few units alone that a suite leaves: at the levels and grades of this run.
 bool SweepWorker::coverable(Unit kind, std::size_t unit) const {
     if (kind == Unit::Threat) {
-        const double needed = levels_.ThreatRepresentation * highestOf(threatScores(), unit);
+        const double needed = neededThreatScore(threatScores(), unit, levels_.ThreatRepresentation);
         return anyReaches(threatScores(), unit, needed, eligible_);
     }
     const method::Table& levels = kind == Unit::Habitat ? landscape_.HabitatLevels : landscape_.ZoneLevels;

@@ -61,7 +61,17 @@ Descriptor duplicate(int number) {
     return Descriptor(::fcntl(number, F_DUPFD_CLOEXEC, 0));
 }
 
+/// The system's reason, without the names that the library puts around it.
+std::string reasonOf(const std::exception& error) {
+    const auto* system = dynamic_cast<const std::system_error*>(&error);
+    return system != nullptr ? system->code().message() : error.what();
+}
+
 }  // namespace
+
+std::string cannotBeWritten(const std::string& path, const std::exception& error) {
+    return path + ": cannot be written: " + reasonOf(error);
+}
 
 OutputFile::OutputFile(const fs::path& path) {
     if (const auto number = ownDescriptor(path)) {

@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <exception>
 #include <filesystem>
+#include <string>
 #include <string_view>
 
 #include "batch/system_io.h"
@@ -24,3 +26,6 @@ private:
     std::filesystem::path target_;  // of a regular file
     Descriptor direct_;             // of all else
 };
+
+/// The line that says so, with the system's reason.
+std::string cannotBeWritten(const std::string& path, const std::exception& error);

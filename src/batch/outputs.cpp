@@ -43,16 +43,6 @@ void makeFolder(const std::string& folder) {
     }
 }
 
-/// The system's reason, without the names that the library puts around it.
-std::string reasonOf(const std::exception& error) {
-    const auto* system = dynamic_cast<const std::system_error*>(&error);
-    return system != nullptr ? system->code().message() : error.what();
-}
-
-std::string cannotBeWritten(const std::string& path, const std::exception& error) {
-    return path + ": cannot be written: " + reasonOf(error);
-}
-
 }  // namespace
 
 Outputs::Outputs(const BatchOptions& options, std::span<const ExportTable> tables, std::ostream& err)

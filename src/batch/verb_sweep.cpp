@@ -29,7 +29,8 @@ struct SweepOptions {
     unsigned Threads = std::max(1U, std::thread::hardware_concurrency());
     std::string Shard = "1/1";
     std::optional<std::string> Counts;
-    std::string ProjectHash;  ///< before it was opened; empty without counts
+    std::optional<OutputFile> CountsFile;  ///< of that name, from before the work on
+    std::string ProjectHash;               ///< before it was opened; empty without counts
 };
 
 constexpr unsigned MostThreads = 1024;
@@ -87,10 +88,6 @@ insight::Varied variedOf(const std::vector<std::string>& names) {
 
 std::string hashOf(const std::string& project) { return sha256(readWhole(project)); }
 
-std::string cannotBeWritten(const std::string& path, const std::system_error& error) {
-    return path + ": cannot be written: " + error.code().message();
-}
-
 /// Whatever can be found wrong before the work, which may be long.
 void prepare(SweepOptions& options, const RunOptions& run) {
     options.Settings.Part = shardOf(options.Shard);
@@ -100,7 +97,7 @@ void prepare(SweepOptions& options, const RunOptions& run) {
         throw UsageFault{"--counts: " + run.Project + " is no file, which could be read again"};
     requireDistinct(run.Project, std::array{NamedOutput{"--counts", *options.Counts}});
     try {
-        const OutputFile writable(*options.Counts);
+        options.CountsFile.emplace(*options.Counts);
     } catch (const std::system_error& error) {
         throw UsageFault{cannotBeWritten(*options.Counts, error)};
     }
@@ -108,7 +105,7 @@ void prepare(SweepOptions& options, const RunOptions& run) {
 }
 
 /// What keeps the counts from being written, if something does.
-std::optional<std::string> writeCounts(const SweepOptions& options, const ExplainedProject& project,
+std::optional<std::string> writeCounts(SweepOptions& options, const ExplainedProject& project,
                                        const insight::SweepNames& names, const insight::SweepCounts& counts) {
     const insight::SweepSettings& settings = options.Settings;
     try {
@@ -121,7 +118,7 @@ std::optional<std::string> writeCounts(const SweepOptions& options, const Explai
     try {
         const auto identity =
             insight::identityOf({BRENICA_VERSION, options.ProjectHash}, project.Run.Levels, settings);
-        OutputFile(*options.Counts).write(insight::countsText(identity, settings.Part, names, counts));
+        options.CountsFile->write(insight::countsText(identity, settings.Part, names, counts));
         return std::nullopt;
     } catch (const std::system_error& error) {
         return cannotBeWritten(*options.Counts, error);

@@ -160,6 +160,13 @@ class Targets(ProgramTest):
             self.assertEqual((code, out), (WRONG_USAGE, b""), path)
             self.assertRegex(err, f"^brenica-batch: {path}: cannot be written: [A-Z][a-z ]+\n$")
 
+    def testTheCountsOfASweepSentIntoAPipe(self):
+        sweep = '"$0" sweep --vary levels --runs 5 --counts'
+        code, _, err = self.shell(f'mkfifo f; cat f >read & timeout 20 {sweep} f p.brn && wait')
+        self.assertEqual(code, SELECTED, err)
+        self.shell(f'{sweep} written p.brn')
+        self.assertEqual((self.folder / "read").read_bytes(), (self.folder / "written").read_bytes())
+
     def testASocketIsNoTarget(self):
         with socket.socket(socket.AF_UNIX) as server:
             server.bind(str(self.folder / "socket"))

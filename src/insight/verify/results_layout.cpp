@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-#include "insight/verify/utf8.h"
+#include "ui/text.h"
 
 namespace insight {
 
@@ -42,9 +42,9 @@ std::string joined(const std::vector<std::string>& names, std::string_view separ
 
 std::string markAndName(std::string_view mark, const std::string& name) {
     std::string text = std::string(mark) + name;
-    const std::size_t width = characters(text);
+    const std::size_t width = ui::length(text);
     if (width < NameWidth) return text + std::string(NameWidth - width, ' ');
-    return std::string(firstCharacters(text, NameWidth));
+    return std::string(ui::firstCharacters(text, NameWidth));
 }
 
 std::string_view withoutFill(std::string_view text) { return text.substr(0, text.find_last_not_of(' ') + 1); }
@@ -200,9 +200,9 @@ Fields fieldsOf(LineKind kind, std::string_view text) {
 }
 
 RowStart rowStart(std::string_view text) {
-    const std::string_view named = firstCharacters(text, NameWidth);
+    const std::string_view named = ui::firstCharacters(text, NameWidth);
     RowStart start;
-    start.Mark = firstCharacters(named, MarkWidth);
+    start.Mark = ui::firstCharacters(named, MarkWidth);
     start.Name = named.substr(start.Mark.size());
     start.Rank = text.substr(named.size());
     start.Rank = start.Rank.substr(0, start.Rank.find('\t'));
@@ -220,7 +220,7 @@ std::optional<RowCells> rowCells(std::string_view text) {
         cells.Values[i] = text.substr(begin);
         text.remove_suffix(text.size() - begin);
     }
-    if (characters(text) < NameWidth) return {};
+    if (ui::length(text) < NameWidth) return {};
     const RowStart start = rowStart(text);
     cells.Mark = start.Mark;
     cells.Name = start.Name;

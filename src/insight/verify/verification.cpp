@@ -9,7 +9,7 @@
 #include "insight/names.h"
 #include "insight/verify/followed_passes.h"
 #include "insight/verify/line_alignment.h"
-#include "insight/verify/utf8.h"
+#include "ui/text.h"
 
 namespace insight {
 
@@ -22,6 +22,19 @@ using OptionalLevels = std::array<std::optional<double>, LevelKinds.size()>;
 
 OptionalLevels inOrder(const GivenLevels& given) {
     return {given.Margin, given.ThreatRepresentation, given.ConservationStatus};
+}
+
+/// With a replacement character for each byte that is no UTF-8.
+std::string asUtf8(std::string_view bytes) {
+    constexpr std::string_view Replacement = "\xEF\xBF\xBD";
+    std::string text;
+    for (std::size_t position = 0; position < bytes.size();) {
+        const std::size_t start = position;
+        const char32_t character = ui::nextCharacter(bytes, position);
+        const std::string_view read = bytes.substr(start, position - start);
+        text += character >= 0x80 && read.size() == 1 ? Replacement : read;
+    }
+    return text;
 }
 
 Cell cellOf(const std::vector<std::string_view>& values) {

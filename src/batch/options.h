@@ -9,11 +9,11 @@
 
 /// A project, and what a planner would enter on the way to its suite.
 struct RunOptions {
-    std::string Project;
-    std::optional<std::string> ErrorMargin;
-    std::optional<std::string> ThreatRepresentation;
-    std::optional<std::string> ConservationStatus;
-    std::vector<std::string> Answers;
+    std::string Project{};
+    std::optional<std::string> ErrorMargin{};
+    std::optional<std::string> ThreatRepresentation{};
+    std::optional<std::string> ConservationStatus{};
+    std::vector<std::string> Answers{};
 };
 
 /// What one run of brenica-batch without a verb is asked for.

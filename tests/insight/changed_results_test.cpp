@@ -3,14 +3,13 @@
 #include <algorithm>
 #include <optional>
 
-#include "insight/exported_run.h"
-#include "insight/results_lines.h"
 #include "insight/verify/verification.h"
+#include "random_project.h"
+#include "results_lines.h"
+#include "selected_run.h"
 
 /// Whatever is changed in a results file is found, and where it was changed.
 
-using exported::Draw;
-using exported::ExportedRun;
 using insight::fieldOf;
 using insight::ResultsFile;
 using insight::Verification;
@@ -158,8 +157,8 @@ const std::vector<ExportedRun>& runs() {
         TemporaryFolder folder;
         std::vector<ExportedRun> files;
         for (std::uint64_t seed = 1000; files.size() < Count; ++seed) {
-            const exported::RandomCase random = exported::randomCase(seed);
-            ExportedRun exported = exported::runOf(random.Project, random.Settings, folder);
+            const RandomProject random = randomProject(seed);
+            ExportedRun exported = exportedRun(random.Text, random.Options, folder);
             if (!exported.Results.empty()) files.push_back(std::move(exported));
         }
         return files;

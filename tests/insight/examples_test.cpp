@@ -6,7 +6,7 @@
 #include "insight/cover/minimum_table.h"
 #include "insight/cover/species_table.h"
 #include "insight/names.h"
-#include "project_runs.h"
+#include "selected_run.h"
 
 using namespace insight;
 using testing::ElementsAre;
@@ -16,8 +16,8 @@ using testing::IsSupersetOf;
 namespace {
 
 struct Explained : LoadedCase {
-    explicit Explained(const std::string& example, const PlannersWay& way = {})
-        : LoadedCase(runOfProject(examplePath(example), way).value()), Suite(runSuite(Run, Index)) {
+    explicit Explained(const RunOptions& options)
+        : LoadedCase(selected(options)), Suite(runSuite(Run, Index)) {
         SearchBudget budget(Effort);
         Minimum = findMinimum(Index, Suite, budget);
         List = findSuites(Index, Minimum, 0, 1000, budget);
@@ -43,7 +43,7 @@ struct Explained : LoadedCase {
 }  // namespace
 
 TEST(ExplainedExample, FullLandscapeHasThirtyFiveSmallestSuites) {
-    const Explained full("full_landscape.brn", {"6", "0.4", "0.8", {"b", "d", "b", "2"}});
+    const Explained full(fullLandscape());
     EXPECT_EQ(full.Index.units(), 30U);
     EXPECT_EQ(full.Suite.Picks.size(), 9U);
     EXPECT_TRUE(full.Suite.Complete);
@@ -57,7 +57,7 @@ TEST(ExplainedExample, FullLandscapeHasThirtyFiveSmallestSuites) {
 }
 
 TEST(ExplainedExample, SmallLandscapeDoesWithoutTheOtter) {
-    const Explained small("small_landscape.brn");
+    const Explained small(smallLandscape());
     EXPECT_THAT(small.minimum(), HasSubstr("greedy_size\t4\ngreedy_complete\tyes\nredundant\tEurasian Otter\n"
                                            "pruned_size\t3\nlower\t3\nupper\t3\nproven\tyes\ngap\t1\n"));
     EXPECT_EQ(small.List.Suites.size(), 2U);
@@ -67,7 +67,7 @@ TEST(ExplainedExample, SmallLandscapeDoesWithoutTheOtter) {
 }
 
 TEST(ExplainedExample, Version1LandscapeHasThreeSmallestSuites) {
-    const Explained old("version1_landscape.brn");
+    const Explained old(example("version1_landscape.brn"));
     EXPECT_EQ(old.Suite.Picks.size(), 6U);
     EXPECT_EQ(old.Minimum.Known.Lower, 5U);
     EXPECT_TRUE(old.Minimum.isProven());
@@ -76,7 +76,7 @@ TEST(ExplainedExample, Version1LandscapeHasThreeSmallestSuites) {
 }
 
 TEST(ExplainedExample, FullLandscapeAtTheDefaults) {
-    const Explained full("full_landscape.brn");
+    const Explained full(example("full_landscape.brn"));
     EXPECT_TRUE(full.Minimum.isProven());
     EXPECT_TRUE(full.List.isComplete());
     EXPECT_EQ(full.List.Suites.front(), full.Minimum.Known.Suite);

@@ -2,52 +2,53 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <filesystem>
 #include <optional>
+#include <sstream>
 #include <string>
-#include <vector>
 
-#include "batch/scripted_platform.h"
-#include "project/frmBrenica.h"
-#include "selection/margin_answers.h"
-#include "selection/selection_run.h"
+#include "batch/project_run.h"
+#include "support/form_test.h"
 
-/// A project as a planner runs it: opened, given levels, walked from page 2 to 7 and selected.
-struct PlannedRun {
-    std::string Project;
-    std::string Margin = "5";
-    std::string ThreatRepresentation = "0.5";
-    std::string ConservationStatus = "1";
-    std::vector<std::string> Answers{};
+/// Runs of projects, for the tests of what is said about them.
+
+inline RunOptions example(const std::string& name) { return {BRENICA_SOURCE_DIR "/examples/" + name}; }
+inline RunOptions smallLandscape() { return example("small_landscape.brn"); }
+inline RunOptions fullLandscape() {
+    return {example("full_landscape.brn").Project, "6", "0.4", "0.8", {"b", "d", "b", "2"}};
+}
+
+struct ExportedRun {
+    std::optional<SelectionRun> Run{};
+    std::string Results{};  ///< empty where the run did not come to its end
 };
 
-inline std::string examplePath(const std::string& name) { return BRENICA_SOURCE_DIR "/examples/" + name; }
-
-inline PlannedRun fullLandscape() {
-    return {examplePath("full_landscape.brn"), "6", "0.4", "0.8", {"b", "d", "b", "2"}};
-}
-inline PlannedRun smallLandscape() { return {examplePath("small_landscape.brn")}; }
-
-inline SelectionRun selected(const PlannedRun& planned) {
-    ScriptedPlatform platform;
-    platform.Answers.assign(planned.Answers.begin(), planned.Answers.end());
-    platform.Files.push_back(planned.Project);
-    ui::Files files;
-    modGlobal global;
-    frmBrenica form{platform, files, global};
-    form.mnuNewProject.UserClick();
-    form.mnuOpenProject.UserClick();
-    const auto put = [](ui::TextBox& box, const std::string& level) {
-        box.UserFocus();
-        box.UserPaste(level);
-    };
-    put(form.txtErrorMargin, planned.Margin);
-    put(form.txtThreatRep, planned.ThreatRepresentation);
-    put(form.txtCCSRep, planned.ConservationStatus);
-    for (int page = 2; page <= 7; ++page) form.tabBrenica.UserSelectTab(page);
-    try {
-        form.cmdComplement.UserClick();
-    } catch (const std::exception&) {
-        // A run that ends in an error is a run.
+inline ExportedRun exportedRun(const RunOptions& options, const TemporaryFolder& folder) {
+    std::ostringstream unheard;
+    ProjectRun project(options, unheard);
+    ExportedRun exported;
+    if (project.select() == ExitDone) {
+        const std::string results = folder.file("results.txt");
+        std::filesystem::remove(results);
+        project.platform().Files.push_back(results);
+        project.form().cmdExportResults.UserClick();
+        if (std::filesystem::exists(results)) exported.Results = readFile(results);
     }
-    return form.TakeSelectionRun().value();
+    exported.Run = project.form().TakeSelectionRun();
+    return exported;
+}
+
+inline ExportedRun exportedRun(const ProjectText& project, RunOptions options,
+                               const TemporaryFolder& folder) {
+    options.Project = folder.file("project.brn");
+    writeFile(options.Project, project.text());
+    return exportedRun(options, folder);
+}
+
+/// One that ends in an error is a run, too.
+inline SelectionRun selected(const RunOptions& options) {
+    std::ostringstream unheard;
+    ProjectRun project(options, unheard);
+    project.select();
+    return project.form().TakeSelectionRun().value();
 }

@@ -9,6 +9,7 @@
 
 #include "insight/sweep/sweep.h"
 #include "selected_run.h"
+#include "selection/margin_answers.h"
 
 using insight::CountsFault;
 using insight::ShardCounts;

@@ -10,6 +10,7 @@
 
 #include "insight/sweep/sweep_worker.h"
 #include "selected_run.h"
+#include "selection/margin_answers.h"
 
 using insight::Count;
 using insight::SweepCounts;
@@ -84,7 +85,7 @@ TEST(ASweep, OfGradesThatAreNeverOffGivesTheSuite) {
 TEST(ASweep, UsesTheAnswersGivenInEachRun) {
     SweepSettings settings = settingsOf({}, 4);
     settings.Answers.clear();
-    PlannedRun planned = fullLandscape();
+    RunOptions planned = fullLandscape();
     planned.Answers.clear();
     const SelectionRun other = selected(planned);
     const SweepCounts counts = insight::sweep(full(), settings);

@@ -9,7 +9,6 @@
 #include <set>
 
 #include "method/scores.h"
-#include "selected_run.h"
 
 using insight::GradeVariation;
 using insight::RandomStream;

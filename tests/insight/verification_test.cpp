@@ -5,11 +5,10 @@
 #include <algorithm>
 #include <sstream>
 
-#include "insight/exported_run.h"
-#include "insight/results_lines.h"
+#include "random_project.h"
+#include "results_lines.h"
+#include "selected_run.h"
 
-using exported::ExportedRun;
-using exported::RunSettings;
 using insight::fieldOf;
 using insight::GivenLevels;
 using insight::Verification;
@@ -20,8 +19,6 @@ using testing::IsEmpty;
 using testing::Not;
 
 namespace {
-
-std::string example(const std::string& name) { return std::string(BRENICA_SOURCE_DIR) + "/examples/" + name; }
 
 Verification verify(const SelectionRun& run, const std::string& text, const GivenLevels& given = {}) {
     return insight::verifyResults(run, insight::readResultsFile(text), given);
@@ -51,9 +48,8 @@ std::string faultOf(const std::string& text) {
 class VerificationTest : public testing::Test {
 protected:
     TemporaryFolder folder;
-    RunSettings fullSettings{"6", "0.4", "0.8", {"b", "d", "b", "2"}};
-    const ExportedRun full = exported::runOf(example("full_landscape.brn"), fullSettings, folder);
-    const ExportedRun small = exported::runOf(example("small_landscape.brn"), {}, folder);
+    const ExportedRun full = exportedRun(fullLandscape(), folder);
+    const ExportedRun small = exportedRun(smallLandscape(), folder);
 
     /// The failures after one line of the full example, from 1, was replaced.
     std::vector<std::string> failuresWith(std::size_t number, const std::string& text) const {
@@ -71,7 +67,7 @@ protected:
 }  // namespace
 
 TEST_F(VerificationTest, EveryExampleFollowsFromItsProject) {
-    const ExportedRun old = exported::runOf(example("version1_landscape.brn"), {}, folder);
+    const ExportedRun old = exportedRun(example("version1_landscape.brn"), folder);
     for (const ExportedRun& exported : {full, small, old}) {
         ASSERT_FALSE(exported.Results.empty());
         const Verification verification = verify(*exported.Run, exported.Results);
@@ -107,8 +103,9 @@ TEST_F(VerificationTest, ALineIsToldPartByPart) {
 
 TEST_F(VerificationTest, APickIsOneThatTheMarginAllows) {
     // Without the answers the top species is taken; the margin would have allowed it, so that either file holds.
-    fullSettings.Answers.clear();
-    const ExportedRun top = exported::runOf(example("full_landscape.brn"), fullSettings, folder);
+    RunOptions unanswered = fullLandscape();
+    unanswered.Answers.clear();
+    const ExportedRun top = exportedRun(unanswered, folder);
     ASSERT_NE(top.Results, full.Results);
     EXPECT_THAT(failures(verify(*full.Run, top.Results)), IsEmpty());
     EXPECT_THAT(failures(verify(*top.Run, full.Results)), IsEmpty());
@@ -260,9 +257,9 @@ TEST_F(VerificationTest, NoFileFollowsFromARunThatEndsInAnError) {
     // Species 1 leaves unit 2 of the habitats uncovered, and nobody else covers it.
     ProjectText project(2, 2, 1, 1);
     project.set("HeteroHabitat Population", "2,2,1,1").set("HeteroJU Individual", "2,1");
-    const ExportedRun good = exported::runOf(project, {}, folder);
+    const ExportedRun good = exportedRun(project, {}, folder);
     project.set("HeteroHabitat Population", "2,1,1,1");
-    const ExportedRun bad = exported::runOf(project, {}, folder);
+    const ExportedRun bad = exportedRun(project, {}, folder);
     ASSERT_FALSE(good.Results.empty());
     ASSERT_TRUE(bad.Results.empty());
     ASSERT_TRUE(bad.Run);
@@ -276,13 +273,13 @@ TEST_F(VerificationTest, ASpeciesThatAddsNothingIsOmittedAtOnceInTheFirstPass) {
     project.set("VulnerabilitybySpecies Severity", "0")
         .set("Habitat UseLevel", "3")
         .set("MZone UseLevel", "3");
-    ExportedRun exported = exported::runOf(project, {}, folder);
+    ExportedRun exported = exportedRun(project, {}, folder);
     EXPECT_THAT(failures(verify(*exported.Run, exported.Results)), IsEmpty());
     // Only the threat that nobody has is covered by anybody; with a highest score above 0 the suite is empty.
     project = ProjectText(2, 1, 1, 1);
     project.set("Habitat UseLevel", "3").set("MZone UseLevel", "3").set("Conservation Status", "0.5,1");
     project.set("VulnerabilitybySpecies Severity", "1,3");
-    exported = exported::runOf(project, {"5", "0.5", "0.8", {}}, folder);
+    exported = exportedRun(project, {"", "5", "0.5", "0.8"}, folder);
     ASSERT_THAT(exported.Results, HasSubstr("\r\n1. \r\n"));
     EXPECT_THAT(failures(verify(*exported.Run, exported.Results)), IsEmpty());
     std::string changed = exported.Results;
@@ -293,8 +290,8 @@ TEST_F(VerificationTest, ASpeciesThatAddsNothingIsOmittedAtOnceInTheFirstPass) {
 TEST_F(VerificationTest, RandomRunsFollowFromTheirProjects) {
     int files = 0;
     for (std::uint64_t seed = 1; seed <= 300; ++seed) {
-        const exported::RandomCase random = exported::randomCase(seed);
-        const ExportedRun exported = exported::runOf(random.Project, random.Settings, folder);
+        const RandomProject random = randomProject(seed);
+        const ExportedRun exported = exportedRun(random.Text, random.Options, folder);
         if (exported.Results.empty()) continue;
         ++files;
         ASSERT_THAT(failures(verify(*exported.Run, exported.Results)), IsEmpty()) << seed << "\n"

@@ -2,70 +2,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <deque>
-#include <filesystem>
-#include <optional>
+#include <cstdint>
 #include <random>
 #include <string>
 #include <vector>
 
-#include "selection/selection_run.h"
-#include "support/form_test.h"
+#include "batch/options.h"
+#include "support/project_text.h"
 
-/// Runs whose results were exported, for the tests of what is said about them.
-namespace exported {
-
-struct RunSettings {
-    std::string Margin = "5";
-    std::string ThreatRepresentation = "0.5";
-    std::string ConservationStatus = "1";
-    std::deque<std::string> Answers{};
-};
-
-struct ExportedRun {
-    std::optional<SelectionRun> Run{};
-    std::string Results{};  ///< empty where the run did not come to its end
-};
-
-/// Opens the project, walks its pages, selects and exports as a user does.
-inline ExportedRun runOf(const std::string& path, const RunSettings& settings,
-                         const TemporaryFolder& folder) {
-    ScriptedPlatform platform;
-    platform.Answers = settings.Answers;
-    ui::Files files;
-    modGlobal global;
-    frmBrenica form(platform, files, global);
-    ExportedRun exported;
-    try {
-        platform.Files.push_back(path);
-        form.mnuOpenProject.UserClick();
-        const auto type = [](ui::TextBox& box, const std::string& text) {
-            box.UserFocus();
-            box.UserPaste(text);
-        };
-        type(form.txtErrorMargin, settings.Margin);
-        type(form.txtThreatRep, settings.ThreatRepresentation);
-        type(form.txtCCSRep, settings.ConservationStatus);
-        for (int page = 2; page <= 7; ++page) form.tabBrenica.UserSelectTab(page);
-        if (!form.cmdComplement.Enabled()) return exported;
-        form.cmdComplement.UserClick();
-        const std::string results = folder.file("results.txt");
-        std::filesystem::remove(results);
-        platform.Files.push_back(results);
-        form.cmdExportResults.UserClick();
-        if (std::filesystem::exists(results)) exported.Results = readFile(results);
-    } catch (const ui::RunTimeError&) {
-    }
-    exported.Run = form.TakeSelectionRun();
-    return exported;
-}
-
-inline ExportedRun runOf(const ProjectText& project, const RunSettings& settings,
-                         const TemporaryFolder& folder) {
-    const std::string path = folder.file("project.brn");
-    writeFile(path, project.text());
-    return runOf(path, settings, folder);
-}
+/// Random projects with odd names and numbers, for the tests of what is said about their runs.
 
 /// Draws from a stream of its own, the same for the same seed.
 class Draw {
@@ -87,9 +32,9 @@ private:
     std::mt19937_64 engine_;
 };
 
-struct RandomCase {
-    ProjectText Project{1, 1, 1, 1};
-    RunSettings Settings{};
+struct RandomProject {
+    ProjectText Text{1, 1, 1, 1};
+    RunOptions Options{};  ///< levels and answers
 };
 
 inline std::string randomName(Draw& draw) {
@@ -150,7 +95,7 @@ inline std::string randomUse(Draw& draw, std::size_t species, std::size_t units)
 }
 
 /// A project that passes the gates, mostly of several passes.
-inline RandomCase randomCase(std::uint64_t seed) {
+inline RandomProject randomProject(std::uint64_t seed) {
     using Pool = std::vector<std::string>;
     Draw draw(seed);
     const std::size_t species = 1 + draw.below(12);
@@ -158,8 +103,8 @@ inline RandomCase randomCase(std::uint64_t seed) {
     const std::size_t zones = 1 + draw.below(6);
     const std::size_t threats = 1 + draw.below(6);
     const auto number = [](std::size_t count) { return static_cast<int>(count); };
-    RandomCase random{ProjectText(number(species), number(habitats), number(zones), number(threats))};
-    ProjectText& project = random.Project;
+    RandomProject random{ProjectText(number(species), number(habitats), number(zones), number(threats))};
+    ProjectText& project = random.Text;
     project.set("Common Name", randomNames(draw, species));
     project.set("Habitat Type", randomNames(draw, habitats));
     project.set("Jurisdictional Unit", randomNames(draw, zones));
@@ -191,12 +136,10 @@ inline RandomCase randomCase(std::uint64_t seed) {
     for (int c = 1; c <= 5; ++c)
         project.set("Socio-Econ" + std::to_string(c), draw.list({"0", "1", "2"}, species));
 
-    random.Settings.Margin = draw.of(Pool{"0", "1", "5", "12.5", "20", "35", "60", "100"});
-    random.Settings.ThreatRepresentation = draw.of(Pool{"0", "0.25", "0.5", "0.75", "0.9", "1"});
-    random.Settings.ConservationStatus = draw.of(Pool{"1", "1", "1", "0.9", "0.5"});
+    random.Options.ErrorMargin = draw.of(Pool{"0", "1", "5", "12.5", "20", "35", "60", "100"});
+    random.Options.ThreatRepresentation = draw.of(Pool{"0", "0.25", "0.5", "0.75", "0.9", "1"});
+    random.Options.ConservationStatus = draw.of(Pool{"1", "1", "1", "0.9", "0.5"});
     const Pool answers = {"a", "b", "c", "d", "e", "e", "e", "1", "2", "3", "4", "x", ""};
-    for (std::size_t i = draw.below(16); i > 0; --i) random.Settings.Answers.push_back(draw.of(answers));
+    for (std::size_t i = draw.below(16); i > 0; --i) random.Options.Answers.push_back(draw.of(answers));
     return random;
 }
-
-}  // namespace exported

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "insight/cover/cover_index.h"
+#include "insight/cover/minimum.h"
 
 /// Runs that are made for the tests of the searches: habitats alone, a species either represents one or does not.
 struct CoverCase {
@@ -60,6 +60,32 @@ struct LoadedCase {
     insight::CoverIndex Index;
 };
 
+/// A case with its minimum, and what is left of the effort.
+struct SearchedCase : LoadedCase {
+    template <class Made>
+    explicit SearchedCase(const Made& made, insight::SearchEffort effort = {})
+        : LoadedCase(made),
+          Effort(std::move(effort)),
+          Budget(Effort),
+          Suite(insight::runSuite(Run, Index)),
+          Minimum(insight::findMinimum(Index, Suite, Budget)) {}
+
+    insight::SearchEffort Effort;
+    insight::SearchBudget Budget;
+    insight::RunSuite Suite;
+    insight::MinimumAnswer Minimum;
+};
+
+/// Pairs of species of which each pair has a unit of its own: two to the power of `pairs` suites.
+inline CoverCase pairedCase(std::size_t pairs) {
+    CoverCase made;
+    for (std::size_t s = 0; s < 2 * pairs; ++s) {
+        made.Uses.emplace_back(pairs);
+        made.Uses.back()[s / 2] = 1;
+    }
+    return made;
+}
+
 /// A random case: few and many species, thin and thick, with and without equal species and equal aggregates, and a
 /// suite that covers all, or some.
 inline CoverCase randomCase(std::mt19937& random, std::size_t mostSpecies, std::size_t mostUnits) {
@@ -91,4 +117,12 @@ inline CoverCase randomCase(std::mt19937& random, std::size_t mostSpecies, std::
         if (adds) made.Picks.push_back(s);
     }
     return made;
+}
+
+/// A random case of 50 to 60 species and units.
+inline CoverCase wideCase(std::mt19937& random) {
+    while (true) {
+        CoverCase made = randomCase(random, 60, 60);
+        if (made.Uses.size() >= 50 && made.Uses.front().size() >= 50) return made;
+    }
 }

@@ -15,14 +15,11 @@ using testing::IsSupersetOf;
 
 namespace {
 
-struct Explained : LoadedCase {
+struct Explained : SearchedCase {
     explicit Explained(const RunOptions& options)
-        : LoadedCase(selected(options)), Suite(runSuite(Run, Index)) {
-        SearchBudget budget(Effort);
-        Minimum = findMinimum(Index, Suite, budget);
-        List = findSuites(Index, Minimum, 0, 1000, budget);
-        Roles = findRoles(Index, Minimum, budget);
-    }
+        : SearchedCase(selected(options)),
+          List(findSuites(Index, Minimum, 0, 1000, Budget)),
+          Roles(findRoles(Index, Minimum, Budget)) {}
     std::string minimum() const { return tabSeparated(minimumTable(Run, Index, Suite, Minimum)); }
     std::vector<std::string> inAll() const {
         Rows rows;
@@ -33,9 +30,6 @@ struct Explained : LoadedCase {
     }
     double bestTotal() const { return totalOf(totalOf(Index, List.Suites.front())); }
 
-    SearchEffort Effort;
-    RunSuite Suite;
-    MinimumAnswer Minimum;
     SuiteList List;
     std::vector<SpeciesRole> Roles;
 };

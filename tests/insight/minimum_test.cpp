@@ -15,13 +15,8 @@ using namespace insight;
 
 namespace {
 
-struct Solved : LoadedCase {
-    template <class Made>
-    explicit Solved(const Made& made, const SearchEffort& effort = {})
-        : LoadedCase(made), Suite(runSuite(Run, Index)) {
-        SearchBudget budget(effort);
-        Minimum = findMinimum(Index, Suite, budget);
-    }
+struct Solved : SearchedCase {
+    using SearchedCase::SearchedCase;
     ResultTable table() const { return minimumTable(Run, Index, Suite, Minimum); }
     Cell cell(const std::string& measure) const {
         for (const auto& row : table().Rows) {
@@ -44,9 +39,6 @@ struct Solved : LoadedCase {
         }
         return covers;
     }
-
-    RunSuite Suite;
-    MinimumAnswer Minimum;
 };
 
 /// What a printed proof proves.
@@ -125,13 +117,9 @@ TEST(Minimum, WeightsProveWhatNoWitnessCan) {
 }
 
 TEST(Minimum, ManySuitesOfOneTotalStillGiveTheFirst) {
-    // Sixteen pairs of which each has a unit: 65536 suites with the same total.
-    CoverCase made;
-    for (std::size_t s = 0; s < 32; ++s) {
-        made.Uses.emplace_back(17);
-        made.Uses.back()[s / 2] = 1;
-    }
-    for (const std::size_t s : {1U, 3U, 5U}) made.Uses[s][16] = 1;
+    // 65536 suites with the same total.
+    CoverCase made = pairedCase(16);
+    for (std::size_t s = 0; s < 32; ++s) made.Uses[s].push_back(s == 1 || s == 3 || s == 5 ? 1 : 0);
     const Solved solved(made);
     std::vector<std::string> names;
     for (std::size_t s = 0; s < 32; s += 2) names.push_back("S" + std::to_string(s + 1));
@@ -188,9 +176,7 @@ TEST(Minimum, TellsHowFarItIsSomeTimesASecond) {
 TEST(Minimum, IsStoppedFromOutside) {
     std::mt19937 random(3);
     const std::atomic<bool> stop = true;
-    CoverCase made = randomCase(random, 60, 60);
-    while (made.Uses.size() < 50 || made.Uses.front().size() < 50) made = randomCase(random, 60, 60);
-    const Solved solved(made, {.Stop = &stop});
+    const Solved solved(wideCase(random), {.Stop = &stop});
     EXPECT_FALSE(solved.Minimum.isProven());
     EXPECT_TRUE(coversAll(solved.Index, solved.Minimum.Known.Suite));
 }

@@ -10,17 +10,11 @@ using namespace insight;
 
 namespace {
 
-struct Described : LoadedCase {
+struct Described : SearchedCase {
     explicit Described(const CoverCase& made, const SearchEffort& effort = {})
-        : LoadedCase(made), Suite(runSuite(Run, Index)) {
-        SearchBudget budget(effort);
-        Minimum = findMinimum(Index, Suite, budget);
-        Roles = findRoles(Index, Minimum, budget);
-    }
+        : SearchedCase(made, effort), Roles(findRoles(Index, Minimum, Budget)) {}
     std::string table() const { return tabSeparated(speciesTable(Run, Index, Suite, Roles)); }
 
-    RunSuite Suite;
-    MinimumAnswer Minimum;
     std::vector<SpeciesRole> Roles;
 };
 
@@ -66,10 +60,10 @@ TEST(Species, HaveTheRolesThatAllSetsOfSpeciesGive) {
 }
 
 TEST(Species, AreProvenOneByOneWhereSuitesAreTooManyToCount) {
-    // Seventeen pairs of which each has a unit; S35 alone covers one, S36 and S37 share one, S38 has nothing of its own.
-    CoverCase made;
-    for (std::size_t s = 0; s < 38; ++s) made.Uses.emplace_back(20);
-    for (std::size_t s = 0; s < 34; ++s) made.Uses[s][s / 2] = 1;
+    // Beside seventeen pairs S35 alone covers a unit, S36 two that S37 and S38 cover one by one.
+    CoverCase made = pairedCase(17);
+    made.Uses.resize(38);
+    for (auto& uses : made.Uses) uses.resize(20);
     made.Uses[34][17] = 1;
     made.Uses[35][18] = made.Uses[35][19] = 1;
     made.Uses[36][18] = 1;

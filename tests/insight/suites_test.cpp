@@ -11,16 +11,11 @@ using namespace insight;
 
 namespace {
 
-struct Listed : LoadedCase {
+struct Listed : SearchedCase {
     Listed(const CoverCase& made, std::size_t within, std::size_t limit, const SearchEffort& effort = {})
-        : LoadedCase(made) {
-        SearchBudget budget(effort);
-        Minimum = findMinimum(Index, runSuite(Run, Index), budget);
-        List = findSuites(Index, Minimum, within, limit, budget);
-    }
+        : SearchedCase(made, effort), List(findSuites(Index, Minimum, within, limit, Budget)) {}
     std::string table() const { return tabSeparated(suiteTable(Run, Index, List)); }
 
-    MinimumAnswer Minimum;
     SuiteList List;
 };
 
@@ -56,14 +51,10 @@ TEST(Suites, BeyondTheLimitTheFirstIsStillTheBest) {
 }
 
 TEST(Suites, AreCountedUpToAHundredThousand) {
-    // Pairs of which each has a unit: 2^16 and 2^17 suites.
     for (const std::size_t pairs : {16U, 17U}) {
-        CoverCase made;
-        for (std::size_t s = 0; s < 2 * pairs; ++s) {
-            made.Uses.emplace_back(pairs);
-            made.Uses.back()[s / 2] = 1;
-            made.Aggregates.push_back(s == 9 ? 2 : 1);
-        }
+        CoverCase made = pairedCase(pairs);
+        made.Aggregates.assign(2 * pairs, 1);
+        made.Aggregates[9] = 2;
         const Listed listed(made, 0, 10);
         EXPECT_EQ(listed.List.IsExact, pairs == 16);
         EXPECT_EQ(listed.List.Count, pairs == 16 ? 65536U : 100'000U);
@@ -86,9 +77,7 @@ TEST(Suites, NothingToCoverHasOneSuiteWithNoSpecies) {
 
 TEST(Suites, WithoutAProvenMinimumTheListIsNotComplete) {
     std::mt19937 random(11);
-    CoverCase made = randomCase(random, 60, 60);
-    while (made.Uses.size() < 50 || made.Uses.front().size() < 50) made = randomCase(random, 60, 60);
-    const Listed listed(made, 0, 10, {.Nodes = 5});
+    const Listed listed(wideCase(random), 0, 10, {.Nodes = 5});
     EXPECT_FALSE(listed.List.isComplete());
     EXPECT_EQ(listed.List.Suites.size(), 1U);
 }

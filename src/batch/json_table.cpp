@@ -37,6 +37,12 @@ std::string dumped(const Json& object) {
     return object.dump(-1, ' ', false, Json::error_handler_t::replace) + "\n";
 }
 
+Json jsonOf(const method::Levels& levels) {
+    return {{"margin", levels.Margin},
+            {"threat_representation", levels.ThreatRepresentation},
+            {"conservation_status", levels.ConservationStatus}};
+}
+
 void addAnswer(Json& object, const Answer& answer) {
     for (const auto& [name, value] : answer.Facts) object[name] = value;
     object["rows"] = Json::array();
@@ -45,8 +51,9 @@ void addAnswer(Json& object, const Answer& answer) {
 
 }  // namespace
 
-std::string jsonText(const Answer& answer) {
-    Json object = Json::object();
+std::string jsonText(const method::Levels& levels, const Answer& answer) {
+    Json object;
+    object["levels"] = jsonOf(levels);
     addAnswer(object, answer);
     return dumped(object);
 }
@@ -54,9 +61,7 @@ std::string jsonText(const Answer& answer) {
 std::string jsonText(const TableOrigin& origin, const Answer& answer) {
     Json object;
     object["project"] = origin.Project;
-    object["levels"] = {{"margin", origin.Levels.Margin},
-                        {"threat_representation", origin.Levels.ThreatRepresentation},
-                        {"conservation_status", origin.Levels.ConservationStatus}};
+    object["levels"] = jsonOf(origin.Levels);
     object["exit"] = static_cast<int>(origin.Exit);
     addAnswer(object, answer);
     return dumped(object);

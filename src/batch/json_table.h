@@ -16,5 +16,5 @@ struct TableOrigin {
 /// One JSON object on one line: the origin, the facts, and the rows with the headings as keys. Numbers are numbers, lists
 /// arrays, yes and no booleans; an empty cell is null. Bytes that are no UTF-8 are replaced.
 std::string jsonText(const TableOrigin& origin, const Answer& answer);
-/// The same without an origin.
-std::string jsonText(const Answer& answer);
+/// The same of a table that is not of one run.
+std::string jsonText(const method::Levels& levels, const Answer& answer);

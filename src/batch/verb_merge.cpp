@@ -42,7 +42,8 @@ int answerMerge(const VerbCall& call) {
         std::vector<insight::ShardCounts> shards;
         for (const std::string& file : files) shards.push_back(readShard(file));
         const Answer answer{sweepTable(shards.front().Names, mergedCounts(shards))};
-        call.Out << (commandLine.Json ? jsonText(answer) : insight::tabSeparated(answer.Table));
+        call.Out << (commandLine.Json ? jsonText(shards.front().Levels, answer)
+                                      : insight::tabSeparated(answer.Table));
         return ExitDone;
     } catch (const insight::CountsFault& fault) {
         throw UnreadableFault{fault.what()};

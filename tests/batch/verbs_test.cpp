@@ -102,7 +102,8 @@ class SweepVerb : public Verbs {
 protected:
     std::string counts(const std::string& name) const { return folder.file(name); }
     int sweep(std::vector<std::string> arguments) {
-        arguments.insert(arguments.begin(), {"--vary", "levels,answers,grades", "--runs", "30"});
+        arguments.insert(arguments.begin(),
+                         {"--vary", "levels,answers,grades", "--runs", "30", "--error-margin", "7"});
         return ask("sweep", withQuestion(), arguments);
     }
     int merge(const std::vector<std::string>& files) {
@@ -141,8 +142,13 @@ TEST_F(SweepVerb, IsPutTogetherFromShardsInAnyOrder) {
     EXPECT_EQ(merge({counts("b"), counts("a")}), ExitDone);
     EXPECT_EQ(out.str(), whole);
     EXPECT_EQ(merge({"--json", counts("b"), counts("a")}), ExitDone);
-    EXPECT_EQ(nlohmann::json::parse(out.str())["rows"].size(),
-              static_cast<std::size_t>(std::count(whole.begin(), whole.end(), '\n')) - 1);
+    const nlohmann::json merged = nlohmann::json::parse(out.str());
+    out.str("");
+    sweep({"--json"});
+    const nlohmann::json swept = nlohmann::json::parse(out.str());
+    EXPECT_EQ(merged["levels"]["margin"], 7);
+    EXPECT_EQ(merged["levels"], swept["levels"]);
+    EXPECT_EQ(merged["rows"], swept["rows"]);
 }
 
 TEST_F(SweepVerb, NamesAShardThatDoesNotBelong) {

@@ -151,6 +151,7 @@ TEST(ACountsFile, SaysWhereItIsDamaged) {
     EXPECT_EQ(readFault(with(text, "seed\t7\n", "")), "x:10: 'seed' is expected here");
     EXPECT_EQ(readFault(with(text, "seed\t7", "seed\t7\t8")), "x:10: 'seed' has 2 values, not 1");
     EXPECT_EQ(readFault(with(text, "seed\t7", "seed")), "x:10: 'seed' has 0 values, not 1");
+    EXPECT_EQ(readFault(with(text, "margin\t5", "margin\t5 %")), "x:4: '5 %' is no number");
     EXPECT_EQ(readFault(with(text, "done\t17", "done\t18")), "x:16: '18' is no whole number from 0 to 17");
     EXPECT_EQ(readFault(with(text, "done\t17", "done\t1.5")), "x:16: '1.5' is no whole number from 0 to 17");
     EXPECT_EQ(readFault(with(text, "shard\t2", "shard\t4")), "x:15: '4' is no whole number from 1 to 3");

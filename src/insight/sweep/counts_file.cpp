@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cmath>
 #include <optional>
 
 #include "insight/names.h"
@@ -31,6 +32,11 @@ constexpr std::array IdentityKeys = {"program",
                                      "zeros",
                                      "quality",
                                      "shards"};
+
+constexpr std::pair<std::string_view, double method::Levels::*> LevelKeys[] = {
+    {"margin", &method::Levels::Margin},
+    {"threat_representation", &method::Levels::ThreatRepresentation},
+    {"conservation_status", &method::Levels::ConservationStatus}};
 
 /// FNV-1a in 64 bits (Fowler, Noll and Vo 1991), as 16 hexadecimal digits. It finds damage, not forgery.
 std::string checksumOf(std::string_view text) {
@@ -112,10 +118,7 @@ public:
         for (const std::string& field : fields) text_ += '\t' + escaped(field);
         text_ += '\n';
     }
-    std::string ended() {
-        line("end", {checksumOf(text_)});
-        return std::move(text_);
-    }
+    std::string ended() { return withChecksum(std::move(text_)); }
 
 private:
     std::string text_;
@@ -188,6 +191,13 @@ private:
         }
         return value;
     }
+    double number(const std::string& field) const {
+        double value = 0;
+        const auto [end, error] = std::from_chars(field.data(), field.data() + field.size(), value);
+        if (error != std::errc() || end != field.data() + field.size() || !std::isfinite(value))
+            fail("'" + field + "' is no number");
+        return value;
+    }
     /// How many of the runs that were done.
     Count runs(const std::string& field) const { return count(field, 0, shard_.Counts.Runs); }
 
@@ -204,6 +214,9 @@ private:
         constexpr std::string_view Runs = "runs";
         constexpr std::string_view Shards = "shards";
         const std::string value = line(key, 1)[0];
+        for (const auto& [name, level] : LevelKeys) {
+            if (key == name) shard_.Levels.*level = number(value);
+        }
         if (key == Runs) shard_.Runs = count(value, 0, MostRuns);
         if (key == Shards) shard_.Part.Of = static_cast<std::uint32_t>(count(value, 1, UINT32_MAX));
         shard_.Identity.emplace_back(key, value);
@@ -287,6 +300,8 @@ std::string countsText(const SweepIdentity& identity, const Shard& part, const S
     }
     return writer.ended();
 }
+
+std::string withChecksum(std::string lines) { return lines + "end\t" + checksumOf(lines) + '\n'; }
 
 ShardCounts readCounts(const std::string& file, std::string_view text) {
     return CountsReader(file, text).read();

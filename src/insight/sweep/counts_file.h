@@ -31,6 +31,7 @@ SweepIdentity identityOf(const SweepOrigin& origin, const method::Levels& levels
 struct ShardCounts {
     std::string File;  ///< where they come from, for messages
     SweepIdentity Identity;
+    method::Levels Levels;   ///< of the identity
     std::uint64_t Runs = 0;  ///< of all shards together
     Shard Part;
     SweepNames Names;
@@ -40,6 +41,9 @@ struct ShardCounts {
 /// REQUIRES: counts of `names`
 std::string countsText(const SweepIdentity& identity, const Shard& part, const SweepNames& names,
                        const SweepCounts& counts);
+
+/// The lines of a file with the last one, which holds their checksum.
+std::string withChecksum(std::string lines);
 
 /// A text that holds no counts; says the file, the line and why.
 struct CountsFault : std::runtime_error {

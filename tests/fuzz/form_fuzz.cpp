@@ -16,10 +16,6 @@ namespace {
 constexpr std::size_t MostBytes = 2048;
 constexpr int MostDeeds = 150;
 
-void require(bool holds, const std::string& fault) {
-    if (!holds) throw Undescribed(fault);
-}
-
 /// Each choice of the walk is made by the next bytes.
 void walk(std::string_view bytes) {
     Walker walker(bytes);

@@ -23,6 +23,10 @@ struct Undescribed : std::logic_error {
     using std::logic_error::logic_error;
 };
 
+inline void require(bool holds, const std::string& fault) {
+    if (!holds) throw Undescribed(fault);
+}
+
 /// Longest time that a session may take, in seconds of the processor.
 inline constexpr double SessionSeconds = 2;
 

@@ -5,16 +5,21 @@
 # For the tests' CMakeLists.txt, after brenica_test_support.
 set(fuzz ${CMAKE_CURRENT_LIST_DIR})
 
-add_executable(brenica_fuzz_replay
-    ${fuzz}/replay_main.cpp ${fuzz}/project_reader_fuzz.cpp ${fuzz}/fuzz_session.cpp)
-target_include_directories(brenica_fuzz_replay PRIVATE ${fuzz})
-target_link_libraries(brenica_fuzz_replay PRIVATE brenica_scripted)
-add_test(NAME fuzz_corpus COMMAND brenica_fuzz_replay ${fuzz}/corpus)
+# The target `name` over the files of a folder.
+function(brenica_add_replay name corpus)
+    add_executable(brenica_${name}_replay ${fuzz}/replay_main.cpp)
+    foreach(source ${ARGN})
+        target_sources(brenica_${name}_replay PRIVATE ${fuzz}/${source})
+    endforeach()
+    target_include_directories(brenica_${name}_replay PRIVATE ${fuzz})
+    target_link_libraries(brenica_${name}_replay PRIVATE brenica_test_support brenica_batch_run)
+    add_test(NAME fuzz_${corpus} COMMAND brenica_${name}_replay ${fuzz}/${corpus})
+endfunction()
 
-add_executable(brenica_form_fuzz_replay ${fuzz}/replay_main.cpp ${fuzz}/form_fuzz.cpp)
-target_include_directories(brenica_form_fuzz_replay PRIVATE ${fuzz})
-target_link_libraries(brenica_form_fuzz_replay PRIVATE brenica_test_support brenica_batch_run)
-add_test(NAME fuzz_form_corpus COMMAND brenica_form_fuzz_replay ${fuzz}/form_corpus)
+brenica_add_replay(fuzz corpus project_reader_fuzz.cpp fuzz_session.cpp)
+brenica_add_replay(form_fuzz form_corpus form_fuzz.cpp)
+brenica_add_replay(counts_fuzz counts_corpus counts_reader_fuzz.cpp)
+brenica_add_replay(results_fuzz results_corpus results_reader_fuzz.cpp)
 
 add_executable(brenica_mutation_tests ${fuzz}/mutation_test.cpp ${fuzz}/fuzz_session.cpp)
 target_include_directories(brenica_mutation_tests PRIVATE ${fuzz})

@@ -135,3 +135,62 @@ TEST(Species, WhatIsNotProvenIsAnInterval) {
     }
     EXPECT_GT(open, 100);
 }
+
+TEST(Species, AreDecidedWithoutASearchWhereTheyCanBe) {
+    // No search has a single step. S1 alone covers a unit, S2 has nothing beside it, S3 covers less than S4.
+    const Described described(CoverCase{.Uses = {{1, 1, 0, 0, 0, 0},
+                                                 {0, 1, 0, 0, 0, 0},
+                                                 {0, 0, 1, 0, 0, 0},
+                                                 {0, 0, 1, 1, 0, 0},
+                                                 {0, 0, 0, 1, 1, 0},
+                                                 {0, 0, 0, 0, 1, 1},
+                                                 {0, 0, 1, 0, 0, 1}}},
+                              {.Nodes = 0});
+    const auto& roles = described.Roles;
+    EXPECT_EQ(roles[0].Class, SpeciesClass::All);
+    EXPECT_EQ(roles[1].Class, SpeciesClass::None);
+    EXPECT_EQ(roles[1].Cost.Upper, 0U);
+    EXPECT_EQ(roles[2].Class, std::nullopt);
+    EXPECT_EQ(roles[2].Cost.Upper, 0U);
+}
+
+TEST(Species, ThatAnotherOneReplacesCostNothingWhateverIsProven) {
+    std::mt19937 random(13);
+    int replaceable = 0;
+    for (int i = 0; i < 40; ++i) {
+        const Described cut(wideCase(random), {.Nodes = 0});
+        if (cut.Minimum.Known.isProven()) continue;
+        for (std::size_t row = 0; row < cut.Roles.size(); ++row) {
+            for (std::size_t other = 0; other < cut.Roles.size(); ++other) {
+                if (other == row || !isSubset(cut.Index.unitsOf(row), cut.Index.unitsOf(other))) continue;
+                ASSERT_EQ(cut.Roles[row].Cost.Upper, 0U);
+                ++replaceable;
+            }
+        }
+    }
+    EXPECT_GT(replaceable, 20);
+}
+
+TEST(Species, HaveAClassWhereverTheirCostTellsIt) {
+    std::mt19937 random(12);
+    int told = 0;
+    for (int i = 0; i < 20; ++i) {
+        const CoverCase made = wideCase(random);
+        for (const std::uint64_t nodes : {500U, 2000U, 8000U, 16000U}) {
+            const Described cut(made, {.Nodes = nodes});
+            if (!cut.Minimum.Known.isProven()) continue;
+            for (std::size_t row = 0; row < cut.Roles.size(); ++row) {
+                const SpeciesRole& role = cut.Roles[row];
+                const bool isIn = holds(cut.Minimum.Known.Suite, static_cast<std::uint32_t>(row));
+                if (role.Cost.Lower > 0) {
+                    ASSERT_EQ(role.Class, SpeciesClass::All);
+                }
+                if (isIn && role.Cost.Upper == 0U) {
+                    ASSERT_EQ(role.Class, SpeciesClass::Some);
+                }
+                told += isIn && role.Class == SpeciesClass::Some ? 1 : 0;
+            }
+        }
+    }
+    EXPECT_GT(told, 100);
+}

@@ -19,8 +19,13 @@ public:
           budget_(budget),
           search_(index, budget),
           inAll_(index.allSpecies()),
-          inSome_(inAll_.size()) {
+          inSome_(inAll_.size()),
+          surelyCovered_(method::wordsFor(index.units())) {
+        for (std::size_t u = 0; u < index.units(); ++u) {
+            if (index.speciesList(u).size() == 1) add(surelyCovered_, index.unitsOf(index.speciesList(u)[0]));
+        }
         keep(minimum.Known.Suite);
+        keepWithSubstitutes(minimum.Known.Suite);
     }
 
     void keep(const Rows& suite) {
@@ -36,53 +41,70 @@ public:
         if (!isEmpty(role.OnlyFor)) {
             role.Class = SpeciesClass::All;
             role.Cost = {1, std::nullopt};
+        } else if (isSubset(index_.unitsOf(row), surelyCovered_)) {
+            role.Class = SpeciesClass::None;
         } else if (!minimum_.Known.isProven()) {
-            role.Cost = {0, barredUpper(row) - minimum_.Known.Lower};
+            role.Cost.Upper = isReplaceable(row) ? 0 : barredUpper(row) - minimum_.Known.Lower;
+        } else if (has(inAll_, row)) {
+            decideByBarring(row, role);
         } else {
-            role.Class = classOf(row);
-            role.Cost = costOf(row, role.Class);
+            role.Class = classByForcing(row);
         }
     }
 
 private:
     std::size_t size() const { return minimum_.Known.upper(); }
 
-    /// Whether there is a suite of minimal size with, or without, the species; nothing where that is not proven.
-    std::optional<bool> exists(std::uint32_t row, bool with) {
+    void keepWithSubstitutes(const Rows& suite) {
+        for (std::size_t i = 0; i < suite.size(); ++i) {
+            Rows other = suite;
+            for (const std::uint32_t substitute : substitutesOf(index_, suite, suite[i])) {
+                other[i] = substitute;
+                keep(other);
+            }
+        }
+    }
+
+    /// Whether another one covers all that it covers, so that no suite needs it.
+    bool isReplaceable(std::uint32_t row) const {
+        for (std::size_t s = 0; s < index_.species(); ++s) {
+            if (s != row && isSubset(index_.unitsOf(row), index_.unitsOf(s))) return true;
+        }
+        return false;
+    }
+
+    /// Of a species that is in every suite that is known.
+    void decideByBarring(std::uint32_t row, SpeciesRole& role) {
+        const CoverPart part = without(row);
+        const std::size_t lower = size() + (haveAll_ ? 1 : 0);
+        SmallestSuite barred = {lower, smallSuite(index_, part, lower, budget_)};
+        narrow(search_, part, barred, budget_);
+        role.Cost = {barred.Lower - size(), barred.upper() - size()};
+        if (barred.Lower > size()) {
+            role.Class = SpeciesClass::All;
+        } else if (barred.isProven()) {
+            role.Class = SpeciesClass::Some;
+            keep(barred.Suite);
+        }
+    }
+
+    /// Of a species that some suite does without; none where it is not proven.
+    std::optional<SpeciesClass> classByForcing(std::uint32_t row) {
+        if (has(inSome_, row)) return SpeciesClass::Some;
+        if (haveAll_) return SpeciesClass::None;
         CoverQuestion question = {.Part = {index_.allSpecies(), index_.allUnits()},
+                                  .Picked = {row},
                                   .MostPicks = size(),
                                   .Drop = Domination::SameSize};
         drop(question.Part.Species, row);
-        if (with) {
-            question.Picked = {row};
-            remove(question.Part.Units, index_.unitsOf(row));
-        }
+        remove(question.Part.Units, index_.unitsOf(row));
         question.Part = reduced(index_, question.Part, Domination::SameSize);
         const SearchEnd end = search_.run(question, [this](const Rows& suite) {
             keep(suite);
             return false;
         });
         if (end == SearchEnd::Cut) return std::nullopt;
-        return end == SearchEnd::Stopped;
-    }
-
-    std::optional<SpeciesClass> classOf(std::uint32_t row) {
-        if (has(inAll_, row)) {
-            const std::optional<bool> without = haveAll_ ? false : exists(row, false);
-            if (!without) return std::nullopt;
-            return *without ? SpeciesClass::Some : SpeciesClass::All;
-        }
-        const std::optional<bool> with = has(inSome_, row) ? true : haveAll_ ? false : exists(row, true);
-        if (!with) return std::nullopt;
-        return *with ? SpeciesClass::Some : SpeciesClass::None;
-    }
-
-    ReplacementCost costOf(std::uint32_t row, std::optional<SpeciesClass> known) {
-        if (!has(inAll_, row)) return {0, 0};  // a suite that was kept does without it
-        const CoverPart part = without(row);
-        SmallestSuite barred = {size() + (known ? 1 : 0), smallSuite(index_, part, size() + 1, budget_)};
-        narrow(search_, part, barred, budget_);
-        return {barred.Lower - size(), barred.upper() - size()};
+        return end == SearchEnd::Stopped ? SpeciesClass::Some : SpeciesClass::None;
     }
 
     /// The size of a suite that does without the species.
@@ -101,8 +123,9 @@ private:
     const MinimumAnswer& minimum_;
     SearchBudget& budget_;
     CoverSearch search_;
-    BitSet inAll_;   ///< species in all suites of minimal size that are known
-    BitSet inSome_;  ///< in some of them
+    BitSet inAll_;          ///< species in all suites of minimal size that are known
+    BitSet inSome_;         ///< in some of them
+    BitSet surelyCovered_;  ///< units of the species that every suite needs
     bool haveAll_ = false;
 };
 

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Brenica developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <algorithm>
+#include <functional>
 
 #include "batch/search_question.h"
 #include "batch/verbs.h"
@@ -8,14 +9,10 @@
 
 namespace {
 
-bool isOpen(const insight::SpeciesRole& role) {
-    return !role.Class || (role.Cost.Upper && role.Cost.Lower != *role.Cost.Upper);
-}
-
 Answer ask(const SearchedProject& found) {
     const auto roles = findRoles(found.Index, found.Minimum, found.Budget);
     Answer answer{speciesTable(found.Project.Run, found.Index, found.Suite, roles)};
-    if (std::any_of(roles.begin(), roles.end(), isOpen))
+    if (!std::all_of(roles.begin(), roles.end(), std::mem_fn(&insight::SpeciesRole::isProven)))
         answer.Notes.emplace_back(
             "not all is proven: where that is so the class is empty or the cost an interval");
     return answer;

@@ -16,6 +16,8 @@ enum class SpeciesClass { All, Some, None };
 struct ReplacementCost {
     std::size_t Lower = 0;
     std::optional<std::size_t> Upper = 0;  ///< none: a unit becomes uncoverable
+
+    bool isProven() const { return !Upper || Lower == *Upper; }
 };
 
 struct SpeciesRole {
@@ -24,6 +26,8 @@ struct SpeciesRole {
     ReplacementCost Cost;
     BitSet OnlyFor;     ///< units that no other eligible species covers
     double Rarity = 0;  ///< rarity-weighted richness (Williams et al. 1996) over the eligible species
+
+    bool isProven() const { return Class && Cost.isProven(); }
 };
 
 /// Of each row of the problem. Classes and costs are proven species by species: barred, then forced.

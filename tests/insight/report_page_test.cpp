@@ -1,0 +1,158 @@
+// SPDX-FileCopyrightText: 2026 The Brenica developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <gmock/gmock.h>
+
+#include "cover_project.h"
+#include "insight/report/open_units.h"
+#include "insight/report/report.h"
+#include "selected_run.h"
+#include "selection/margin_answers.h"
+
+using namespace insight;
+using testing::HasSubstr;
+using testing::Not;
+
+namespace {
+
+constexpr const char* Hash = "0123456789abcdef";
+
+std::string pageOf(const SelectionRun& run, const ReportOrigin& origin,
+                   const ReportWork& work = {.Threads = 2}) {
+    return reportPage(ReportFindings(run, {}, work), origin);
+}
+std::string pageOf(const SelectionRun& run) { return pageOf(run, {"p.brn", Hash, "1.2"}); }
+std::string pageOf(const ProjectText& project, const RunOptions& options = {}, const ReportWork& work = {}) {
+    const TemporaryFolder folder;
+    return pageOf(exportedRun(project, options, folder).Run.value(), {"p.brn", Hash, "1.2"}, work);
+}
+
+std::size_t count(const std::string& page, const std::string& what) {
+    std::size_t found = 0;
+    for (std::size_t at = page.find(what); at != std::string::npos; at = page.find(what, at + 1)) ++found;
+    return found;
+}
+
+}  // namespace
+
+TEST(ReportPage, StandsAlone) {
+    const std::string page = pageOf(selected(fullLandscape()));
+    EXPECT_TRUE(page.starts_with("<!DOCTYPE html>\n<html lang=\"en\">"));
+    EXPECT_THAT(page, HasSubstr("content=\"default-src 'none'; style-src 'unsafe-inline'\""));
+    EXPECT_THAT(page, Not(HasSubstr("<script")));
+    EXPECT_THAT(page, Not(HasSubstr("url(")));
+    EXPECT_EQ(count(page, "://"), count(page, "xmlns=\"http://www.w3.org/2000/svg\""));
+    EXPECT_EQ(count(page, "href=\""), count(page, "href=\"#"));
+}
+
+TEST(ReportPage, IsTheSameEachTime) {
+    const SelectionRun run = selected(fullLandscape());
+    const ReportOrigin origin{"p.brn", Hash, "1.2"};
+    EXPECT_EQ(pageOf(run, origin, {.Nodes = 500, .Threads = 1}),
+              pageOf(run, origin, {.Nodes = 500, .Threads = 3}));
+}
+
+TEST(ReportPage, TellsWhereItComesFrom) {
+    const SelectionRun run = selected(fullLandscape());
+    ReportOrigin origin{"p.brn", Hash, "1.2", {"b", "d", "b", "2"}, {.Nodes = 5000}};
+    const std::string page = pageOf(run, origin);
+    EXPECT_THAT(page, HasSubstr("<title>p: the suite explained</title>"));
+    EXPECT_THAT(
+        page,
+        HasSubstr("Brenica, version 1.2. Report on <bdi>p.brn</bdi> (SHA-256 0123456789abcdef) at margin of "
+                  "error 6 %, threat representation 0.4, conservation status 0.8."));
+    EXPECT_THAT(page,
+                HasSubstr("“<bdi>b</bdi>”, “<bdi>d</bdi>”, “<bdi>b</bdi>”, “<bdi>2</bdi>”, in this order"));
+    EXPECT_THAT(page, HasSubstr("at most 5,000 steps"));
+    EXPECT_THAT(page, HasSubstr("2,500 runs each; seed 1; p 0.1"));
+    origin.Hash = "";
+    EXPECT_THAT(pageOf(run, origin), HasSubstr("none: the project was read from a pipe or device"));
+}
+
+TEST(ReportPage, EscapesNames) {
+    SelectionRun run = selected(smallLandscape());
+    run.Species[1] = "<script>alert(\"1\")</script> & co";
+    run.Units[method::Unit::Habitat][0] = "\u05D9\u05E2\u05E8 <b>";
+    const std::string page = pageOf(run);
+    EXPECT_THAT(page, HasSubstr("<bdi>&lt;script&gt;alert(&quot;1&quot;)&lt;/script&gt; &amp; co</bdi>"));
+    EXPECT_THAT(page, HasSubstr("<bdi>\u05D9\u05E2\u05E8 &lt;b&gt;</bdi>"));
+    EXPECT_THAT(page, Not(HasSubstr("<script")));
+}
+
+TEST(ReportPage, StaysSmallWhereANameIsNot) {
+    SelectionRun run = selected(smallLandscape());
+    for (std::string& name : run.Species) name += std::string(2'000'000, 'x');
+    EXPECT_LT(pageOf(run).size(), 300'000U);
+}
+
+TEST(ReportPage, IsMadeForProjectsWhereNothingCanBeSaid) {
+    RunOptions options;
+    options.ConservationStatus = "0.1";
+    EXPECT_THAT(pageOf(twoSpecies().set("Conservation Status", "0.5,0.6"), options),
+                HasSubstr("The run selected no species."));
+    options.ConservationStatus = "0.8";
+    EXPECT_THAT(pageOf(nothingToCover(), options),
+                HasSubstr("Nothing can be covered: the empty suite is the smallest."));
+    EXPECT_THAT(pageOf(twoSpecies().set("HeteroHabitat Population", "2,1,1,1")),
+                HasSubstr("ended in an error"));
+    EXPECT_THAT(pageOf(ProjectText(1, 1, 1, 1)), HasSubstr("smaller suite"));
+    EXPECT_THAT(pageOf(coverProject({{1, 1}, {1, 1}})), HasSubstr("no smaller suite exists"));
+    EXPECT_THAT(pageOf(twoSpecies().set("Habitat UseLevel", "0,0").set("MZone UseLevel", "0")),
+                HasSubstr("no smaller suite exists"));
+}
+
+TEST(ReportPage, ProvesWhatItSays) {
+    EXPECT_THAT(pageOf(selected(fullLandscape())), HasSubstr("Together they weigh 41, "));
+    EXPECT_THAT(pageOf(selected(smallLandscape())),
+                HasSubstr("No eligible species covers two of the units below"));
+    EXPECT_THAT(pageOf(twoRings()),
+                HasSubstr("Every suite of fewer than six species was ruled out by a search"));
+}
+
+TEST(ReportPage, NamesTheLevelsThatLeaveLeast) {
+    EXPECT_THAT(
+        pageOf(selected(fullLandscape())),
+        HasSubstr(
+            "Of the 110 pairs 10 leave no unit uncovered; the smallest suite of these has eight species, "
+            "at threat representation 0.3 and conservation status 1."));
+    EXPECT_THAT(pageOf(twoSpecies().set("HeteroHabitat Population", "2,1,1,1")),
+                HasSubstr(" leave one unit uncovered, none fewer;"));
+}
+
+TEST(ReportPage, TellsOfWorkThatWasStopped) {
+    const std::atomic<bool> stop = true;
+    const std::string page = pageOf(twoRings(), {}, {.Stop = &stop});
+    EXPECT_THAT(page, HasSubstr("The work was stopped before its end"));
+    EXPECT_THAT(page, HasSubstr("It was stopped after 0 runs."));
+    EXPECT_THAT(page, HasSubstr("Not all is proven"));
+    EXPECT_THAT(page, HasSubstr("The search ended before the size was settled: it lies between "));
+    EXPECT_THAT(page, Not(HasSubstr("no smaller suite exists")));
+}
+
+TEST(ReportFindings, TellHowFarTheyCame) {
+    const SelectionRun run = selected(fullLandscape());
+    std::vector<std::string> told;
+    const ReportFindings findings(run, {},
+                                  {.Progress = [&](const std::string& text) { told.push_back(text); }});
+    EXPECT_THAT(told, testing::Contains(HasSubstr(" of 2500 runs with other grades")));
+    EXPECT_FALSE(findings.Stopped);
+}
+
+TEST(OpenUnits, SayWhatWouldHelp) {
+    const SelectionRun run = selected(fullLandscape());
+    const std::string table = tabSeparated(openUnitTable(ReportFindings(run, {}, {})));
+    EXPECT_THAT(
+        table,
+        HasSubstr(
+            "Farm mosaic\tuncoverable\t0\t3\t2\tOnly excluded species reach it: Crab-eating "
+            "Fox.\t\tA conservation status level of 0.95 would admit Crab-eating Fox. A needed level of 2 "
+            "would be reached.\n"));
+    EXPECT_THAT(table, HasSubstr("A threat representation of 0.33 would be reached.\n"));
+}
+
+TEST(OpenUnits, FindTheHighestRepresentationThatIsReached) {
+    EXPECT_EQ(representationFor(10.8, 32.4), 0.33);
+    EXPECT_EQ(representationFor(16.2, 32.4), 0.5);
+    EXPECT_EQ(representationFor(0.1, 32.4), std::nullopt) << "less than a hundredth";
+    EXPECT_EQ(representationFor(0, 32.4), std::nullopt);
+    EXPECT_EQ(representationFor(0, 0), std::nullopt);
+}

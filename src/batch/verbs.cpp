@@ -19,7 +19,8 @@ constexpr std::array Verbs = {
     Verb{"sweep", "Selects many times with other levels, answers and grades and counts the suites.",
          answerSweep},
     Verb{"merge", "Puts the shards of a sweep together.", answerMerge},
-    Verb{"verify", "Checks whether an exported results file follows from a project.", answerVerify}};
+    Verb{"verify", "Checks whether an exported results file follows from a project.", answerVerify},
+    Verb{"report", "Explains a suite on one page to read, print and pass on.", answerReport}};
 
 }  // namespace
 

@@ -12,3 +12,4 @@ int answerSpecies(const VerbCall& call);
 int answerSweep(const VerbCall& call);
 int answerMerge(const VerbCall& call);
 int answerVerify(const VerbCall& call);
+int answerReport(const VerbCall& call);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <nlohmann/json.hpp>
 
+#include "batch/input_file.h"
 #include "batch/verb.h"
 #include "batch_test.h"
 
@@ -296,4 +297,57 @@ TEST_F(SearchVerbs, RefuseWhatIsNoNumber) {
     EXPECT_EQ(ask("suites", needsTwo(), {"--limit", "0"}), ExitWrongUsage);
     EXPECT_EQ(ask("suites", needsTwo(), {"--within", "-1"}), ExitWrongUsage);
     EXPECT_EQ(out.str(), "");
+}
+
+class ReportVerb : public SearchVerbs {
+protected:
+    std::string page() const { return folder.file("page.html"); }
+    int report(const ProjectText& project, std::vector<std::string> arguments = {}) {
+        arguments.insert(arguments.end(), {"--out", page()});
+        return ask("report", project, arguments);
+    }
+};
+
+TEST_F(ReportVerb, WritesAPageAndPrintsItsVerdict) {
+    EXPECT_EQ(report(needsTwo(), {"--error-margin", "0"}), ExitDone);
+    EXPECT_EQ(lines().front(), "verdict");
+    EXPECT_THAT(lines(), testing::Contains("All 5 units (habitats, zones and threats) are covered."));
+    const std::string written = readFile(page());
+    EXPECT_THAT(written, testing::StartsWith("<!DOCTYPE html>"));
+    EXPECT_THAT(written, HasSubstr(lines()[1]));
+    EXPECT_THAT(written, HasSubstr("<bdi>project.brn</bdi>"));
+    EXPECT_THAT(written, HasSubstr(sha256(needsTwo().text())));
+    EXPECT_EQ(namesIn(folder.path()), (std::vector<std::string>{"page.html", "project.brn"}));
+    EXPECT_EQ(readFile(projectPath()), needsTwo().text()) << "the project is left as it is";
+}
+
+TEST_F(ReportVerb, SaysTheSameWithNodesAlone) {
+    ASSERT_EQ(report(needsTwo(), {"--nodes", "100"}), ExitDone);
+    const std::string first = readFile(page());
+    ASSERT_EQ(report(needsTwo(), {"--nodes", "100"}), ExitDone);
+    EXPECT_EQ(readFile(page()), first);
+}
+
+TEST_F(ReportVerb, IsWrittenOfARunThatEndedInTheError) {
+    EXPECT_EQ(report(failing()), ExitDone);
+    EXPECT_THAT(err.str(), HasSubstr("the run ended in an error after 1 species: Type mismatch\n"));
+    EXPECT_THAT(readFile(page()), HasSubstr("ended in an error after one species"));
+}
+
+TEST_F(ReportVerb, LeavesNoPageWhereNothingWasSelected) {
+    EXPECT_EQ(report(oneCoversAll().set("Home ranges", "5,")), ExitNothingToScore);
+    EXPECT_EQ(namesIn(folder.path()), std::vector<std::string>{"project.brn"});
+    EXPECT_EQ(out.str(), "");
+}
+
+TEST_F(ReportVerb, RefusesAPlaceThatIsNoneForAPage) {
+    EXPECT_EQ(ask("report", needsTwo()), ExitWrongUsage) << "no page is named";
+    EXPECT_EQ(ask("report", needsTwo(), {"--out", projectPath()}), ExitWrongUsage);
+    EXPECT_THAT(err.str(), HasSubstr("are one file\n"));
+    EXPECT_EQ(ask("report", needsTwo(), {"--out", "/nowhere/page.html"}), ExitWrongUsage);
+    EXPECT_THAT(err.str(), HasSubstr("brenica-batch: /nowhere/page.html: cannot be written: "));
+    EXPECT_EQ(ask("report", needsTwo(), {"--out", "/dev/full"}), ExitWrongUsage);
+    EXPECT_THAT(err.str(),
+                HasSubstr("brenica-batch: /dev/full: cannot be written: No space left on device\n"));
+    EXPECT_EQ(readFile(projectPath()), needsTwo().text());
 }

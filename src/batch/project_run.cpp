@@ -12,9 +12,11 @@ namespace {
 constexpr int FirstPageOfWalk = 2;
 constexpr int LastPageOfWalk = 7;
 
+/// In one piece: standard error keeps nothing back.
 void printBox(std::ostream& err, const ShownBox& box) {
-    err << box.Title << ": " << withBreaks(box.Text, "\n  ") << '\n';
-    if (box.BoxKind != ShownBox::Kind::Message) err << "  > " << box.Answer << '\n';
+    std::string lines = box.Title + ": " + withBreaks(box.Text, "\n  ") + '\n';
+    if (box.BoxKind != ShownBox::Kind::Message) lines += "  > " + box.Answer + '\n';
+    err << lines;
 }
 
 }  // namespace

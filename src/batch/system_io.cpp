@@ -6,7 +6,6 @@
 #include <sys/mman.h>
 #include <unistd.h>
 
-#include <array>
 #include <cerrno>
 #include <system_error>
 #include <utility>
@@ -46,11 +45,15 @@ void writeAll(int descriptor, std::string_view text) {
 std::string gathered(const std::function<void(const std::string& path)>& write) {
     const Descriptor memory(::memfd_create("brenica-batch", MFD_CLOEXEC));
     write("/proc/self/fd/" + std::to_string(memory.number()));
-    std::string text;
-    std::array<char, 65536> block{};
-    while (const ssize_t count = ::read(memory.number(), block.data(), block.size())) {
+    const off_t size = ::lseek(memory.number(), 0, SEEK_END);
+    if (size < 0) throwSystemError();
+    std::string text(static_cast<std::size_t>(size), '\0');
+    std::size_t got = 0;
+    while (got < text.size()) {
+        const ssize_t count =
+            ::pread(memory.number(), text.data() + got, text.size() - got, static_cast<off_t>(got));
         if (count < 0) throwSystemError();
-        text.append(block.data(), static_cast<std::size_t>(count));
+        got += static_cast<std::size_t>(count);
     }
     return text;
 }

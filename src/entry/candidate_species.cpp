@@ -227,10 +227,8 @@ void frmBrenica::writeSpeciesName(int member, int row, const std::string& name,
         case summary::ThreatsBySpecies: return grid.TextMatrix(firstOfBlock(global_.TotalLandUses), 0, name);
         case summary::SpeciesByThreat:
             if (global_.TotalLandUses == 0) return grid.TextMatrix(row, 1, name);
-            for (int threatNumber = 1; threatNumber <= global_.TotalLandUses; ++threatNumber) {
-                grid.TextMatrix(blockRow(threatNumber, global_.TotalSpecies, row), 1, name);
-            }
-            return;
+            return grid.FillColumn(1, blockRow(1, global_.TotalSpecies, row), global_.TotalSpecies,
+                                   global_.TotalLandUses, name);
         default: return grid.TextMatrix(row, 0, name);
     }
 }

@@ -33,9 +33,8 @@ void frmBrenica::unitName_CellChanged(const ParameterList& list, int row, int co
     const std::string_view shortName = ui::firstCharacters(name, ShortNameLength);
     ui::Grid& levels = flxSummary(list.LongMember);
     if (global_.TotalSpecies < 1) return levels.TextMatrix(row, use::UnitName, shortName);
-    for (int species = 1; species <= global_.TotalSpecies; ++species) {
-        levels.TextMatrix(blockRow(species, global_.*list.Total, row), use::UnitName, shortName);
-    }
+    const int units = global_.*list.Total;
+    levels.FillColumn(use::UnitName, blockRow(1, units, row), units, global_.TotalSpecies, shortName);
 }
 
 /// Name, urgency and probability stand in every species' block of the threat table, in the columns of the list.
@@ -52,8 +51,7 @@ void frmBrenica::flxLandUses_CellChanged(int row, int col) try {
     if (col > list::Probability) return;
     ui::Grid& threats = flxSummary(summary::ThreatsBySpecies);
     if (species == 0) return threats.TextMatrix(row, col, value);
-    for (int s = 1; s <= species; ++s)
-        threats.TextMatrix(blockRow(s, global_.TotalLandUses, row), col, value);
+    threats.FillColumn(col, blockRow(1, global_.TotalLandUses, row), global_.TotalLandUses, species, value);
 } catch (...) {
     ReportError(9999, "Brenica.flxLandUses_CellChanged", "");
 }

@@ -156,10 +156,8 @@ void frmBrenica::growWideTable(const ParameterList& list, int oldRows) {
     if (!list.WideNumbered) return;
     for (int i = 1; i <= total; ++i) grid.TextMatrix(0, i + list.WideOffset, ui::toText(i));
     if (global_.TotalSpecies < 1) return;
-    for (int row = 1; row <= grid.Rows() - 1; ++row) {
-        for (int col = oldRows + list.WideOffset; col <= grid.Cols() - 1; ++col)
-            grid.TextMatrix(row, col, "");
-    }
+    for (int col = oldRows + list.WideOffset; col <= grid.Cols() - 1; ++col)
+        grid.FillColumn(col, 1, 1, grid.Rows() - 1, "");
 }
 
 /// Each species' block grows at its end. A species without units has one row already, the first of its block.
@@ -168,11 +166,8 @@ void frmBrenica::growLongTable(const ParameterList& list, int added, int oldRows
     if (global_.TotalSpecies == 0) return UpdateFlexGrid(grid, added, list.EntryNumbered);
     const int first = oldRows == 1 ? 2 : oldRows;
     grid.ReserveRows(static_cast<long long>(global_.TotalSpecies) * (oldRows + added - first));
-    for (int species = 1; species <= global_.TotalSpecies; ++species) {
-        for (int unit = first; unit <= oldRows + added - 1; ++unit) {
-            grid.AddItem("", blockRow(species, global_.*list.Total, unit));
-        }
-    }
+    for (int species = 1; species <= global_.TotalSpecies; ++species)
+        grid.AddEmptyRows(blockRow(species, global_.*list.Total, first), oldRows + added - first);
 }
 
 /// The table by threat gets a block of species at its end for each new threat.
@@ -180,12 +175,13 @@ void frmBrenica::growThreatTable(int added, int oldRows) {
     ui::Grid& grid = flxSummary(summary::SpeciesByThreat);
     if (global_.TotalSpecies == 0) return UpdateFlexGrid(grid, added, false);
     const int first = oldRows == 1 ? 2 : oldRows;
-    grid.ReserveRows(static_cast<long long>(global_.TotalSpecies) * (oldRows + added - first));
-    for (int threatNumber = first; threatNumber <= oldRows + added - 1; ++threatNumber) {
-        for (int species = 1; species <= global_.TotalSpecies; ++species) {
-            grid.AddItem("");
-            grid.TextMatrix(grid.Rows() - 1, 1, grid.TextMatrix(species, 1));
-        }
+    const int blocks = oldRows + added - first;
+    if (blocks < 1) return;
+    const int firstRow = grid.Rows();
+    grid.ReserveRows(static_cast<long long>(global_.TotalSpecies) * blocks);
+    for (int block = 0; block < blocks; ++block) grid.AddEmptyRows(grid.Rows(), global_.TotalSpecies);
+    for (int species = 1; species <= global_.TotalSpecies; ++species) {
+        grid.FillColumn(1, firstRow + species - 1, global_.TotalSpecies, blocks, grid.TextMatrix(species, 1));
     }
 }
 

@@ -314,7 +314,17 @@ private:
     // project/recalculation.cpp
     void leavePage(int left);
     void enterPage(int entered, int left);
+    /// What the calculated tables are made of: texts, formats and shape of every grid that is read or written.
+    struct TablesState {
+        std::array<std::uint64_t, summary::Count + 1> Revisions{};
+        std::array<int, 4> Totals{};
+        bool UpToDate = false;  ///< nothing waits to be put right first
+
+        bool operator==(const TablesState&) const = default;
+    };
+    TablesState tablesState() const;
     void calculateTables();
+    void showCalculatedTables();
     void updateAreaTotals();
     void updateAreaTotal(const ui::Grid& units, int count, std::vector<double>& areas, double& total,
                          bool& entered);
@@ -389,6 +399,7 @@ private:
 
     // scoring/vulnerability.cpp
     void restoreThreatFactors();
+    void fitThreatScores();
 
     // scoring/scores.cpp
     void emptyScoreTables();
@@ -445,6 +456,8 @@ private:
     std::array<bool, 2> levelsShifted_{};
     /// The last species took urgency and probability along from the rows that those of later species are copied from.
     bool threatFactorsLost_ = false;
+    bool threatScoresIncomplete_ = false;  ///< a step of their calculation failed and was passed over
+    TablesState calculated_;               ///< as the last calculation left it
 
     // What the mouse handlers remember from event to event.
     struct SortMemory {

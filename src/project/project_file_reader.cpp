@@ -19,9 +19,16 @@ void clip(Values& values, const ui::Grid& grid) {
     if (values.size() > rows) values.resize(rows);
 }
 
-template <class Values>
-void fillColumn(ui::Grid& grid, int col, const Values& values) {
-    for (std::size_t i = 0; i < values.size(); ++i) grid.TextMatrix(static_cast<int>(i) + 1, col, values[i]);
+using Block = std::span<const std::string_view>;
+
+/// Values in blocks of `size`, of which the last may be shorter.
+template <class Visit>
+void forEachBlock(Block values, int size, Visit visit) {
+    while (!values.empty()) {
+        const std::size_t count = std::min(values.size(), static_cast<std::size_t>(size));
+        visit(values.first(count));
+        values = values.subspan(count);
+    }
 }
 
 /// A key such as "Function3" is the name and a column; `exception` is a key of its own that holds the name too.
@@ -167,7 +174,7 @@ void ProjectFileReader::readFunctions(const Row&, Values values) {
 void ProjectFileReader::readListColumn(const Row& row, Values values) {
     ui::Grid& grid = form_.*row.List;
     clip(values, grid);
-    fillColumn(grid, row.Column, values);
+    grid.WriteColumn(row.Column, 1, 1, values);
 }
 
 void ProjectFileReader::readAreas(const Row& row, Values values) {
@@ -201,12 +208,17 @@ void ProjectFileReader::readUserBins(const Values& values) {
     form_.rebuildUserBins();
 }
 
-/// Version 1 told only whether a unit is used: unused and 0 become "0", used becomes "2", other levels stay.
-std::string_view ProjectFileReader::levelOfVersion1(std::string_view level) const {
-    if (level.empty()) return "0";
-    const double value = ui::toReal(level, form_.Separator());
-    if (value == 0) return "0";
-    return value == 1 ? DefaultLevelOfUse : level;
+/// Version 1 told only whether a unit is used: unused and 0 become "0", used becomes "2", other levels stay. Gives the
+/// number of levels down to the first that is no number.
+std::size_t ProjectFileReader::convertVersion1Levels(Values& levels) const {
+    for (std::size_t i = 0; i < levels.size(); ++i) {
+        const std::optional<double> value =
+            ui::tryReal(levels[i].empty() ? "0" : levels[i], form_.Separator());
+        if (!value) return i;
+        if (*value == 0) levels[i] = "0";
+        if (*value == 1) levels[i] = DefaultLevelOfUse;
+    }
+    return levels.size();
 }
 
 /// A list of one blank name reads as no list, but its data lines are there: they are passed over.
@@ -215,24 +227,22 @@ void ProjectFileReader::readLevelsOfUse(const Row& row, Values values) {
     ui::Grid& levels = form_.flxSummary(row.Member);
     ui::Grid& table = form_.flxSummary(row.SecondMember);
     clip(values, levels);
-    int species = 1;
-    int unit = 1;
-    for (std::size_t i = 0; i < values.size(); ++i) {
-        const std::string_view level = isVersion1() ? levelOfVersion1(values[i]) : values[i];
-        levels.TextMatrix(static_cast<int>(i) + 1, row.Column, level);
-        if (unit > global_.*row.Units) {
-            unit = 1;
-            ++species;
-        }
-        table.TextMatrix(species, unit, level);
-        ++unit;
-    }
+    const std::size_t readable = isVersion1() ? convertVersion1Levels(values) : values.size();
+    int species = 0;
+    forEachBlock(Block(values).first(readable), global_.*row.Units, [&](Block block) {
+        ++species;
+        // A block that the table has no row for comes as far as its first level.
+        const Block fitting = species < table.Rows() ? block : block.first(1);
+        levels.WriteColumn(row.Column, blockRow(species, global_.*row.Units, 1), 1, fitting);
+        table.WriteRow(species, 1, block);
+    });
+    if (readable < values.size()) ui::toReal(values[readable], form_.Separator());
 }
 
 void ProjectFileReader::readSummaryColumn(const Row& row, Values values) {
     ui::Grid& grid = form_.flxSummary(row.Member);
     clip(values, grid);
-    fillColumn(grid, row.Column, values);
+    grid.WriteColumn(row.Column, 1, 1, values);
 }
 
 /// Passed over without species, too. Older programs write ratings even where there is no activity to rate.
@@ -242,15 +252,12 @@ void ProjectFileReader::readThreatRatings(const Row& row, Values values) {
     ui::Grid& bySpecies = form_.flxSummary(row.Member);
     ui::Grid& byThreat = form_.flxSummary(row.SecondMember);
     clip(values, bySpecies);
-    fillColumn(bySpecies, row.Column, values);
+    bySpecies.WriteColumn(row.Column, 1, 1, values);
     clip(values, byThreat);
-    for (int i = 1; i <= static_cast<int>(values.size()); ++i) {
-        const int remainder = ui::remainderLong(i, threats);
-        const int threatNumber = remainder == 0 ? threats : remainder;
-        const int species = ui::divideLong(i - 1, threats) + 1;
-        byThreat.TextMatrix(blockRow(threatNumber, global_.TotalSpecies, species), row.SecondColumn,
-                            values[static_cast<std::size_t>(i) - 1]);
-    }
+    int species = 0;
+    forEachBlock(values, threats, [&](Block block) {
+        byThreat.WriteColumn(row.SecondColumn, ++species, global_.TotalSpecies, block);
+    });
 }
 
 /// No species is left without a row by a line that is too short, nor given grades before it is there.
@@ -258,7 +265,7 @@ void ProjectFileReader::readNumberedColumn(const Row& row, Values values) {
     ui::Grid& grid = form_.flxSummary(row.Member);
     const int count = std::max(static_cast<int>(values.size()), global_.TotalSpecies);
     if (grid.Rows() - 1 != count) grid.Rows(count + 1);
-    fillColumn(grid, column_, values);
+    grid.WriteColumn(column_, 1, 1, values);
     if (global_.TotalSpecies == 0) grid.Rows(1);
 }
 

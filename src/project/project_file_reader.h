@@ -40,7 +40,7 @@ private:
 
     void readUserBins(const Values& values);
     void fillNames(ui::Grid& grid, const Values& values);
-    std::string_view levelOfVersion1(std::string_view level) const;
+    std::size_t convertVersion1Levels(Values& levels) const;
 
     frmBrenica& form_;
     modGlobal& global_;

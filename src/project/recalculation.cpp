@@ -4,6 +4,7 @@
 #include "entry/modGeneralUtilities.h"
 #include "project/frmBrenica.h"
 #include "project/pages.h"
+#include "scoring/totals_block.h"
 
 /// What a move between pages brings up to date. There is no other occasion: edits only write cells.
 
@@ -63,10 +64,38 @@ void frmBrenica::enterPage(int entered, int left) {
     }
 }
 
+frmBrenica::TablesState frmBrenica::tablesState() const {
+    TablesState state;
+    for (int member = 0; member < summary::Count; ++member)
+        state.Revisions[static_cast<std::size_t>(member)] = flxSummary(member).Revision();
+    state.Revisions.back() = flxLandUses.Revision();
+    state.Totals = {global_.TotalSpecies, global_.TotalHabitatTypes, global_.TotalJurisUnits,
+                    global_.TotalLandUses};
+    state.UpToDate =
+        !levelsShifted_[0] && !levelsShifted_[1] && !threatFactorsLost_ && !threatScoresIncomplete_;
+    return state;
+}
+
 void frmBrenica::calculateTables() {
+    if (calculated_.UpToDate && calculated_ == tablesState()) return showCalculatedTables();
     CalculateHabitatUse();
     CalculateJurisUnitUse();
     CalculateVunerabilityScores();
+    calculated_ = tablesState();
+}
+
+/// What is left of a calculation that would write every cell as it is: it counts as a change of the project, and ends
+/// with the totals selected and the threat scores fitted.
+void frmBrenica::showCalculatedTables() {
+    const std::pair<int, int> unitsOf[] = {{summary::HabitatUse, global_.TotalHabitatTypes},
+                                           {summary::JurisUnitUse, global_.TotalJurisUnits},
+                                           {summary::Vulnerability, global_.TotalLandUses}};
+    for (const auto& [member, units] : unitsOf) {
+        if (global_.TotalSpecies < 1 || units < 1) continue;
+        ProjectChanged = true;
+        selectTotalsRows(flxSummary(member));
+        if (member == summary::Vulnerability) fitThreatScores();
+    }
 }
 
 void frmBrenica::rebuildUserBins() {

@@ -9,51 +9,80 @@
 
 namespace {
 
+double gradeOf(std::string_view text, ui::DecimalSeparator separator) {
+    if (text.size() == 1 && text[0] >= '0' && text[0] <= '9') return text[0] - '0';  // nearly every grade
+    return numberOf(text, separator);
+}
+
+/// The cells of a grid as numbers.
+class Numbers {
+    /// What puts a text's number where `value` points to, and moves on.
+    auto readingInto(std::span<double>::iterator& value) const {
+        return
+            [&value, separator = separator_](std::string_view text) { *value++ = gradeOf(text, separator); };
+    }
+
+public:
+    explicit Numbers(const ui::Grid& table) : table_(table), separator_(table.Form().Separator()) {}
+
+    double at(int row, int col) const {
+        if (row >= table_.Rows() || col >= table_.Cols()) return method::Unreadable;
+        return gradeOf(table_.TextMatrix(row, col), separator_);
+    }
+    /// The cells of a row from column `firstCol` on.
+    void readRow(int row, int firstCol, std::span<double> values) const {
+        auto value = values.begin();
+        table_.ReadRow(row, firstCol, static_cast<int>(values.size()), readingInto(value));
+        std::fill(value, values.end(), method::Unreadable);
+    }
+    /// The cells of a column from row `firstRow` on.
+    void readColumn(int col, int firstRow, std::span<double> values) const {
+        auto value = values.begin();
+        table_.ReadColumn(col, firstRow, static_cast<int>(values.size()), readingInto(value));
+        std::fill(value, values.end(), method::Unreadable);
+    }
+
+private:
+    const ui::Grid& table_;
+    ui::DecimalSeparator separator_;
+};
+
 /// One column of a table of blocks: a row for each species and item.
 method::Table blocksOf(const ui::Grid& table, int col, int species, int items) {
+    const Numbers numbers(table);
     method::Table values(static_cast<std::size_t>(species), static_cast<std::size_t>(items));
-    for (int s = 1; s <= species; ++s) {
-        int item = 0;
-        for (double& value : values.row(static_cast<std::size_t>(s) - 1))
-            value = numberAt(table, blockRow(s, items, ++item), col);
-    }
+    for (int s = 1; s <= species; ++s)
+        numbers.readColumn(col, blockRow(s, items, 1), values.row(landscapeIndex(s)));
     return values;
 }
+
+std::vector<double> zeros(int count) { return std::vector<double>(static_cast<std::size_t>(count)); }
 
 }  // namespace
 
 double numberOf(std::string_view text, ui::DecimalSeparator separator) {
-    if (text.size() == 1 && text[0] >= '0' && text[0] <= '9') return text[0] - '0';  // nearly every grade
     if (ui::isBlank(text)) return method::Blank;
     return ui::tryReal(text, separator).value_or(method::Unreadable);
 }
 
-double numberAt(const ui::Grid& table, int row, int col) {
-    if (row >= table.Rows() || col >= table.Cols()) return method::Unreadable;
-    return numberOf(table.TextMatrix(row, col), table.Form().Separator());
-}
+double numberAt(const ui::Grid& table, int row, int col) { return Numbers(table).at(row, col); }
 
 std::vector<double> rowOf(const ui::Grid& table, int row, int firstCol, int cols) {
-    std::vector<double> values;
-    values.reserve(static_cast<std::size_t>(cols));
-    for (int col = firstCol; col < firstCol + cols; ++col) values.push_back(numberAt(table, row, col));
+    std::vector<double> values = zeros(cols);
+    Numbers(table).readRow(row, firstCol, values);
     return values;
 }
 
 std::vector<double> columnOf(const ui::Grid& table, int col, int rows) {
-    std::vector<double> values;
-    values.reserve(static_cast<std::size_t>(rows));
-    for (int row = 1; row <= rows; ++row) values.push_back(numberAt(table, row, col));
+    std::vector<double> values = zeros(rows);
+    Numbers(table).readColumn(col, 1, values);
     return values;
 }
 
 method::Table tableOf(const ui::Grid& table, int firstCol, int rows, int cols) {
+    const Numbers numbers(table);
     method::Table values(static_cast<std::size_t>(rows), static_cast<std::size_t>(cols));
-    for (int row = 1; row <= rows; ++row) {
-        int col = firstCol;
-        for (double& value : values.row(static_cast<std::size_t>(row) - 1))
-            value = numberAt(table, row, col++);
-    }
+    for (int row = 1; row <= rows; ++row) numbers.readRow(row, firstCol, values.row(landscapeIndex(row)));
     return values;
 }
 
@@ -62,10 +91,8 @@ method::Table levelsOf(const ui::Grid& table, int species, int units) {
 }
 
 std::vector<double> levelsOfSpecies(const ui::Grid& table, int species, int units) {
-    std::vector<double> levels;
-    levels.reserve(static_cast<std::size_t>(units));
-    for (int unit = 1; unit <= units; ++unit)
-        levels.push_back(numberAt(table, blockRow(species, units, unit), use::Level));
+    std::vector<double> levels = zeros(units);
+    Numbers(table).readColumn(use::Level, blockRow(species, units, 1), levels);
     return levels;
 }
 

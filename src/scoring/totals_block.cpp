@@ -38,11 +38,15 @@ void clearTotalsColours(ui::Grid& grid) {
     grid.CellBackColor(White);
 }
 
-void paintTotals(ui::Grid& grid) {
+void selectTotalsRows(ui::Grid& grid) {
     const int lastRow = grid.Rows() - 1;
+    grid.Select(lastRow - 1, 1, lastRow, grid.Cols() - 1);
+}
+
+void paintTotals(ui::Grid& grid) {
     const int lastCol = grid.Cols() - 1;
-    grid.Select(1, lastCol - 1, lastRow, lastCol);
+    grid.Select(1, lastCol - 1, grid.Rows() - 1, lastCol);
     grid.CellBackColor(TotalsColour);
-    grid.Select(lastRow - 1, 1, lastRow, lastCol);
+    selectTotalsRows(grid);
     grid.CellBackColor(TotalsColour);
 }

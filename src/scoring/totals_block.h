@@ -23,5 +23,6 @@ void writeTotalsLabels(ui::Grid& grid, const TotalsLabels& labels, int plainRow,
 /// All cells but the headings to white, which wipes the colours of an earlier run.
 void clearTotalsColours(ui::Grid& grid);
 
-/// The two columns and the two rows to the colour of totals.
+/// The two columns and the two rows to the colour of totals; the rows stay selected.
 void paintTotals(ui::Grid& grid);
+void selectTotalsRows(ui::Grid& grid);

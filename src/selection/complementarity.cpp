@@ -67,7 +67,7 @@ void frmBrenica::cmdComplement_Click() try {
     askedLevels_.ThreatRepresentation = txtThreatRep.Real();
     askedLevels_.ConservationStatus = txtCCSRep.Real();
     const method::Landscape landscape = selectionLandscape();
-    const method::Table threatScores =
+    method::Table threatScores =
         threatScoresOf(flxSummary(summary::Vulnerability), global_.TotalSpecies, global_.TotalLandUses);
     if (const auto obstacle = obstacleIn(landscape, threatScores)) return SelectionRefused(*obstacle);
     global_.ErrorMargin = askedLevels_.Margin;
@@ -76,7 +76,7 @@ void frmBrenica::cmdComplement_Click() try {
     for (ui::Grid& grid : flxCompResults) grid.Rows(1);
 
     method::Selection selection;
-    selection.load(landscape, threatScores);
+    selection.load(landscape, std::move(threatScores));
     const auto failure = failureOf([&] { selection.start(askedLevels_); });
     if (failure) modBrenicaUtilities::raiseFailure(*failure, startCell(*this, *failure));
 

@@ -21,17 +21,19 @@ const char* markOf(ui::Grid& results, int row) {
     return results.CellBackColor() == resultcolour::Margin ? "M " : "  ";
 }
 
-std::string dataLine(ui::Grid& results, int row) {
-    std::string line = markOf(results, row);
+void putDataLine(std::string& line, ui::Grid& results, int row) {
+    line = markOf(results, row);
     line += results.TextMatrix(row, 0);
     const std::size_t width = ui::length(line);
-    line = width > NameWidth ? std::string(ui::firstCharacters(line, NameWidth))
-                             : line + std::string(NameWidth - width, ' ');
-    for (int col = 1; col <= results.Cols() - 2; ++col) {
-        line += results.TextMatrix(row, col);
-        line += '\t';
+    if (width > NameWidth) {
+        line.resize(ui::firstCharacters(line, NameWidth).size());
+    } else {
+        line.append(NameWidth - width, ' ');
     }
-    return line;
+    results.ReadRow(row, 1, results.Cols() - 2, [&](std::string_view text) {
+        line += text;
+        line += '\t';
+    });
 }
 
 /// The units that no pick covers, behind the prefix; empty where there are none.
@@ -101,8 +103,11 @@ void frmBrenica::printPasses() {
     printResult("M = margin of error species");
     printResult("\t\t\t\t\t\t\t\t\t\tAdditional");
     printResult("Species             \tRank\tScore\tHetero\tArea\tVuln\tFunc\tSE\tHabs\tMZones\tThreats");
-    for (int row = 1; row <= flxCompResults(0).Rows() - 1; ++row)
-        printResult(dataLine(flxCompResults(0), row));
+    std::string line;
+    for (int row = 1; row <= flxCompResults(0).Rows() - 1; ++row) {
+        putDataLine(line, flxCompResults(0), row);
+        printResult(line);
+    }
     printResult("");
     printResult("");
 }

@@ -74,6 +74,21 @@ void CellTable::replace(Cell& cell, std::string_view text) {
     if (before != nullptr) longTexts_.release(*before);
 }
 
+void CellTable::fill(const Rows& rows, std::size_t col, std::string_view text) {
+    if (rows.Count == 0) return;
+    Cell filled;
+    if (text.size() > Cell::MostInPlace) {
+        filled.assignLong(longTexts_.add(text, rows.Count));
+    } else {
+        filled.assignShort(text);
+    }
+    for (std::size_t i = 0; i < rows.Count; ++i) {
+        Cell& cell = cells_[rows.First + i * rows.Step][col];
+        const Cell before = std::exchange(cell, filled);
+        if (before.isLong()) longTexts_.release(*before.longText());
+    }
+}
+
 /// Gives up the long texts of a row's cells from a column on, before the cells go.
 void CellTable::releaseTexts(std::size_t row, std::size_t firstCol) {
     const Cell* const cells = cells_[row];
@@ -122,11 +137,12 @@ void CellTable::resizeCols(std::size_t count) {
     cells_ = std::move(resized);
 }
 
-void CellTable::insertRow(std::size_t index) {
-    cells_.makeRoom();
-    formatIds_.makeRoom();
-    cells_.insert(index);
-    formatIds_.insert(index);
+/// Where the memory runs out no row is added.
+void CellTable::insertRows(std::size_t index, std::size_t count) {
+    cells_.makeRoom(count);
+    formatIds_.makeRoom(count);
+    cells_.insert(index, count);
+    formatIds_.insert(index, count);
 }
 
 void CellTable::reserveRows(std::size_t more) {

@@ -6,7 +6,6 @@
 #include <bit>
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 #include <functional>
 #include <span>
 #include <string>
@@ -35,10 +34,10 @@ class LongTexts {
 public:
     using Entry = std::pair<const std::string, std::size_t>;
 
-    Entry* add(std::string_view text) {
+    Entry* add(std::string_view text, std::size_t cells = 1) {
         auto found = texts_.find(text);
         if (found == texts_.end()) found = texts_.emplace(std::string(text), 0).first;
-        ++found->second;
+        found->second += cells;
         return &*found;
     }
     void release(const Entry& entry) {
@@ -68,16 +67,16 @@ public:
         return entry != nullptr ? std::string_view(entry->first) : std::string_view();
     }
     bool isLong() const { return (bytes_[LengthByte] & 1U) == 0 && longText() != nullptr; }
+    /// The same for cells of one table that have the same text, and for no others; 0 for an empty text.
+    std::uint64_t textId() const { return std::bit_cast<std::uint64_t>(bytes_); }
     LongTexts::Entry* longText() const { return std::bit_cast<LongTexts::Entry*>(bytes_); }
 
     /// A text of at most MostInPlace bytes, which may be the cell's own.
     void assignShort(std::string_view text) {
-        Bytes bytes{};
-        if (!text.empty()) {
-            bytes[LengthByte] = static_cast<unsigned char>(text.size() << 1U | 1U);
-            std::memcpy(bytes.data() + FirstByte, text.data(), text.size());
-        }
-        bytes_ = bytes;
+        std::uint64_t bits = text.empty() ? 0 : text.size() << 1U | 1U;
+        for (std::size_t i = 0; i < text.size(); ++i)
+            bits |= std::uint64_t{static_cast<unsigned char>(text[i])} << shiftOf(i);
+        bytes_ = std::bit_cast<Bytes>(bits);
     }
     void assignLong(LongTexts::Entry* entry) { bytes_ = std::bit_cast<Bytes>(entry); }
 
@@ -89,6 +88,11 @@ private:
     static constexpr std::size_t LengthByte = LowByteFirst ? 0 : MostInPlace;
     static constexpr std::size_t FirstByte = LowByteFirst ? 1 : 0;
 
+    /// Where the character stands in the cell taken as a number, whose lowest byte is that of the length.
+    static constexpr unsigned shiftOf(std::size_t character) {
+        constexpr unsigned ByteBits = 8;
+        return ByteBits * static_cast<unsigned>(LowByteFirst ? character + 1 : MostInPlace - character);
+    }
     const char* chars() const { return reinterpret_cast<const char*>(bytes_.data()); }
 
     alignas(LongTexts::Entry*) Bytes bytes_{};
@@ -126,6 +130,21 @@ private:
     Id firstFree_ = 0;
 };
 
+/// Which texts of a table came by lately.
+class RecentTexts {
+public:
+    bool isNew(std::uint64_t textId, bool bold) {
+        constexpr std::uint64_t Scatter = 0x9E3779B97F4A7C15;
+        constexpr unsigned Bits = 64;
+        std::uint64_t& last = last_[bold][textId * Scatter >> (Bits - PlaceBits)];
+        return std::exchange(last, textId) != textId;
+    }
+
+private:
+    static constexpr unsigned PlaceBits = 7;
+    std::array<std::array<std::uint64_t, 1U << PlaceBits>, 2> last_{};
+};
+
 /// What a grid keeps of its cells: texts, and formats where they are set. Rows and columns count from 0; indices are
 /// the caller's to check.
 class CellTable {
@@ -139,6 +158,40 @@ public:
         Cell& cell = cells_[row][col];
         if (text.size() > Cell::MostInPlace || cell.isLong()) return replace(cell, text);
         cell.assignShort(text);
+    }
+    /// Which cells of a column: `count` of them, the first one and every `step`-th row after it.
+    struct Rows {
+        std::size_t First;
+        std::size_t Step;
+        std::size_t Count;
+    };
+    /// Gives them all the same text.
+    void fill(const Rows& rows, std::size_t col, std::string_view text);
+
+    /// Calls `read` with the text of each of these cells of a column, one after the other.
+    template <class Read>
+    void readColumn(std::size_t col, std::size_t firstRow, std::size_t count, Read read) const {
+        cells_.forEach(firstRow, count, [&](const Cell* row) { read(row[col].text()); });
+    }
+    /// The same for cells of a row.
+    template <class Read>
+    void readRow(std::size_t row, std::size_t firstCol, std::size_t count, Read read) const {
+        const Cell* const cells = cells_[row];
+        for (std::size_t col = firstCol; col < firstCol + count; ++col) read(cells[col].text());
+    }
+    /// Calls `visit` with texts of a column that are not empty and whether they are bold: with each at least once, but
+    /// with few of those that repeat.
+    template <class Visit>
+    void visitTexts(std::size_t col, Visit visit) const {
+        RecentTexts visited;
+        std::size_t index = 0;
+        cells_.forEach(0, rows(), [&](const Cell* row) {
+            const std::size_t at = index++;
+            const std::uint64_t id = row[col].textId();
+            if (id == 0) return;
+            const bool bold = format(at, col).Bold;
+            if (visited.isNew(id, bold)) visit(row[col].text(), bold);
+        });
     }
 
     const CellFormat& format(std::size_t row, std::size_t col) const {
@@ -155,7 +208,7 @@ public:
     // New cells are empty and unset; dropped ones lose text and format.
     void resizeRows(std::size_t count);
     void resizeCols(std::size_t count);
-    void insertRow(std::size_t index);
+    void insertRows(std::size_t index, std::size_t count);
     /// Room for just so many more rows.
     void reserveRows(std::size_t more);
     void eraseRow(std::size_t index);

@@ -143,7 +143,7 @@ std::string Files::LineInput(int number, LineEnds ends) {
         if (EndOfFile(number)) raise(ErrorNumber::InputPastEndOfFile);
         const std::string_view rest = std::string_view(file.Content).substr(file.Position);
         const std::size_t end =
-            std::min(rest.find_first_of(ends == LineEnds::AnyEnd ? "\r\n" : "\r"), rest.size());
+            std::min(ends == LineEnds::AnyEnd ? rest.find_first_of("\r\n") : rest.find('\r'), rest.size());
         file.Position += end;
         const bool pair = rest.substr(end, 2) == "\r\n";
         if (rest.substr(end, 1) == "\r") ++linesEnded_;

@@ -7,6 +7,8 @@
 #include <utility>
 #include <vector>
 
+#include "ui/large_pages.h"
+
 namespace ui {
 
 /// Rows of equally many elements, in which a run of insertions or removals at neighbouring places costs no more than
@@ -24,9 +26,22 @@ public:
     T* operator[](std::size_t index) { return slots_.data() + slotOf(index) * width_; }
     const T* operator[](std::size_t index) const { return slots_.data() + slotOf(index) * width_; }
 
-    /// Room for one more row: the next insertion needs no memory.
-    void makeRoom() {
-        if (gapLength_ == 0) growBy(std::max<std::size_t>(8, rows_ / 2));
+    /// Visits rows one after the other, all of which must be there.
+    template <class Visit>
+    void forEach(std::size_t first, std::size_t count, Visit visit) const {
+        const std::size_t beforeGap = std::max(first, gapStart_) - first;
+        const T* row = (*this)[first];
+        for (std::size_t i = 0; i < count; ++i, row += width_) {
+            if (i == beforeGap && i > 0) row += gapLength_ * width_;
+            visit(row);
+        }
+    }
+
+    /// Room for so many more rows: the next insertion needs no memory.
+    void makeRoom(std::size_t more = 1) {
+        if (gapLength_ >= more) return;
+        moveGap(size());
+        growBy(std::max({std::size_t{8}, rows_ / 2, more}));
     }
 
     /// Room for just so many more rows.
@@ -37,19 +52,19 @@ public:
         growBy(missing);
     }
 
-    /// Puts a row of empty elements before the row of that index.
-    T* insert(std::size_t index) {
-        makeRoom();
+    /// Puts rows of empty elements before the row of that index; gives the first of them.
+    T* insert(std::size_t index, std::size_t count = 1) {
+        makeRoom(count);
         moveGap(index);
-        T* const row = slots_.data() + gapStart_++ * width_;
-        empty(row);
-        --gapLength_;
-        return row;
+        empty(gapStart_, count);
+        gapStart_ += count;
+        gapLength_ -= count;
+        return slots_.data() + index * width_;
     }
 
     void erase(std::size_t index) {
         moveGap(index);
-        empty(slots_.data() + (gapStart_ + gapLength_) * width_);
+        empty(gapStart_ + gapLength_, 1);
         ++gapLength_;
     }
 
@@ -70,8 +85,8 @@ public:
 private:
     std::size_t slotOf(std::size_t index) const { return index < gapStart_ ? index : index + gapLength_; }
 
-    void empty(T* row) {
-        for (std::size_t i = 0; i < width_; ++i) row[i] = T();
+    void empty(std::size_t firstSlot, std::size_t rows) {
+        std::fill_n(slots_.begin() + static_cast<std::ptrdiff_t>(firstSlot * width_), rows * width_, T());
     }
 
     void moveGap(std::size_t index) {
@@ -104,7 +119,7 @@ private:
     }
 
     std::size_t width_;
-    std::vector<T> slots_;
+    std::vector<T, LargePageAllocator<T>> slots_;
     std::size_t rows_ = 0;  // those of the gap included
     std::size_t gapStart_ = 0;
     std::size_t gapLength_ = 0;

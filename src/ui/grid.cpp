@@ -35,7 +35,7 @@ void Grid::requireRoomFor(int rows, int cols) const {
 void Grid::Rows(int count) {
     requireRoomFor(count, Cols());
     if (count == Rows()) return;
-    reportChange();
+    contentChanged();
     sortMark_ = {};
     cells_.resizeRows(static_cast<std::size_t>(count));
     forgetWidths();
@@ -45,22 +45,69 @@ void Grid::Rows(int count) {
 void Grid::Cols(int count) {
     requireRoomFor(Rows(), count);
     if (count == Cols()) return;
-    reportChange();
+    contentChanged();
     sortMark_ = {};
     // Where the memory runs out, the grid stays as wide as it was.
-    cells_.resizeCols(static_cast<std::size_t>(count));
-    columns_.resize(static_cast<std::size_t>(count));
+    columns_.reserve(size(count));
+    cells_.resizeCols(size(count));
+    columns_.resize(size(count));
     keepCurrentCellInside();
 }
 
 void Grid::AddItem(std::string_view text, int row) {
-    if (row < 0 || row > Rows()) raise(ErrorNumber::SubscriptOutOfRange);
-    requireRoomFor(Rows() + 1, Cols());
-    reportChange();
-    sortMark_ = {};
-    cells_.insertRow(static_cast<std::size_t>(row));
+    insertRows(row, 1);
     if (!columns_.empty()) cells_.text(static_cast<std::size_t>(row), 0, text);
+}
+
+void Grid::AddEmptyRows(int row, int count) {
+    if (count > 0) insertRows(row, count);
+}
+
+void Grid::insertRows(int row, int count) {
+    if (row < 0 || row > Rows()) raise(ErrorNumber::SubscriptOutOfRange);
+    requireRoomFor(Rows() + count, Cols());
+    contentChanged();
+    sortMark_ = {};
+    cells_.insertRows(static_cast<std::size_t>(row), static_cast<std::size_t>(count));
     forgetWidths();
+}
+
+void Grid::FillColumn(int col, int row, int step, int count, std::string_view text) {
+    if (count < 1) return;
+    requireCell(row, col);
+    const int inside = step == 0 ? count : std::min(count, (Rows() - 1 - row) / step + 1);
+    cells_.fill({size(row), size(step), size(inside)}, size(col), text);
+    textsChanged(col);
+    reportWritten(row, col, step, 0, inside);
+    if (inside < count) raise(ErrorNumber::SubscriptOutOfRange);
+}
+
+void Grid::WriteColumn(int col, int row, int step, std::span<const std::string_view> texts) {
+    if (texts.empty()) return;
+    requireCell(row, col);
+    const int count = static_cast<int>(texts.size());
+    const int inside = step == 0 ? count : std::min(count, (Rows() - 1 - row) / step + 1);
+    for (int i = 0; i < inside; ++i) cells_.text(size(row + i * step), size(col), texts[size(i)]);
+    textsChanged(col);
+    reportWritten(row, col, step, 0, inside);
+    if (inside < count) raise(ErrorNumber::SubscriptOutOfRange);
+}
+
+void Grid::WriteRow(int row, int col, std::span<const std::string_view> texts) {
+    if (texts.empty()) return;
+    requireCell(row, col);
+    const int count = static_cast<int>(texts.size());
+    const int inside = std::min(count, Cols() - col);
+    for (int i = 0; i < inside; ++i) {
+        cells_.text(size(row), size(col + i), texts[size(i)]);
+        textsChanged(col + i);
+    }
+    reportWritten(row, col, 0, 1, inside);
+    if (inside < count) raise(ErrorNumber::SubscriptOutOfRange);
+}
+
+void Grid::reportWritten(int row, int col, int rowStep, int colStep, int count) {
+    for (int i = 0; CellChanged && i < count; ++i) CellChanged(row + i * rowStep, col + i * colStep);
 }
 
 void Grid::ReserveRows(long long more) {
@@ -69,7 +116,7 @@ void Grid::ReserveRows(long long more) {
 
 void Grid::RemoveItem(int row) {
     if (row < 0 || row >= Rows()) raise(ErrorNumber::SubscriptOutOfRange);
-    reportChange();
+    contentChanged();
     cells_.eraseRow(static_cast<std::size_t>(row));
     forgetWidths();
     keepCurrentCellInside();
@@ -122,7 +169,7 @@ const CellFormat& Grid::format(int row, int col) const {
 
 void Grid::changeFormats(const std::function<void(CellFormat&)>& change) {
     requireCell(row_, col_);
-    reportChange();
+    contentChanged();
     cells_.changeFormats(selection(), change);
 }
 
@@ -166,11 +213,9 @@ void Grid::AutoSize(int firstCol, int lastCol) {
 
 int Grid::measure(int col) const {
     int widest = 0;
-    for (int row = 0; row < Rows(); ++row) {
-        const std::string_view text = TextMatrix(row, col);
-        if (text.empty()) continue;
-        widest = std::max(widest, platform().textWidth(text, IsBold(row, col) ? BoldCellFont : CellFont));
-    }
+    cells_.visitTexts(size(col), [&](std::string_view text, bool bold) {
+        widest = std::max(widest, platform().textWidth(text, bold ? BoldCellFont : CellFont));
+    });
     return widest + CellPadding;
 }
 

@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <algorithm>
+#include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -44,7 +47,7 @@ public:
     // Shape. New cells are empty.
     int Rows() const { return static_cast<int>(cells_.rows()); }
     void Rows(int count);
-    int Cols() const { return static_cast<int>(columns_.size()); }
+    int Cols() const { return static_cast<int>(cells_.cols()); }
     void Cols(int count);
     int FixedRows() const { return fixedRows_; }
     void FixedRows(int count) { change(fixedRows_, count); }
@@ -53,6 +56,8 @@ public:
     /// Adds a row with `text` in its first cell, at the end or before `row`.
     void AddItem(std::string_view text) { AddItem(text, Rows()); }
     void AddItem(std::string_view text, int row);
+    /// Adds so many empty rows at once before `row`.
+    void AddEmptyRows(int row, int count);
     /// To be called before so many rows are added one by one, which then take no more memory than they need. Changes
     /// nothing else, nor is it held to what a grid has room for.
     void ReserveRows(long long more);
@@ -62,19 +67,45 @@ public:
     /// Valid until this cell changes, or the shape or the order of the grid.
     std::string_view TextMatrix(int row, int col) const {
         requireCell(row, col);
-        return cells_.text(static_cast<std::size_t>(row), static_cast<std::size_t>(col));
+        return cells_.text(size(row), size(col));
+    }
+    /// Calls `read` with the text of each cell of a column, `count` of them from `row` on or as many as there are; tells
+    /// how many that was.
+    template <class Read>
+    int ReadColumn(int col, int row, int count, Read read) const {
+        if (!contains(row, col)) return 0;
+        const int inside = std::min(count, Rows() - row);
+        cells_.readColumn(size(col), size(row), size(inside), read);
+        return inside;
+    }
+    /// The same for the cells of a row.
+    template <class Read>
+    int ReadRow(int row, int col, int count, Read read) const {
+        if (!contains(row, col)) return 0;
+        const int inside = std::min(count, Cols() - col);
+        cells_.readRow(size(row), size(col), size(inside), read);
+        return inside;
     }
     void TextMatrix(int row, int col, std::string_view text) {
         requireCell(row, col);
-        cells_.text(static_cast<std::size_t>(row), static_cast<std::size_t>(col), text);
-        columns_[static_cast<std::size_t>(col)].MeasuredWidth = NotMeasured;
-        if (col == sortMark_.Col) sortMark_ = {};
-        reportChange();
+        cells_.text(size(row), size(col), text);
+        textsChanged(col);
         if (CellChanged) CellChanged(row, col);
     }
+    /// Writes the same text into `count` cells of a column, from `row` on in steps of `step` rows (at least 0), as
+    /// TextMatrix would one after the other.
+    void FillColumn(int col, int row, int step, int count, std::string_view text);
+    /// Writes a text into each cell of a column from `row` on in steps of `step` rows, likewise.
+    void WriteColumn(int col, int row, int step, std::span<const std::string_view> texts);
+    /// Writes a text into each cell of a row from `col` on, likewise.
+    void WriteRow(int row, int col, std::span<const std::string_view> texts);
     /// The cell's text as a number; raises TypeMismatch or Overflow, for an empty cell as well.
     double Real(int row, int col) const { return gradeToReal(TextMatrix(row, col), separator_); }
     int Long(int row, int col) const { return toLong(Real(row, col)); }
+
+    /// Grows with every change of shape, texts, formats or order, by an equal text as well: as long as it stands, all of
+    /// them are as they were.
+    std::uint64_t Revision() const { return revision_; }
 
     // Current cell and selection. Row and Col stay inside the grid when it shrinks.
     int Row() const { return row_; }
@@ -224,7 +255,9 @@ private:
     static constexpr int DefaultColumnWidth = 960;
     static constexpr int NotMeasured = -1;
 
-    bool contains(int row, int col) const { return row >= 0 && row < Rows() && col >= 0 && col < Cols(); }
+    static std::size_t size(int value) { return static_cast<std::size_t>(value); }
+    /// A negative number is beyond every size.
+    bool contains(int row, int col) const { return size(row) < cells_.rows() && size(col) < cells_.cols(); }
     void requireCell(int row, int col) const {
         if (!contains(row, col)) raise(ErrorNumber::SubscriptOutOfRange);
     }
@@ -232,6 +265,17 @@ private:
     const CellFormat& format(int row, int col) const;
     const ColumnData& column(int col) const;
     ColumnData& column(int col);
+    void contentChanged() {
+        ++revision_;
+        reportChange();
+    }
+    void textsChanged(int col) {
+        columns_[size(col)].MeasuredWidth = NotMeasured;
+        if (col == sortMark_.Col) sortMark_ = {};
+        contentChanged();
+    }
+    void insertRows(int row, int count);
+    void reportWritten(int row, int col, int rowStep, int colStep, int count);
     void forgetWidths();
     void keepCurrentCellInside();
     CellTable::Range selection() const;
@@ -251,6 +295,7 @@ private:
 
     const DecimalSeparator separator_;
     CellTable cells_;
+    std::uint64_t revision_ = 0;
     std::vector<ColumnData> columns_;
     int fixedRows_ = 1;
     int fixedCols_ = 1;

@@ -41,7 +41,7 @@ void Grid::Sort(SortOrder order) {
     const bool oneCell = row_ == rowSel_ && col_ == colSel_;
     const int first = oneCell ? fixedRows_ : std::min(row_, rowSel_);
     const int last = oneCell ? Rows() - 1 : std::max(row_, rowSel_);
-    reportChange();
+    contentChanged();
     sortMark_ = oneCell ? SortMark{col_, order == SortOrder::GenericDescending} : SortMark{};
     if (first >= last) return;
 

@@ -70,12 +70,16 @@ std::string_view firstCharacters(std::string_view text, std::size_t count) {
 
 std::vector<std::string_view> split(std::string_view text, char separator) {
     std::vector<std::string_view> parts;
-    for (;;) {
-        const std::size_t end = text.find(separator);
-        parts.push_back(text.substr(0, end));
-        if (end == std::string_view::npos) return parts;
-        text.remove_prefix(end + 1);
+    parts.reserve(static_cast<std::size_t>(std::count(text.begin(), text.end(), separator)) + 1);
+    // Parts are short: to look at each character takes less than to search for the next separator.
+    std::size_t start = 0;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] != separator) continue;
+        parts.push_back(text.substr(start, i - start));
+        start = i + 1;
     }
+    parts.push_back(text.substr(start));
+    return parts;
 }
 
 std::string join(const std::vector<std::string>& parts, std::string_view separator) {

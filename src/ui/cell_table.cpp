@@ -127,7 +127,9 @@ void CellTable::resizeRows(std::size_t count) {
 
 void CellTable::resizeCols(std::size_t count) {
     const std::size_t kept = std::min(cols(), count);
+    constexpr std::size_t MoreRows = 8;  // a table that becomes wider mostly becomes a little longer as well
     GapBuffer<Cell> resized(count);
+    resized.reserve(rows() + MoreRows);
     resized.resize(rows());
     formats_.resizeCols(count);
     for (std::size_t row = 0; row < rows(); ++row) {

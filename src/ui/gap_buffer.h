@@ -4,10 +4,11 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
-#include "ui/large_pages.h"
+#include "ui/plain_array.h"
 
 namespace ui {
 
@@ -119,7 +120,7 @@ private:
     }
 
     std::size_t width_;
-    std::vector<T, LargePageAllocator<T>> slots_;
+    std::conditional_t<std::is_trivially_copyable_v<T>, PlainArray<T>, std::vector<T>> slots_;
     std::size_t rows_ = 0;  // those of the gap included
     std::size_t gapStart_ = 0;
     std::size_t gapLength_ = 0;

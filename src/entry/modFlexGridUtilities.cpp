@@ -53,11 +53,9 @@ void loadHomeRange(const std::string& homeRange, const AreaControls& controls) {
 }
 
 int autoSizedWidth(ui::Grid& grid) {
+    grid.AutoSize(0, grid.Cols() - 1);
     int sum = 0;
-    for (int col = 0; col < grid.Cols(); ++col) {
-        grid.AutoSize(col);
-        sum += grid.ColWidth(col);
-    }
+    for (int col = 0; col < grid.Cols(); ++col) sum += grid.ColWidth(col);
     return sum;
 }
 

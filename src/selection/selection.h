@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstddef>
+#include <span>
 #include <string>
 
 #include "method/selection.h"
@@ -37,9 +38,10 @@ void cmdComplement_Click(ui::Platform& platform, modGlobal& global, method::Sele
                          const SelectionGrids& grids);
 
 /// Appends a block with the species still in the race and its blank row. The first call of a selection reports the
-/// excluded species.
+/// excluded species; later ones are told where each species stands in the block before.
 void SetupSelectionSpecies(ui::Platform& platform, modGlobal& global, ui::Grid& grid,
-                           const ui::Grid& scoresGrid, const method::Block& block, bool firstPass);
+                           const ui::Grid& scoresGrid, const method::Block& block,
+                           std::span<const int> rowsBefore);
 
 /// The line above the list of excluded species, in the message and in the results file.
 std::string excludedHeading(int count);

@@ -75,6 +75,7 @@ private:
     ui::Grid& results_;
     int blockStartRow_ = 0;
     bool firstPass_ = false;
+    std::vector<int> rowOfSpecies_;  ///< in the last block as it was sorted; empty before
 };
 
 void SelectionTables::raise(const method::Failure& failure) const {
@@ -125,7 +126,7 @@ void SelectionTables::begun() {
 void SelectionTables::blockAppended(const Block& block, bool first) {
     blockStartRow_ = results_.Rows();
     firstPass_ = first;
-    SetupSelectionSpecies(platform_, global_, results_, grids_.Scores, block, first);
+    SetupSelectionSpecies(platform_, global_, results_, grids_.Scores, block, rowOfSpecies_);
 }
 
 void SelectionTables::adds(std::size_t offset, Unit kind, int units) {
@@ -152,6 +153,9 @@ void SelectionTables::sorted(const Block& block) {
         results_.Select(blockStartRow_, result::Aggregate, rowAt(block.size()), result::Aggregate);
     }
     results_.Sort(ui::SortOrder::GenericDescending);
+    rowOfSpecies_.resize(static_cast<std::size_t>(global_.TotalSpecies));
+    for (std::size_t offset = 0; offset < block.size(); ++offset)
+        rowOfSpecies_[block[offset].Species] = rowAt(offset);
 }
 
 void SelectionTables::ranked(std::size_t offset, int rank) {
@@ -277,7 +281,8 @@ CellPlace resultCell(const ui::Grid& results, int blockStartRow, const method::F
 }
 
 void SetupSelectionSpecies(ui::Platform& platform, modGlobal& global, ui::Grid& grid,
-                           const ui::Grid& scoresGrid, const Block& block, bool firstPass) try {
+                           const ui::Grid& scoresGrid, const Block& block,
+                           std::span<const int> rowsBefore) try {
     const int startRow = grid.Rows();
     std::size_t count = 0;
     for (int species = 1; species <= global.TotalSpecies; ++species) {
@@ -287,10 +292,12 @@ void SetupSelectionSpecies(ui::Platform& platform, modGlobal& global, ui::Grid& 
             const auto copy = [&](int col) {
                 grid.TextMatrix(row, col, scoresGrid.TextMatrix(species, col));
             };
-            copy(result::Name);
-            if (firstPass) {
-                for (const int col : {result::Aggregate, result::Heterogeneity, result::Vulnerability})
+            if (rowsBefore.empty()) {
+                for (const int col :
+                     {result::Name, result::Aggregate, result::Heterogeneity, result::Vulnerability})
                     copy(col);
+            } else {
+                grid.CopyText(row, result::Name, rowsBefore[landscapeIndex(species)]);
             }
             for (const int col : {result::AreaScore, result::Functionality, result::SocioEcon}) copy(col);
             grid.TextMatrix(row, result::Candidate, ui::toText(species));

@@ -141,7 +141,7 @@ public:
     }
 
 private:
-    static constexpr unsigned PlaceBits = 7;
+    static constexpr unsigned PlaceBits = 6;
     std::array<std::array<std::uint64_t, 1U << PlaceBits>, 2> last_{};
 };
 
@@ -165,6 +165,13 @@ public:
         std::size_t Step;
         std::size_t Count;
     };
+    /// Gives a cell the text of another one of its column.
+    void copyText(std::size_t row, std::size_t col, std::size_t fromRow) {
+        const Cell from = cells_[fromRow][col];
+        if (from.isLong()) ++from.longText()->second;
+        const Cell before = std::exchange(cells_[row][col], from);
+        if (before.isLong()) longTexts_.release(*before.longText());
+    }
     /// Gives them all the same text.
     void fill(const Rows& rows, std::size_t col, std::string_view text);
 
@@ -179,18 +186,21 @@ public:
         const Cell* const cells = cells_[row];
         for (std::size_t col = firstCol; col < firstCol + count; ++col) read(cells[col].text());
     }
-    /// Calls `visit` with texts of a column that are not empty and whether they are bold: with each at least once, but
-    /// with few of those that repeat.
+    /// Calls `visit` with the place of a column among `cols`, a text of it and whether that is bold: with each text that
+    /// is not empty at least once, but with few of those that repeat.
     template <class Visit>
-    void visitTexts(std::size_t col, Visit visit) const {
-        RecentTexts visited;
+    void visitTexts(std::span<const std::size_t> cols, Visit visit) const {
+        std::vector<RecentTexts> visited(cols.size());
         std::size_t index = 0;
         cells_.forEach(0, rows(), [&](const Cell* row) {
-            const std::size_t at = index++;
-            const std::uint64_t id = row[col].textId();
-            if (id == 0) return;
-            const bool bold = format(at, col).Bold;
-            if (visited.isNew(id, bold)) visit(row[col].text(), bold);
+            const RowFormats::Id formats = *formatIds_[index++];
+            for (std::size_t i = 0; i < cols.size(); ++i) {
+                const Cell& cell = row[cols[i]];
+                const std::uint64_t id = cell.textId();
+                if (id == 0) continue;
+                const bool bold = formats_.at(formats, cols[i]).Bold;
+                if (visited[i].isNew(id, bold)) visit(i, cell.text(), bold);
+            }
         });
     }
 

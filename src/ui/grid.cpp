@@ -72,6 +72,14 @@ void Grid::insertRows(int row, int count) {
     forgetWidths();
 }
 
+void Grid::CopyText(int row, int col, int fromRow) {
+    requireCell(row, col);
+    requireCell(fromRow, col);
+    cells_.copyText(size(row), size(col), size(fromRow));
+    textsChanged(col);
+    if (CellChanged) CellChanged(row, col);
+}
+
 void Grid::FillColumn(int col, int row, int step, int count, std::string_view text) {
     if (count < 1) return;
     requireCell(row, col);
@@ -204,19 +212,24 @@ Grid::ColumnData& Grid::column(int col) { return const_cast<ColumnData&>(std::as
 void Grid::ColWidth(int col, double width) { change(column(col).Width, std::max(0, toLong(width))); }
 
 void Grid::AutoSize(int firstCol, int lastCol) {
+    measure(std::max(firstCol, 0), std::min(lastCol, Cols() - 1));
     for (int col = firstCol; col <= lastCol; ++col) {
         ColumnData& fitted = column(col);
-        if (fitted.MeasuredWidth == NotMeasured) fitted.MeasuredWidth = measure(col);
         change(fitted.Width, fitted.MeasuredWidth);
     }
 }
 
-int Grid::measure(int col) const {
-    int widest = 0;
-    cells_.visitTexts(size(col), [&](std::string_view text, bool bold) {
-        widest = std::max(widest, platform().textWidth(text, bold ? BoldCellFont : CellFont));
+/// All columns in one go, since the cells of a row lie together.
+void Grid::measure(int firstCol, int lastCol) {
+    std::vector<std::size_t> cols;
+    for (int col = firstCol; col <= lastCol; ++col) {
+        if (columns_[size(col)].MeasuredWidth == NotMeasured) cols.push_back(size(col));
+    }
+    std::vector<int> widest(cols.size());
+    cells_.visitTexts(cols, [&](std::size_t i, std::string_view text, bool bold) {
+        widest[i] = std::max(widest[i], platform().textWidth(text, bold ? BoldCellFont : CellFont));
     });
-    return widest + CellPadding;
+    for (std::size_t i = 0; i < cols.size(); ++i) columns_[cols[i]].MeasuredWidth = widest[i] + CellPadding;
 }
 
 /// Room for a high heading is counted in any case: whether a scroll bar takes room must not hang on the columns' widths,

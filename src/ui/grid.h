@@ -92,6 +92,8 @@ public:
         textsChanged(col);
         if (CellChanged) CellChanged(row, col);
     }
+    /// Writes the text of another cell of the column.
+    void CopyText(int row, int col, int fromRow);
     /// Writes the same text into `count` cells of a column, from `row` on in steps of `step` rows (at least 0), as
     /// TextMatrix would one after the other.
     void FillColumn(int col, int row, int step, int count, std::string_view text);
@@ -287,7 +289,7 @@ private:
     int nextShownCol(int col, int step) const;
     bool stepTo(int row, int col);
     bool stepIntoBody();
-    int measure(int col) const;
+    void measure(int firstCol, int lastCol);
     int headingLines(int col) const;
     void printRows(Files& files, int fileNumber) const;
     bool accept(TextEditor edited);

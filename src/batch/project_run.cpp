@@ -36,6 +36,7 @@ std::string withBreaks(std::string_view text, std::string_view lineBreak) {
 
 ProjectRun::ProjectRun(const RunOptions& options, std::ostream& err)
     : options_(options), err_(err), form_(platform_, files_, global_) {
+    platform_.Draws = false;
     platform_.Answers.assign(options.Answers.begin(), options.Answers.end());
     platform_.OnBox = [this](const ShownBox& box) { printBox(err_, box); };
     checkLevel(form_.txtErrorMargin, options_.ErrorMargin, "--error-margin");

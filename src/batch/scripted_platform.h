@@ -38,6 +38,7 @@ public:
     std::vector<std::string> CopiedPictures;  ///< names of the charts
     std::vector<std::string> SavedPictures;   ///< paths
     /// Measures a text in the place of the rule of thumb.
+    bool Draws = true;
     std::function<int(std::string_view text, const ui::Font& font)> TextWidth;
     /// Called before a picture is saved; it may raise.
     std::function<void()> BeforeSavePicture;
@@ -54,6 +55,7 @@ public:
     void beep() override { ++Beeps; }
     void copyPicture(const ui::Chart& chart) override;
     void SavePicture(const std::string& path) override;
+    bool drawsTexts() const override { return Draws; }
     int textWidth(std::string_view text, const ui::Font& font) const override;
     ui::Size screenSize() const override { return Screen; }
     void setMousePointer(ui::MousePointer pointer) override { Pointer = pointer; }

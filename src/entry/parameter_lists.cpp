@@ -152,11 +152,13 @@ void frmBrenica::updateOtherGrids(const ParameterList& list, int added) try {
 void frmBrenica::growWideTable(const ParameterList& list, int oldRows) {
     ui::Grid& grid = flxSummary(list.WideMember);
     const int total = global_.*list.Total;
+    const int oldCols = grid.Cols();
     grid.Cols(ui::addLong(total, list.WideOffset + 1));
     if (!list.WideNumbered) return;
     for (int i = 1; i <= total; ++i) grid.TextMatrix(0, i + list.WideOffset, ui::toText(i));
     if (global_.TotalSpecies < 1) return;
-    for (int col = oldRows + list.WideOffset; col <= grid.Cols() - 1; ++col)
+    // A calculation's totals may stand there; columns that are new are blank.
+    for (int col = oldRows + list.WideOffset; col < std::min(oldCols, grid.Cols()); ++col)
         grid.FillColumn(col, 1, 1, grid.Rows() - 1, "");
 }
 

@@ -73,6 +73,7 @@ public:
     void resize(std::size_t count) {
         closeGap();
         slots_.resize(count * width_);
+        if (count > rows_) empty(rows_, count - rows_);
         rows_ = count;
         gapStart_ = count;
     }

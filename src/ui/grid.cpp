@@ -212,6 +212,7 @@ Grid::ColumnData& Grid::column(int col) { return const_cast<ColumnData&>(std::as
 void Grid::ColWidth(int col, double width) { change(column(col).Width, std::max(0, toLong(width))); }
 
 void Grid::AutoSize(int firstCol, int lastCol) {
+    if (!platform().drawsTexts()) return;
     measure(std::max(firstCol, 0), std::min(lastCol, Cols() - 1));
     for (int col = firstCol; col <= lastCol; ++col) {
         ColumnData& fitted = column(col);

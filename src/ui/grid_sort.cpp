@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Brenica developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <algorithm>
-#include <numeric>
 
 #include "ui/file_numbers.h"
 #include "ui/grid.h"
@@ -11,28 +10,57 @@ namespace ui {
 
 namespace {
 
-/// What a cell sorts by, read once. In generic order an empty cell comes before every number and every number before
-/// every text.
+/// What a row sorts by, read once. In generic order an empty cell comes before every number and every number before every
+/// text.
 struct SortKey {
     enum class Kind { Empty, Number, Text };
-    Kind Rank = Kind::Text;
+    std::size_t Place = 0;  ///< of the row among those to be sorted
+    Kind Rank = Kind::Empty;
     double Number = 0;
-    std::string Text{};
+    std::size_t Text = 0;  ///< among the texts, without case
 };
 
-SortKey genericKey(std::string_view text, DecimalSeparator separator) {
-    if (text.empty()) return {SortKey::Kind::Empty};
-    if (const auto number = tryReal(text, separator)) return {SortKey::Kind::Number, *number};
-    return {SortKey::Kind::Text, 0, foldCase(text)};
-}
+class SortKeys {
+public:
+    explicit SortKeys(std::size_t rows) { keys_.reserve(rows); }
 
-SortKey textKey(std::string_view text) { return {SortKey::Kind::Text, 0, foldCase(text)}; }
+    void add(std::string_view text, SortOrder order, DecimalSeparator separator) {
+        SortKey& key = keys_.emplace_back();
+        key.Place = keys_.size() - 1;
+        if (order != SortOrder::TextAscending) {
+            if (text.empty()) return;
+            if (const auto number = tryReal(text, separator)) {
+                key.Rank = SortKey::Kind::Number;
+                key.Number = *number;
+                return;
+            }
+        }
+        key.Rank = SortKey::Kind::Text;
+        key.Text = texts_.size();
+        texts_.push_back(foldCase(text));
+    }
 
-bool comesBefore(const SortKey& left, const SortKey& right) {
-    if (left.Rank != right.Rank) return left.Rank < right.Rank;
-    if (left.Rank == SortKey::Kind::Number) return left.Number < right.Number;
-    return left.Text < right.Text;
-}
+    /// The places of the rows in their new order; equal ones stay in theirs.
+    std::vector<std::size_t> sortedPlaces(SortOrder order) {
+        std::stable_sort(keys_.begin(), keys_.end(), [&](const SortKey& a, const SortKey& b) {
+            return order == SortOrder::GenericDescending ? comesBefore(b, a) : comesBefore(a, b);
+        });
+        std::vector<std::size_t> places;
+        places.reserve(keys_.size());
+        for (const SortKey& key : keys_) places.push_back(key.Place);
+        return places;
+    }
+
+private:
+    bool comesBefore(const SortKey& left, const SortKey& right) const {
+        if (left.Rank != right.Rank) return left.Rank < right.Rank;
+        if (left.Rank == SortKey::Kind::Number) return left.Number < right.Number;
+        return left.Rank == SortKey::Kind::Text && texts_[left.Text] < texts_[right.Text];
+    }
+
+    std::vector<SortKey> keys_;
+    std::vector<std::string> texts_;
+};
 
 }  // namespace
 
@@ -45,18 +73,10 @@ void Grid::Sort(SortOrder order) {
     sortMark_ = oneCell ? SortMark{col_, order == SortOrder::GenericDescending} : SortMark{};
     if (first >= last) return;
 
-    const auto count = static_cast<std::size_t>(last - first + 1);
-    std::vector<SortKey> keys(count);
-    for (std::size_t i = 0; i < count; ++i) {
-        const std::string_view text = TextMatrix(first + static_cast<int>(i), col_);
-        keys[i] = order == SortOrder::TextAscending ? textKey(text) : genericKey(text, separator_);
-    }
-    std::vector<std::size_t> places(count);
-    std::iota(places.begin(), places.end(), std::size_t{0});
-    std::stable_sort(places.begin(), places.end(), [&](std::size_t a, std::size_t b) {
-        return order == SortOrder::GenericDescending ? comesBefore(keys[b], keys[a])
-                                                     : comesBefore(keys[a], keys[b]);
-    });
+    SortKeys keys(size(last - first + 1));
+    ReadColumn(col_, first, last - first + 1,
+               [&](std::string_view text) { keys.add(text, order, separator_); });
+    const std::vector<std::size_t> places = keys.sortedPlaces(order);
     cells_.reorder(static_cast<std::size_t>(first), places);
 }
 

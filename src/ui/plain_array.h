@@ -14,7 +14,7 @@
 
 namespace ui {
 
-/// A growing array of plain values that may become large. Where a std::vector copies into new memory, the system moves
+/// A growing array of plain values that may become large, unset until they are written. Where a std::vector copies into new memory, the system moves
 /// its pages; and it asks for pages of 2 MiB, since a good part of the time that it takes to fill a large table goes into
 /// asking for those of 4 KiB.
 template <class T>
@@ -31,10 +31,9 @@ public:
     void reserve(std::size_t count) {
         if (count > capacity_) reallocate(count);
     }
-    /// New elements are empty.
+    /// New elements are unset.
     void resize(std::size_t count) {
         if (count > capacity_) reallocate(std::max(count, capacity_ + capacity_ / 2));
-        if (count > size_) std::fill(data() + size_, data() + count, T());
         size_ = count;
     }
 

@@ -61,6 +61,8 @@ public:
     /// Writes the picture that is on the clipboard to a bitmap file. Raises a file error when it cannot.
     virtual void SavePicture(const std::string& path) = 0;
 
+    /// Whether anything is drawn. Where nothing is, columns are not fitted to their texts.
+    virtual bool drawsTexts() const { return true; }
     /// Width in twips.
     virtual int textWidth(std::string_view text, const Font& font) const = 0;
     virtual Size screenSize() const = 0;

@@ -222,6 +222,7 @@ void frmBrenica::clearScores() {
 }
 
 void frmBrenica::clearResults() {
+    outcome_.reset();
     flxBrenicSuite.Rows(1);
     optCompResults(0).Value(true);
     for (ui::OptionButton& button : optCompResults) button.Enabled(false);

@@ -39,6 +39,12 @@ void* operator new(std::size_t size) {
     throw std::bad_alloc();
 }
 
+// The tables' memory. What the library is asked for by others than ours fails as well, and they bear it.
+extern "C" void* __libc_realloc(void* memory, std::size_t size);
+extern "C" void* realloc(void* memory, std::size_t size) noexcept {
+    return isTheOne() ? nullptr : __libc_realloc(memory, size);
+}
+
 // Whoever can do without the memory asks so; that is no step.
 void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
     return std::malloc(size > 0 ? size : 1);

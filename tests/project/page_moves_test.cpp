@@ -1,5 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Brenica developers
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <functional>
+
 #include "project/columns.h"
 #include "support/form_test.h"
 
@@ -387,4 +389,43 @@ TEST_F(ListFrames, ARefusedMoveLeavesTheOldListAndItsButton) {
     EXPECT_TRUE(form.fraLandCharInfo(0).Visible());
     EXPECT_FALSE(form.fraLandCharInfo(3).Visible());
     EXPECT_EQ(form.CurrentLandChar, 0);
+}
+
+TEST_F(PageMoves, CalculateTheTablesOnceWhereNothingHasChanged) {
+    open(ProjectText(3, 2, 2, 2));
+    walkTo(5);
+    ui::Grid& use = form.flxSummary(summary::HabitatUse);
+    ui::Grid& scores = form.flxSummary(summary::Vulnerability);
+    const std::uint64_t revision = scores.Revision();
+    use.Select(1, 1);
+    scores.Select(1, 1);
+    form.ProjectChanged = false;
+    goTo(6);
+    EXPECT_EQ(scores.Revision(), revision);
+    EXPECT_TRUE(form.ProjectChanged);
+    for (const ui::Grid* grid : {&use, &scores}) {
+        EXPECT_EQ(grid->Row(), grid->Rows() - 2);
+        EXPECT_EQ(grid->Col(), 1);
+        EXPECT_EQ(grid->RowSel(), grid->Rows() - 1);
+        EXPECT_EQ(grid->ColSel(), grid->Cols() - 1);
+    }
+}
+
+TEST_F(PageMoves, CalculateTheTablesAnewAfterAnyChange) {
+    open(ProjectText(3, 2, 2, 2));
+    walkTo(5);
+    ui::Grid& scores = form.flxSummary(summary::Vulnerability);
+    const std::function<void()> changes[] = {
+        [&] { form.flxSummary(summary::ThreatsBySpecies).TextMatrix(1, threat::Severity, "3"); },
+        [&] { form.flxSummary(summary::HabitatUse).TextMatrix(1, 1, "1"); },
+        [&] { form.flxLandUses.UserEditCell(1, list::Urgency, "1"); },
+        [&] { scores.TextMatrix(1, vulnerability::ThreatOffset + 1, "9"); }};
+    for (const auto& change : changes) {
+        goTo(5);
+        change();
+        const std::uint64_t revision = scores.Revision();
+        goTo(6);
+        EXPECT_GT(scores.Revision(), revision);
+    }
+    EXPECT_NE(scores.TextMatrix(1, vulnerability::ThreatOffset + 1), "9");
 }

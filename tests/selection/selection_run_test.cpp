@@ -23,6 +23,14 @@ TEST_F(TakenRun, IsNoneBeforeASelection) {
     EXPECT_FALSE(form.TakeSelectionRun());
 }
 
+TEST_F(TakenRun, IsNoneOfAProjectThatWasLeft) {
+    openForSelection(typical());
+    select();
+    ASSERT_TRUE(form.TakeSelectionRun());
+    form.mnuNewProject.UserClick();
+    EXPECT_FALSE(form.TakeSelectionRun());
+}
+
 TEST_F(TakenRun, HoldsWhatTheSelectionWasMadeOf) {
     openForSelection(typical());
     type(form.txtErrorMargin, "0.5");

@@ -42,7 +42,7 @@ public:
         for (auto& row : model) row.resize(count);
     }
     void insertRow(std::size_t index) {
-        table.insertRow(index);
+        table.insertRows(index, 1);
         model.insert(model.begin() + static_cast<std::ptrdiff_t>(index), std::vector<Cell>(cols));
     }
     void eraseRow(std::size_t index) {

@@ -11,11 +11,16 @@
 namespace {
 
 /// A gap buffer beside a vector to which the same is done.
+template <class Element>
 class GapBufferAndModel {
 public:
-    void insert(std::size_t index, const std::string& element) {
+    void insert(std::size_t index, const Element& element) {
         *buffer.insert(index) = element;
         model.insert(model.begin() + static_cast<std::ptrdiff_t>(index), element);
+    }
+    void insertEmpty(std::size_t index, std::size_t count) {
+        buffer.insert(index, count);
+        model.insert(model.begin() + static_cast<std::ptrdiff_t>(index), count, Element());
     }
     void erase(std::size_t index) {
         buffer.erase(index);
@@ -25,66 +30,83 @@ public:
         buffer.resize(count);
         model.resize(count);
     }
-    void assign(std::size_t index, const std::string& element) {
+    void assign(std::size_t index, const Element& element) {
         *buffer[index] = element;
         model[index] = element;
     }
     void expectEqual() {
         ASSERT_EQ(buffer.size(), model.size());
-        const ui::GapBuffer<std::string>& reader = buffer;
+        const ui::GapBuffer<Element>& reader = buffer;
         for (std::size_t i = 0; i < model.size(); ++i) ASSERT_EQ(*reader[i], model[i]) << "at " << i;
     }
+    void expectEqualRun(std::size_t first, std::size_t count) {
+        std::vector<Element> visited;
+        buffer.forEach(first, count, [&](const Element* element) { visited.push_back(*element); });
+        const auto start = model.begin() + static_cast<std::ptrdiff_t>(first);
+        ASSERT_EQ(visited, std::vector<Element>(start, start + static_cast<std::ptrdiff_t>(count)));
+    }
     void expectEqualInOnePiece() {
-        const std::string* elements = buffer.contiguous();
-        ASSERT_EQ(std::vector<std::string>(elements, elements + model.size()), model);
+        const Element* elements = buffer.contiguous();
+        ASSERT_EQ(std::vector<Element>(elements, elements + model.size()), model);
     }
 
-    ui::GapBuffer<std::string> buffer;
-    std::vector<std::string> model;
+    ui::GapBuffer<Element> buffer;
+    std::vector<Element> model;
 };
+
+/// Does anything, and looks after each step whether the two are still the same.
+template <class Element, class MakeElement>
+void expectTheSameAfterAnyOperations(unsigned seed, MakeElement makeElement) {
+    SCOPED_TRACE(seed);
+    std::mt19937 random(seed);
+    const auto below = [&](std::size_t limit) { return random() % limit; };
+    GapBufferAndModel<Element> both;
+    for (int step = 0; step < 400; ++step) {
+        const Element element = makeElement(step);
+        const std::size_t size = both.model.size();
+        switch (below(13)) {
+            case 0: both.resize(below(40)); break;
+            case 1: both.expectEqualInOnePiece(); break;
+            case 2:
+                if (size > 0) both.assign(below(size), element);
+                break;
+            case 3:
+            case 4:
+            case 5:
+                if (size > 0) both.erase(below(size));
+                break;
+            case 6:
+                // A run at one place, as a block of rows that goes or comes.
+                for (std::size_t at = below(size + 1), run = below(6); run > 0 && at < both.model.size();
+                     --run)
+                    both.erase(at);
+                break;
+            case 7:
+                for (std::size_t at = below(size + 1), run = below(12); run > 0; --run)
+                    both.insert(at, element);
+                break;
+            case 8: both.insertEmpty(below(size + 1), below(12)); break;
+            default: both.insert(below(size + 1), element); break;
+        }
+        ASSERT_NO_FATAL_FAILURE(both.expectEqual()) << "step " << step;
+        const std::size_t first = below(both.model.size() + 1);
+        ASSERT_NO_FATAL_FAILURE(both.expectEqualRun(first, below(both.model.size() - first + 1)));
+    }
+}
 
 }  // namespace
 
 TEST(GapBuffer, HoldsWhatAVectorHoldsAfterAnyOperations) {
     for (unsigned seed = 1; seed <= 60; ++seed) {
-        SCOPED_TRACE(seed);
-        std::mt19937 random(seed);
-        const auto below = [&](std::size_t limit) { return random() % limit; };
-        GapBufferAndModel both;
-        for (int step = 0; step < 400; ++step) {
-            // Long enough that the texts stand on the heap, where a wrong move shows.
-            const std::string element = "element number " + std::to_string(step) + " of this round";
-            const std::size_t size = both.model.size();
-            switch (below(12)) {
-                case 0: both.resize(below(40)); break;
-                case 1: both.expectEqualInOnePiece(); break;
-                case 2:
-                    if (size > 0) both.assign(below(size), element);
-                    break;
-                case 3:
-                case 4:
-                case 5:
-                    if (size > 0) both.erase(below(size));
-                    break;
-                case 6:
-                    // A run at one place, as a block of rows that goes or comes.
-                    for (std::size_t at = below(size + 1), run = below(6); run > 0 && at < both.model.size();
-                         --run)
-                        both.erase(at);
-                    break;
-                case 7:
-                    for (std::size_t at = below(size + 1), run = below(12); run > 0; --run)
-                        both.insert(at, element);
-                    break;
-                default: both.insert(below(size + 1), element); break;
-            }
-            ASSERT_NO_FATAL_FAILURE(both.expectEqual()) << "step " << step;
-        }
+        // Long enough that the texts stand on the heap, where a wrong move shows.
+        expectTheSameAfterAnyOperations<std::string>(
+            seed, [](int step) { return "element number " + std::to_string(step) + " of this round"; });
+        expectTheSameAfterAnyOperations<int>(seed, [](int step) { return step + 1; });
     }
 }
 
 TEST(GapBuffer, GivesEmptyElementsWhereItGrowsAgain) {
-    GapBufferAndModel both;
+    GapBufferAndModel<std::string> both;
     for (int i = 0; i < 5; ++i) both.insert(0, "a text that is not short at all");
     both.erase(2);
     both.resize(2);

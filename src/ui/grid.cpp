@@ -35,6 +35,7 @@ void Grid::requireRoomFor(int rows, int cols) const {
 void Grid::Rows(int count) {
     requireRoomFor(count, Cols());
     if (count == Rows()) return;
+    tellReshape();
     reportChange();
     sortMark_ = {};
     cells_.resizeRows(static_cast<std::size_t>(count));
@@ -45,6 +46,7 @@ void Grid::Rows(int count) {
 void Grid::Cols(int count) {
     requireRoomFor(Rows(), count);
     if (count == Cols()) return;
+    tellReshape();
     reportChange();
     sortMark_ = {};
     // Where the memory runs out, the grid stays as wide as it was.
@@ -56,6 +58,7 @@ void Grid::Cols(int count) {
 void Grid::AddItem(std::string_view text, int row) {
     if (row < 0 || row > Rows()) raise(ErrorNumber::SubscriptOutOfRange);
     requireRoomFor(Rows() + 1, Cols());
+    tellReshape();
     reportChange();
     sortMark_ = {};
     cells_.insertRow(static_cast<std::size_t>(row));
@@ -69,6 +72,7 @@ void Grid::ReserveRows(long long more) {
 
 void Grid::RemoveItem(int row) {
     if (row < 0 || row >= Rows()) raise(ErrorNumber::SubscriptOutOfRange);
+    tellReshape();
     reportChange();
     cells_.eraseRow(static_cast<std::size_t>(row));
     forgetWidths();
@@ -89,7 +93,8 @@ void Grid::keepCurrentCellInside() {
 }
 
 bool Grid::mayLeaveFor(int row, int col) {
-    if (row == row_ && col == col_) return true;
+    if ((row == row_ && col == col_) || !BeforeRowColChange) return true;
+    const ToldDeed deed(watch_, CellDeed::Leave, row_, col_);
     bool cancel = false;
     BeforeRowColChange(row_, col_, row, col, cancel);
     return !cancel;

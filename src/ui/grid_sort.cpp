@@ -44,6 +44,7 @@ void Grid::Sort(SortOrder order) {
     reportChange();
     sortMark_ = oneCell ? SortMark{col_, order == SortOrder::GenericDescending} : SortMark{};
     if (first >= last) return;
+    tellReshape();
 
     const auto count = static_cast<std::size_t>(last - first + 1);
     std::vector<SortKey> keys(count);

@@ -79,6 +79,13 @@ void Grid::RemoveItem(int row) {
     keepCurrentCellInside();
 }
 
+/// Apart, so that writing a cell of a grid that nobody watches stays as short as it is.
+void Grid::tellWrite(int row, int col) { changeWatch_->willWrite(row, col); }
+
+void Grid::tellReshape() {
+    if (changeWatch_ != nullptr) changeWatch_->willReshape();
+}
+
 void Grid::forgetWidths() {
     for (ColumnData& column : columns_) column.MeasuredWidth = NotMeasured;
 }

@@ -75,7 +75,8 @@ public:
     }
     void TextMatrix(int row, int col, std::string_view text) {
         requireCell(row, col);
-        if (changeWatch_ != nullptr) changeWatch_->willWrite(row, col);
+        if (changeWatch_ != nullptr) [[unlikely]]
+            tellWrite(row, col);
         cells_.text(static_cast<std::size_t>(row), static_cast<std::size_t>(col), text);
         columns_[static_cast<std::size_t>(col)].MeasuredWidth = NotMeasured;
         if (col == sortMark_.Col) sortMark_ = {};
@@ -246,9 +247,8 @@ private:
     static constexpr int DefaultColumnWidth = 960;
     static constexpr int NotMeasured = -1;
 
-    void tellReshape() {
-        if (changeWatch_ != nullptr) changeWatch_->willReshape();
-    }
+    void tellWrite(int row, int col);
+    void tellReshape();
     bool contains(int row, int col) const { return row >= 0 && row < Rows() && col >= 0 && col < Cols(); }
     void requireCell(int row, int col) const {
         if (!contains(row, col)) raise(ErrorNumber::SubscriptOutOfRange);

@@ -189,7 +189,8 @@ private slots:
         QCOMPARE(w.text(2, 3), std::string("b"));
         QCOMPARE(w.text(3, 2), std::string("c"));
         QCOMPARE(w.text(3, 3), std::string("d"));
-        QCOMPARE(w.current(), (CellAddress{3, 3}));
+        QCOMPARE(w.current(), (CellAddress{2, 2}));
+        QCOMPARE(w.selectedTo(), (CellAddress{3, 3}));
         QCOMPARE(w.platform.Beeps, 0);
     }
 

@@ -406,7 +406,7 @@ private slots:
     void theMenuOffersBoth() {
         HistoryWindow w;
         const auto enabled = [&] {
-            QContextMenuEvent open(QContextMenuEvent::Keyboard, QPoint());
+            QContextMenuEvent open(QContextMenuEvent::Keyboard, QPoint(), QPoint());
             QApplication::sendEvent(&w.view, &open);
             const auto menus = w.view.findChildren<QMenu*>();
             QStringList texts;

@@ -52,7 +52,7 @@ User::Step note(QStringList& noted) {
     return [&noted](QWidget& box) {
         QString said = box.accessibleDescription();
         noted << said.replace('\n', " / ") + (buttonOf(box, OkToRest) != nullptr ? " +" : "");
-        QTest::keyClick(box.focusWidget(), Qt::Key_Return);
+        QTest::keyClick(&box, Qt::Key_Return);
         return true;
     };
 }
@@ -152,7 +152,7 @@ private slots:
         User user({press(Qt::Key_Return), press(Qt::Key_Return), pressButton(OkToRest),
                    [&](QWidget& box) {
                        order << box.accessibleDescription();
-                       QTest::keyClick(box.focusWidget(), Qt::Key_Return);
+                       QTest::keyClick(&box, Qt::Key_Return);
                        return true;
                    },
                    [&](QWidget& list) {

@@ -9,7 +9,9 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScreen>
+#include <QStyle>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "desktop/dialogues.h"
 #include "desktop/own/own_texts.h"
@@ -20,10 +22,9 @@ namespace desktop {
 
 namespace {
 
-constexpr int ListWidth = 90;   // average characters
-constexpr int ListHeight = 20;  // lines
-
 using own_words::said;
+
+constexpr int MostLines = 20;  // of the list, on view at once
 
 /// A line for each, so that a spreadsheet takes them as a column; one of several lines stands apart.
 QString inOneText(const QStringList& texts) {
@@ -33,6 +34,16 @@ QString inOneText(const QStringList& texts) {
         all += text;
     }
     return all;
+}
+
+/// As wide as its longest line and as high as its lines, or as many as show at once.
+QSize sizeFor(const QPlainTextEdit& text) {
+    const QFontMetrics font = text.fontMetrics();
+    const int bar = text.style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    const int margins = 2 * static_cast<int>(text.document()->documentMargin() + text.frameWidth()) + bar;
+    const int lines = std::min(text.blockCount() + 1, MostLines);
+    const QRect needed = font.boundingRect(QRect(), Qt::AlignLeft, text.toPlainText());
+    return {needed.width() + margins, font.lineSpacing() * lines + margins};
 }
 
 /// A box that tells its number; returns whether the rest is answered with it.
@@ -66,7 +77,7 @@ void CommandBoxes::show(QWidget* owner, const std::string& text, const std::stri
     row_.RestIsAnswered = showNumbered(owner, text, title, icon, row_.Count);
 }
 
-/// The text can be read and copied as any other, by keys as well.
+/// The text can be read and copied as any other, by keys as well. A text is one line of it.
 void CommandBoxes::showTaken(QWidget* owner) {
     const QStringList texts = std::exchange(row_.Texts, {});
     if (texts.isEmpty()) return;
@@ -78,10 +89,9 @@ void CommandBoxes::showTaken(QWidget* owner) {
     text->setReadOnly(true);
     text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     text->setTabChangesFocus(true);
+    text->setLineWrapMode(QPlainTextEdit::NoWrap);
     text->setAccessibleName(heading->text());
-    const QFontMetrics font = text->fontMetrics();
-    const QSize wanted(font.averageCharWidth() * ListWidth, font.lineSpacing() * ListHeight);
-    text->setMinimumSize(wanted.boundedTo(list.screen()->availableSize() * 6 / 10));
+    text->setMinimumSize(sizeFor(*text).boundedTo(list.screen()->availableSize() * 7 / 10));
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);
     auto* copy = buttons->addButton(said(own_texts::CopyAll), QDialogButtonBox::ActionRole);
     QObject::connect(copy, &QPushButton::clicked,

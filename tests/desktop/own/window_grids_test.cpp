@@ -265,7 +265,7 @@ private slots:
         QCOMPARE(w.text(use, 0, 2), std::string("2"));
         w.key(use, Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
         QCOMPARE(QApplication::clipboard()->text(),
-                 QString("Species name\tHabitat 2\tHabitat 3\nSpecies 1\t1\t1\nSpecies 2\t1\t1"));
+                 QString("Common Name\tHabitat 2\tHabitat 3\nSpecies 1\t1\t1\nSpecies 2\t1\t1"));
         QCOMPARE(w.text(use, 0, 2), std::string("2"));
     }
 };

@@ -181,7 +181,7 @@ public:
 
     /// Who is told what the user does in cells; null for nobody, as at first.
     void Watch(CellWatch* watch) { watch_ = watch; }
-    /// Whether the watch is told of each write and change of shape, too. Nothing is lost on a grid that is not asked.
+    /// Whether the watch is told of each write and change of shape, too. Without it these cost what they always did.
     void TellChanges(bool tells) { changeWatch_ = tells ? watch_ : nullptr; }
 
     // The cell under the mouse, -1 where it is over none.

@@ -56,6 +56,7 @@ void Desktop::start() {
 /// The end of all exceptions. A failure ends the program, as the form has nothing to go on with.
 void Desktop::run(const std::function<void()>& action) {
     if (ended_ || busy_) return;
+    const CommandBoxes::Command boxes(platform_.boxes());
     try {
         const Held busy(busy_, true);
         action();
@@ -64,8 +65,9 @@ void Desktop::run(const std::function<void()>& action) {
     }
     followForms();
     keepCopies();
-    if (program_.Ended()) return end(0);
-    followStrip(false);
+    if (!program_.Ended()) followStrip(false);
+    platform_.boxes().showTaken(ownerOfBoxes());
+    if (program_.Ended() && !ended_) end(0);
 }
 
 /// What an open cell editor holds is taken over first, as the action itself would do, so that it is kept as well.
@@ -91,8 +93,10 @@ void Desktop::followStrip(bool programEnds) {
     if (strip_ == nullptr) {
         strip_ =
             std::make_unique<WindowStrip>(*mainWindow_, *program_.MainForm(), program_.GetFiles(), copies_);
+        grids_ = std::make_unique<WindowGrids>(*mainWindow_, *program_.MainForm());
     }
     strip_->look(programEnds);
+    grids_->look();
 }
 
 void Desktop::fail(const std::exception_ptr& failure) {
@@ -101,6 +105,7 @@ void Desktop::fail(const std::exception_ptr& failure) {
     followForms();
     followStrip(true);
     while (QApplication::overrideCursor() != nullptr) QApplication::restoreOverrideCursor();
+    platform_.boxes().showTaken(ownerOfBoxes());
     showMessageBox(ownerOfBoxes(), descriptionOf(failure), ui::ApplicationTitle,
                    ui::MessageIcon::Exclamation);
     end(ExitAfterFailure);

@@ -7,6 +7,7 @@
 
 #include "desktop/form_view.h"
 #include "desktop/own/project_copies.h"
+#include "desktop/own/window_grids.h"
 #include "desktop/own/window_strip.h"
 #include "desktop/qt_platform.h"
 #include "project/modStartup.h"
@@ -54,6 +55,7 @@ private:
     std::unique_ptr<FormView> splash_;
     std::unique_ptr<FormView> mainWindow_;
     std::unique_ptr<WindowStrip> strip_;  // from the main window's beginning on
+    std::unique_ptr<WindowGrids> grids_;  // just so
     bool busy_ = false;
     bool ended_ = false;
 };

@@ -14,6 +14,7 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QStandardPaths>
+#include <QStyle>
 #include <QVBoxLayout>
 
 #include "desktop/texts.h"
@@ -92,10 +93,21 @@ QWidget* Box::makeText(const QString& text) {
     return scrolled_;
 }
 
-void Box::setIcon(QStyle::StandardPixmap icon) {
+void Box::setIcon(ui::MessageIcon icon) {
+    if (icon == ui::MessageIcon::None) return;
     const int size = style()->pixelMetric(QStyle::PM_MessageBoxIconSize);
-    icon_->setPixmap(style()->standardIcon(icon).pixmap(size, size));
+    const bool asks = icon == ui::MessageIcon::Question;
+    const auto picture = asks ? QStyle::SP_MessageBoxQuestion : QStyle::SP_MessageBoxWarning;
+    icon_->setPixmap(style()->standardIcon(picture).pixmap(size, size));
     icon_->show();
+}
+
+void Box::addNote(const QString& note) {
+    auto* label = new QLabel(note, this);
+    label->setForegroundRole(QPalette::PlaceholderText);
+    column_->addSpacing(fontMetrics().height() / 2);
+    column_->addWidget(label);
+    setAccessibleDescription(accessibleDescription() + '\n' + note);
 }
 
 QLineEdit& Box::addAnswer(const std::string& proposed) {
@@ -133,15 +145,14 @@ bool Box::eventFilter(QObject*, QEvent* event) {
 void showMessageBox(QWidget* parent, const std::string& text, const std::string& title,
                     ui::MessageIcon icon) {
     Box box(parent, title, text);
-    if (icon == ui::MessageIcon::Exclamation) box.setIcon(QStyle::SP_MessageBoxWarning);
-    if (icon == ui::MessageIcon::Question) box.setIcon(QStyle::SP_MessageBoxQuestion);
+    box.setIcon(icon);
     box.buttons().setStandardButtons(QDialogButtonBox::Ok);
     box.exec();
 }
 
 bool showQuestionBox(QWidget* parent, const std::string& text, const std::string& title) {
     Box box(parent, title, text);
-    box.setIcon(QStyle::SP_MessageBoxQuestion);
+    box.setIcon(ui::MessageIcon::Question);
     box.buttons().setStandardButtons(QDialogButtonBox::Yes | QDialogButtonBox::No);
     box.mustBeAnswered();
     QPushButton* yes = box.buttons().button(QDialogButtonBox::Yes);

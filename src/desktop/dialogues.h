@@ -5,7 +5,6 @@
 #include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
-#include <QStyle>
 #include <optional>
 #include <string>
 
@@ -23,7 +22,9 @@ class Box : public QDialog {
 public:
     Box(QWidget* parent, const std::string& title, const std::string& text);
 
-    void setIcon(QStyle::StandardPixmap icon);
+    void setIcon(ui::MessageIcon icon);
+    /// A line in small print under the text, which belongs to what the box says.
+    void addNote(const QString& note);
     /// A line to answer in, with the proposed answer selected.
     QLineEdit& addAnswer(const std::string& proposed);
     QDialogButtonBox& buttons() { return *buttons_; }

@@ -9,19 +9,32 @@
 
 #include "desktop/cell_editor.h"
 #include "desktop/grid_view.h"
+#include "desktop/own/cell_history.h"
 
 namespace desktop {
 
+namespace {
+
+const QKeyCombination OtherRedo = Qt::CTRL | Qt::Key_Y;
+
+bool isRedo(const QKeyEvent& event) {
+    return event.matches(QKeySequence::Redo) || event.keyCombination() == OtherRedo;
+}
+
+}  // namespace
+
 void GridView::keyPressEvent(QKeyEvent* event) {
     if (grid_.Editing() && editorKey(event)) return;
-    if (clipboardKey(event) || moveKey(event) || editKey(event)) return;
+    if (clipboardKey(event) || historyKey(event) || moveKey(event) || editKey(event)) return;
     event->ignore();
 }
 
 /// Keys that a menu of the window might take for its own.
 bool GridView::isOwnShortcut(QKeyEvent& key) {
-    return isTyping(key) || key.matches(QKeySequence::Copy) || key.matches(QKeySequence::Paste) ||
-           key.matches(QKeySequence::Cut) || key.matches(QKeySequence::SelectAll);
+    constexpr QKeySequence::StandardKey Own[] = {QKeySequence::Copy, QKeySequence::Paste, QKeySequence::Cut,
+                                                 QKeySequence::SelectAll, QKeySequence::Undo};
+    return isTyping(key) || isRedo(key) || key.keyCombination() == CopyWithHeadingsKeys ||
+           std::any_of(std::begin(Own), std::end(Own), [&](auto own) { return key.matches(own); });
 }
 
 bool GridView::editorKey(QKeyEvent* event) {
@@ -50,15 +63,22 @@ bool GridView::clipboardKey(QKeyEvent* event) {
     if (event->matches(QKeySequence::Paste)) return pasteCells(), true;
     if (event->matches(QKeySequence::SelectAll)) return selectAll(), true;
     if (event->matches(QKeySequence::Cut)) return cutCell(), true;
+    if (event->keyCombination() == CopyWithHeadingsKeys) return copyWithHeadings(), true;
     return false;
 }
 
-/// Only one cell at a time can be emptied.
-void GridView::cutCell() {
-    if (grid_.Editable == ui::EditMode::ReadOnly) return;
-    const bool oneCell = grid_.Row() == grid_.RowSel() && grid_.Col() == grid_.ColSel();
-    copyCells();
-    if (oneCell) act([this] { grid_.UserDelete(); });
+/// In an open editor what was typed is taken back, which is no step yet.
+bool GridView::historyKey(QKeyEvent* event) {
+    if (event->matches(QKeySequence::Undo)) {
+        if (grid_.Editing()) return act([this] { grid_.UserCancelEdit(); }), true;
+        return replay(&CellHistory::undo), true;
+    }
+    if (isRedo(*event)) return replay(&CellHistory::redo), true;
+    return false;
+}
+
+void GridView::replay(bool (CellHistory::*way)()) {
+    if (additions_.History != nullptr) step([=, this] { return (additions_.History->*way)(); });
 }
 
 bool GridView::moveKey(QKeyEvent* event) {

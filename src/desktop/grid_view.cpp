@@ -3,12 +3,8 @@
 #include "desktop/grid_view.h"
 
 #include <QAccessible>
-#include <QAction>
 #include <QApplication>
-#include <QClipboard>
-#include <QContextMenuEvent>
 #include <QHelpEvent>
-#include <QMenu>
 #include <QScrollBar>
 #include <QToolTip>
 #include <algorithm>
@@ -16,7 +12,6 @@
 #include "desktop/cell_editor.h"
 #include "desktop/grid_accessible.h"
 #include "desktop/texts.h"
-#include "ui/window_texts.h"
 
 namespace desktop {
 
@@ -236,59 +231,6 @@ void GridView::reveal(CellAddress cell) {
     if (beyond > 0) columns->setValue(columns->value() + beyond);
     const int before = geometry_.bodyLeft() - geometry_.left(cell.Col);
     if (before > 0) columns->setValue(columns->value() - before);
-}
-
-/// A right click on a cell outside the selection is meant for that cell.
-void GridView::moveToClicked(QPoint place) {
-    const CellAddress cell = geometry_.cellAt(place);
-    const auto within = [](int index, int one, int other) {
-        return index >= std::min(one, other) && index <= std::max(one, other);
-    };
-    if (grid_.Editing() || cell.Row < geometry_.fixedRows() || cell.Col < geometry_.fixedCols()) return;
-    const bool selected =
-        within(cell.Row, grid_.Row(), grid_.RowSel()) && within(cell.Col, grid_.Col(), grid_.ColSel());
-    if (!selected) act([&] { grid_.UserMoveTo(cell.Row, cell.Col); });
-}
-
-void GridView::contextMenuEvent(QContextMenuEvent* event) {
-    if (event->reason() == QContextMenuEvent::Mouse) moveToClicked(event->pos());
-    auto* menu = new QMenu(this);
-    menu->setAttribute(Qt::WA_DeleteOnClose);
-    const auto add = [&](const char* text, QKeySequence::StandardKey keys, bool enabled, auto action) {
-        QAction* added = menu->addAction(QString::fromUtf8(text), this, action);
-        added->setShortcut(keys);
-        added->setShortcutVisibleInContextMenu(true);
-        added->setEnabled(enabled);
-    };
-    const bool pastes =
-        grid_.Editable != ui::EditMode::ReadOnly && !QApplication::clipboard()->text().isEmpty();
-    if (grid_.Editing()) {
-        const bool any = grid_.Editor().SelLength() > 0;
-        add(ui::window_text::CutText, QKeySequence::Cut, any, [this] { editor_->cut(); });
-        add(ui::window_text::CopyText, QKeySequence::Copy, any, [this] { copyCells(); });
-        add(ui::window_text::PasteText, QKeySequence::Paste, pastes, [this] { pasteCells(); });
-        add(ui::window_text::SelectAllText, QKeySequence::SelectAll, true, [this] { editor_->selectAll(); });
-    } else {
-        add(ui::window_text::CopyCells, QKeySequence::Copy, true, [this] { copyCells(); });
-        add(ui::window_text::PasteCells, QKeySequence::Paste, pastes, [this] { pasteCells(); });
-    }
-    menu->popup(event->globalPos());
-}
-
-void GridView::copyCells() const {
-    if (grid_.Editing()) return editor_->copy();
-    QApplication::clipboard()->setText(QString::fromStdString(grid_.SelectedText()));
-}
-
-void GridView::pasteCells() {
-    if (grid_.Editing()) return editor_->paste();
-    const std::string lines = utf8(QApplication::clipboard()->text());
-    if (grid_.Editable == ui::EditMode::ReadOnly || lines.empty()) return;
-    act([&] {
-        grid_.UserEnterBody();
-        grid_.UserPasteBlock(lines);
-    });
-    reveal({grid_.Row(), grid_.Col()});
 }
 
 }  // namespace desktop

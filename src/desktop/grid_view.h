@@ -12,10 +12,19 @@
 #include "desktop/view.h"
 
 class QHelpEvent;
+class QMenu;
 
 namespace desktop {
 
 class CellEditor;
+class CellHistory;
+
+/// What the window adds to a grid beside the form; each may be missing.
+struct GridAdditions {
+    CellHistory* History = nullptr;
+    /// The heading of a column as it is copied, with a name where the grid shows a number.
+    std::function<std::string(int col)> HeadingOf;
+};
 
 /// Shows a grid and takes the user's keys and mouse to it. It keeps a picture of what it shows: many changes are drawn
 /// once, and while the grid's Redraw is off the last picture stays.
@@ -28,6 +37,8 @@ public:
 
     QWidget& widget() override { return *this; }
     void follow() override;
+
+    void add(GridAdditions additions) { additions_ = std::move(additions); }
 
     ui::Grid& grid() const { return grid_; }
     /// The place of a cell in the viewport; empty for a hidden one.
@@ -72,6 +83,8 @@ private:
     bool editorKey(QKeyEvent* event);
     bool goByTab(bool backwards);
     bool clipboardKey(QKeyEvent* event);
+    bool historyKey(QKeyEvent* event);
+    void replay(bool (CellHistory::*way)());
     bool moveKey(QKeyEvent* event);
     bool editKey(QKeyEvent* event);
     CellAddress target(int key, bool toCorner, CellAddress from) const;
@@ -82,10 +95,18 @@ private:
     void edit(const std::function<void()>& keys);
     void beginEdit();
     void typeText(const QString& text);
+
+    // The clipboard, and the menu (grid_clipboard.cpp).
+    static constexpr QKeyCombination CopyWithHeadingsKeys = Qt::CTRL | Qt::SHIFT | Qt::Key_C;
     void moveToClicked(QPoint place);
+    bool canPaste() const;
+    void offerForText(QMenu& menu);
+    void offerForCells(QMenu& menu);
     void cutCell();
     void copyCells() const;
+    void copyWithHeadings() const;
     void pasteCells();
+    void tellWherePastingStopped(const ui::PastedBlock& block);
 
     // The mouse (grid_mouse.cpp).
     void hover(QPoint place);
@@ -100,6 +121,7 @@ private:
     GridGeometry geometry_;
     GridPainter painter_;
     CellEditor* editor_;
+    GridAdditions additions_;
     QPixmap picture_;
     bool outdated_ = true;
     CellAddress toldCell_;

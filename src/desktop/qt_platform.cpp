@@ -55,7 +55,8 @@ bool isFolder(const QString& path) { return QDir(path).exists(); }
 }  // namespace
 
 void QtPlatform::showMessage(const std::string& text, const std::string& title, ui::MessageIcon icon) {
-    withBox(windows_, [&](QWidget* owner) { showMessageBox(owner, text, title, icon); });
+    if (boxes_.takes(text)) return;
+    withBox(windows_, [&](QWidget* owner) { boxes_.show(owner, text, title, icon); });
 }
 
 bool QtPlatform::askYesNo(const std::string& prompt, const std::string& title) {

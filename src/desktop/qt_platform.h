@@ -8,6 +8,7 @@
 #include <functional>
 #include <unordered_map>
 
+#include "desktop/own/command_boxes.h"
 #include "desktop/scale.h"
 #include "ui/platform.h"
 
@@ -50,6 +51,9 @@ public:
     std::string programFolder() const override;
     ui::DecimalSeparator decimalSeparator() const override;
 
+    /// The boxes that only tell, by command.
+    CommandBoxes& boxes() { return boxes_; }
+
 private:
     struct TextHash {
         using is_transparent = void;
@@ -65,6 +69,7 @@ private:
 
     const Scale& scale_;
     Windows& windows_;
+    CommandBoxes boxes_;
     mutable std::vector<Widths> widths_;
     QString lastFolder_;
 };

@@ -196,6 +196,8 @@ public:
     bool isExportable(const ExportTable& table) const;
     /// Writes the table as a grid text file, with the long names as headings where the table has them.
     void SaveTable(const ExportTable& table, const std::string& path);
+    /// A column's heading, with the name of the unit where the grid shows its number.
+    std::string HeadingInWords(const ui::Grid& grid, int col) const;
 
     // scoring/grid_import.cpp
     void ImportData(int importCase, const std::string& path, bool firstLineIsHeading);
@@ -407,6 +409,8 @@ private:
 
     // scoring/grid_exchange.cpp
     std::vector<ExportTable> makeExportTables();
+    struct NumberedColumns;
+    NumberedColumns numberedColumns(const ExportTable& table) const;
     int currentView() const;
     bool userWantsFirst();
     void showNoGrid(std::string_view command);

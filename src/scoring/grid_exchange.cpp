@@ -49,27 +49,49 @@ bool frmBrenica::isExportable(const ExportTable& table) const {
     return table.Grid != &flxBins || HomeRangeType == 2;
 }
 
-void frmBrenica::SaveTable(const ExportTable& table, const std::string& path) {
-    const auto writeHeadings = [&](const ui::Grid* names, int count, int offset) {
-        for (int i = 1; i <= count; ++i) {
-            table.Grid->TextMatrix(0, i + offset,
-                                   names != nullptr ? names->TextMatrix(i, list::Name) : ui::toText(i));
-        }
-    };
-    const auto saveWithNames = [&](const ui::Grid& names, int count, int offset) {
-        table.Grid->Redraw(false);
-        writeHeadings(&names, count, offset);
-        table.Grid->SaveGrid(files_, path, ui::GridFileFormat::TabDelimited);
-        writeHeadings(nullptr, count, offset);
-        table.Grid->Redraw(true);
-    };
+/// The columns of a table that show the numbers of a list, and that list.
+struct frmBrenica::NumberedColumns {
+    const ui::Grid* Names = nullptr;
+    int Count = 0;
+    int Offset = 0;
+};
+
+frmBrenica::NumberedColumns frmBrenica::numberedColumns(const ExportTable& table) const {
     switch (table.Headings) {
-        case LongHeadings::None: return table.Grid->SaveGrid(files_, path, ui::GridFileFormat::TabDelimited);
-        case LongHeadings::HabitatNames: return saveWithNames(flxHabitatTypes, global_.TotalHabitatTypes, 0);
-        case LongHeadings::JurisUnitNames: return saveWithNames(flxJurisUnits, global_.TotalJurisUnits, 0);
+        case LongHeadings::None: break;
+        case LongHeadings::HabitatNames: return {&flxHabitatTypes, global_.TotalHabitatTypes};
+        case LongHeadings::JurisUnitNames: return {&flxJurisUnits, global_.TotalJurisUnits};
         case LongHeadings::ThreatNames:
-            return saveWithNames(flxLandUses, global_.TotalLandUses, vulnerability::ThreatOffset);
+            return {&flxLandUses, global_.TotalLandUses, vulnerability::ThreatOffset};
     }
+    return {};
+}
+
+void frmBrenica::SaveTable(const ExportTable& table, const std::string& path) {
+    const NumberedColumns numbered = numberedColumns(table);
+    const auto save = [&] { table.Grid->SaveGrid(files_, path, ui::GridFileFormat::TabDelimited); };
+    if (numbered.Names == nullptr) return save();
+    const auto writeHeadings = [&](const auto& headingOf) {
+        for (int i = 1; i <= numbered.Count; ++i)
+            table.Grid->TextMatrix(0, i + numbered.Offset, headingOf(i));
+    };
+    table.Grid->Redraw(false);
+    writeHeadings([&](int i) { return numbered.Names->TextMatrix(i, list::Name); });
+    save();
+    writeHeadings([](int i) { return ui::toText(i); });
+    table.Grid->Redraw(true);
+}
+
+std::string frmBrenica::HeadingInWords(const ui::Grid& grid, int col) const {
+    for (const ExportTable& table : exportTables_) {
+        if (table.Grid != &grid) continue;
+        const NumberedColumns numbered = numberedColumns(table);
+        const int unit = col - numbered.Offset;
+        if (unit < 1 || unit > numbered.Count) continue;
+        const std::string_view name = numbered.Names->TextMatrix(unit, list::Name);
+        if (!ui::isBlank(name)) return std::string(name);
+    }
+    return std::string(grid.TextMatrix(0, col));
 }
 
 /// The table on view. Where a view holds two tables the user chooses; all but the lists are for export only.

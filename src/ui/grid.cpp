@@ -35,6 +35,7 @@ void Grid::requireRoomFor(int rows, int cols) const {
 void Grid::Rows(int count) {
     requireRoomFor(count, Cols());
     if (count == Rows()) return;
+    tellReshape();
     contentChanged();
     sortMark_ = {};
     cells_.resizeRows(static_cast<std::size_t>(count));
@@ -45,6 +46,7 @@ void Grid::Rows(int count) {
 void Grid::Cols(int count) {
     requireRoomFor(Rows(), count);
     if (count == Cols()) return;
+    tellReshape();
     contentChanged();
     sortMark_ = {};
     // Where the memory runs out, the grid stays as wide as it was.
@@ -66,6 +68,7 @@ void Grid::AddEmptyRows(int row, int count) {
 void Grid::insertRows(int row, int count) {
     if (row < 0 || row > Rows()) raise(ErrorNumber::SubscriptOutOfRange);
     requireRoomFor(Rows() + count, Cols());
+    tellReshape();
     contentChanged();
     sortMark_ = {};
     cells_.insertRows(static_cast<std::size_t>(row), static_cast<std::size_t>(count));
@@ -75,6 +78,7 @@ void Grid::insertRows(int row, int count) {
 void Grid::CopyText(int row, int col, int fromRow) {
     requireCell(row, col);
     requireCell(fromRow, col);
+    tellWrites(row, col, 0, 0, 1);
     cells_.copyText(size(row), size(col), size(fromRow));
     textsChanged(col);
     if (CellChanged) CellChanged(row, col);
@@ -84,6 +88,7 @@ void Grid::FillColumn(int col, int row, int step, int count, std::string_view te
     if (count < 1) return;
     requireCell(row, col);
     const int inside = step == 0 ? count : std::min(count, (Rows() - 1 - row) / step + 1);
+    tellWrites(row, col, step, 0, inside);
     cells_.fill({size(row), size(step), size(inside)}, size(col), text);
     textsChanged(col);
     reportWritten(row, col, step, 0, inside);
@@ -95,6 +100,7 @@ void Grid::WriteColumn(int col, int row, int step, std::span<const std::string_v
     requireCell(row, col);
     const int count = static_cast<int>(texts.size());
     const int inside = step == 0 ? count : std::min(count, (Rows() - 1 - row) / step + 1);
+    tellWrites(row, col, step, 0, inside);
     for (int i = 0; i < inside; ++i) cells_.text(size(row + i * step), size(col), texts[size(i)]);
     textsChanged(col);
     reportWritten(row, col, step, 0, inside);
@@ -106,12 +112,18 @@ void Grid::WriteRow(int row, int col, std::span<const std::string_view> texts) {
     requireCell(row, col);
     const int count = static_cast<int>(texts.size());
     const int inside = std::min(count, Cols() - col);
+    tellWrites(row, col, 0, 1, inside);
     for (int i = 0; i < inside; ++i) {
         cells_.text(size(row), size(col + i), texts[size(i)]);
         textsChanged(col + i);
     }
     reportWritten(row, col, 0, 1, inside);
     if (inside < count) raise(ErrorNumber::SubscriptOutOfRange);
+}
+
+void Grid::tellWrites(int row, int col, int rowStep, int colStep, int count) {
+    for (int i = 0; changeWatch_ != nullptr && i < count; ++i)
+        tellWrite(row + i * rowStep, col + i * colStep);
 }
 
 void Grid::reportWritten(int row, int col, int rowStep, int colStep, int count) {
@@ -124,10 +136,18 @@ void Grid::ReserveRows(long long more) {
 
 void Grid::RemoveItem(int row) {
     if (row < 0 || row >= Rows()) raise(ErrorNumber::SubscriptOutOfRange);
+    tellReshape();
     contentChanged();
     cells_.eraseRow(static_cast<std::size_t>(row));
     forgetWidths();
     keepCurrentCellInside();
+}
+
+/// Apart, so that writing a cell of a grid that nobody watches stays as short as it is.
+void Grid::tellWrite(int row, int col) { changeWatch_->willWrite(row, col); }
+
+void Grid::tellReshape() {
+    if (changeWatch_ != nullptr) changeWatch_->willReshape();
 }
 
 void Grid::forgetWidths() {
@@ -144,7 +164,8 @@ void Grid::keepCurrentCellInside() {
 }
 
 bool Grid::mayLeaveFor(int row, int col) {
-    if (row == row_ && col == col_) return true;
+    if ((row == row_ && col == col_) || !BeforeRowColChange) return true;
+    const ToldDeed deed(watch_, CellDeed::Leave, row_, col_);
     bool cancel = false;
     BeforeRowColChange(row_, col_, row, col, cancel);
     return !cancel;

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <functional>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -11,6 +13,7 @@
 
 #include "ui/appearance.h"
 #include "ui/cell_table.h"
+#include "ui/cell_watch.h"
 #include "ui/control.h"
 #include "ui/errors.h"
 #include "ui/event.h"
@@ -25,6 +28,12 @@ enum class SortOrder { GenericAscending = 1, GenericDescending = 2, TextAscendin
 enum class EditMode { ReadOnly = 0, KeyboardAndMouse = 2 };
 /// The formats of SaveGrid.
 enum class GridFileFormat { TabDelimited = 4 };
+/// What a block of cells that was pasted has come to.
+struct PastedBlock {
+    int Left = 0;  ///< cells that were not pasted, the refused one among them
+    /// What the cell that is now the current one refused; nothing where all was pasted, or there was no cell for the rest.
+    std::optional<std::string> Refused;
+};
 
 /// A rectangular table of text cells with heading rows and columns, counted from 0 at the top left. Cells are the
 /// program's store. A cell address outside the grid raises SubscriptOutOfRange.
@@ -88,6 +97,8 @@ public:
     }
     void TextMatrix(int row, int col, std::string_view text) {
         requireCell(row, col);
+        if (changeWatch_ != nullptr) [[unlikely]]
+            tellWrite(row, col);
         cells_.text(size(row), size(col), text);
         textsChanged(col);
         if (CellChanged) CellChanged(row, col);
@@ -201,6 +212,11 @@ public:
     const std::string& EditText() const { return editor_.Text(); }
     const TextEditor& Editor() const { return editor_; }
 
+    /// Who is told what the user does in cells; null for nobody, as at first.
+    void Watch(CellWatch* watch) { watch_ = watch; }
+    /// Whether the watch is told of each write and change of shape, too. Without it these cost what they always did.
+    void TellChanges(bool tells) { changeWatch_ = tells ? watch_ : nullptr; }
+
     // The cell under the mouse, -1 where it is over none.
     int MouseRow() const { return mouseRow_; }
     int MouseCol() const { return mouseCol_; }
@@ -222,9 +238,13 @@ public:
     bool UserSelectTo(int row, int col);
     /// The selected cells as lines of tab-separated texts, hidden columns left out.
     std::string SelectedText() const;
-    /// Puts lines of tab-separated texts into the cells from the current one on, each through an edit of its own, the
-    /// current cell moving along; stops with a beep at the first cell that refuses, or that is not there.
-    bool UserPasteBlock(std::string_view lines);
+    /// The same below the headings of its columns and behind the fixed columns. `headingOf` tells what is said for a
+    /// column's heading; without it that is what the grid shows.
+    std::string SelectedTextWithHeadings(const std::function<std::string(int col)>& headingOf) const;
+    /// Puts lines of tab-separated texts into the cells from the current one on, each through an edit of its own, and
+    /// selects these; a blank text leaves a cell with a list as it is. Stops with a beep at the first cell that refuses,
+    /// or that is not there. Nothing where the grid takes no action.
+    std::optional<PastedBlock> UserPasteBlock(std::string_view lines);
     /// Drags the edge of a column; the next fit takes the width back.
     void UserDragColumn(int col, int width);
     /// Makes a column as wide as its widest text.
@@ -242,6 +262,9 @@ public:
     void UserCancelEdit();
     /// Empties the current cell through an edit of its own; a cell with a list, or one that refuses, keeps its text.
     bool UserDelete();
+    /// Writes a text that stood in the cell before, as a commit does, whatever may be typed or chosen there. False where
+    /// nothing can be edited at present.
+    bool UserPutBack(int row, int col, std::string_view text);
     /// Moves there, opens the editor, puts `text` in and commits; a refused edit is cancelled.
     bool UserEditCell(int row, int col, std::string_view text);
     void UserMouseMove(int row, int col);
@@ -257,6 +280,9 @@ private:
     static constexpr int DefaultColumnWidth = 960;
     static constexpr int NotMeasured = -1;
 
+    void tellWrite(int row, int col);
+    void tellWrites(int row, int col, int rowStep, int colStep, int count);
+    void tellReshape();
     static std::size_t size(int value) { return static_cast<std::size_t>(value); }
     /// A negative number is beyond every size.
     bool contains(int row, int col) const { return size(row) < cells_.rows() && size(col) < cells_.cols(); }
@@ -294,6 +320,9 @@ private:
     void printRows(Files& files, int fileNumber) const;
     bool accept(TextEditor edited);
     void closeEditor();
+    std::vector<int> selectedCols() const;
+    void commit(int row, int col, std::string_view text);
+    bool pasteCell(int row, int col, std::string_view text);
 
     const DecimalSeparator separator_;
     CellTable cells_;
@@ -313,6 +342,8 @@ private:
     TextEditor editor_;
     std::string comboList_;
     bool editing_ = false;
+    CellWatch* watch_ = nullptr;
+    CellWatch* changeWatch_ = nullptr;  ///< the same while it is told of all changes
     int mouseRow_ = -1;
     int mouseCol_ = -1;
 };

@@ -26,6 +26,15 @@ std::string asCell(std::string_view text) {
     return cell;
 }
 
+/// Appends the cells of one line, parted by tabs.
+template <class TextOf>
+void appendLine(std::string& lines, const std::vector<int>& cols, TextOf textOf) {
+    for (std::size_t i = 0; i < cols.size(); ++i) {
+        if (i > 0) lines += '\t';
+        lines += asCell(textOf(cols[i]));
+    }
+}
+
 }  // namespace
 
 bool Grid::UserMoveTo(int row, int col) {
@@ -90,42 +99,81 @@ bool Grid::UserSelectTo(int row, int col) {
     return true;
 }
 
+/// Without hidden ones.
+std::vector<int> Grid::selectedCols() const {
+    std::vector<int> cols;
+    for (int col = std::min(col_, colSel_); contains(row_, col_) && col <= std::max(col_, colSel_); ++col) {
+        if (!column(col).Hidden) cols.push_back(col);
+    }
+    return cols;
+}
+
 std::string Grid::SelectedText() const {
+    const std::vector<int> cols = selectedCols();
     std::string lines;
-    if (!contains(row_, col_)) return lines;
     const int firstRow = std::min(row_, rowSel_);
-    const int lastRow = std::max(row_, rowSel_);
-    const int lastCol = std::max(col_, colSel_);
+    const int lastRow = contains(row_, col_) ? std::max(row_, rowSel_) : firstRow - 1;
     for (int row = firstRow; row <= lastRow; ++row) {
         if (row > firstRow) lines += '\n';
-        std::string line;
-        for (int col = std::min(col_, colSel_); col <= lastCol; ++col) {
-            if (column(col).Hidden) continue;
-            line += asCell(TextMatrix(row, col)) + (col < lastCol ? "\t" : "");
-        }
-        lines += line;
+        appendLine(lines, cols, [&](int col) { return TextMatrix(row, col); });
     }
     return lines;
 }
 
-bool Grid::UserPasteBlock(std::string_view lines) {
-    if (!acceptsUserAction()) return false;
+std::string Grid::SelectedTextWithHeadings(const std::function<std::string(int col)>& headingOf) const {
+    std::vector<int> cols = selectedCols();
+    std::erase_if(cols, [this](int col) { return col < fixedCols_; });
+    for (int col = std::min(fixedCols_, Cols()) - 1; col >= 0; --col) {
+        if (!column(col).Hidden) cols.insert(cols.begin(), col);
+    }
+    std::string lines;
+    const auto append = [&](int row) {
+        if (!lines.empty()) lines += '\n';
+        const bool named = row == 0 && fixedRows_ > 0 && headingOf;
+        appendLine(lines, cols,
+                   [&](int col) { return named ? headingOf(col) : std::string(TextMatrix(row, col)); });
+    };
+    for (int row = 0; row < std::min(fixedRows_, Rows()); ++row) append(row);
+    const int lastRow = contains(row_, col_) ? std::max(row_, rowSel_) : -1;
+    for (int row = std::max(fixedRows_, std::min(row_, rowSel_)); row <= lastRow; ++row) append(row);
+    return lines;
+}
+
+std::optional<PastedBlock> Grid::UserPasteBlock(std::string_view lines) {
+    if (!acceptsUserAction()) return std::nullopt;
+    const ToldDeed deed(watch_, CellDeed::Several, row_, col_);
     if (lines.ends_with('\n')) lines.remove_suffix(1);  // ends the last line; blank cells above it count
-    int row = std::min(row_, rowSel_);
+    const int firstRow = std::min(row_, rowSel_);
     const int firstCol = std::min(col_, colSel_);
+    int row = firstRow;
+    int lastRow = firstRow;
+    int lastCol = firstCol;
+    PastedBlock block;
     for (std::string_view line : split(lines, '\n')) {
         if (line.ends_with('\r')) line.remove_suffix(1);
         int col = firstCol;
         for (const std::string_view text : split(line, '\t')) {
-            if (!isBody(row, col) || !UserEditCell(row, col, text)) {
-                platform().beep();
-                return false;
+            if (block.Left == 0 && pasteCell(row, col, text)) {
+                lastRow = row;
+                lastCol = std::max(lastCol, col);
+                col = nextShownCol(col, 1);
+            } else if (block.Left++ == 0 && isBody(row, col)) {
+                block.Refused = text;
             }
-            col = nextShownCol(col, 1);
         }
         ++row;
     }
-    return true;
+    if (block.Left > 0) platform().beep();
+    if (!block.Refused && UserMoveTo(firstRow, firstCol)) UserSelectTo(lastRow, lastCol);
+    return block;
+}
+
+bool Grid::pasteCell(int row, int col, std::string_view text) {
+    if (!isBody(row, col) || !UserMoveTo(row, col) || !UserBeginEdit()) return false;
+    const bool leavesItem = isBlank(text) && !comboList_.empty();
+    if (!leavesItem && UserEditPaste(text) && UserCommitEdit()) return true;
+    UserCancelEdit();
+    return leavesItem;
 }
 
 void Grid::UserDragColumn(int col, int width) {
@@ -196,8 +244,19 @@ bool Grid::UserCommitEdit() {
     if (cancel) return false;
     const std::string text = editor_.Text();
     closeEditor();
-    TextMatrix(row_, col_, text);
-    AfterEdit(row_, col_);
+    commit(row_, col_, text);
+    return true;
+}
+
+void Grid::commit(int row, int col, std::string_view text) {
+    const ToldDeed deed(watch_, CellDeed::Commit, row, col);
+    TextMatrix(row, col, text);
+    AfterEdit(row, col);
+}
+
+bool Grid::UserPutBack(int row, int col, std::string_view text) {
+    if (!acceptsUserAction() || Editable == EditMode::ReadOnly || !isBody(row, col)) return false;
+    commit(row, col, text);
     return true;
 }
 

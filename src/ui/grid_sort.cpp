@@ -72,6 +72,7 @@ void Grid::Sort(SortOrder order) {
     contentChanged();
     sortMark_ = oneCell ? SortMark{col_, order == SortOrder::GenericDescending} : SortMark{};
     if (first >= last) return;
+    tellReshape();
 
     SortKeys keys(size(last - first + 1));
     ReadColumn(col_, first, last - first + 1,

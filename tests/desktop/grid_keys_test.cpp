@@ -189,7 +189,8 @@ private slots:
         QCOMPARE(w.text(2, 3), std::string("b"));
         QCOMPARE(w.text(3, 2), std::string("c"));
         QCOMPARE(w.text(3, 3), std::string("d"));
-        QCOMPARE(w.current(), (CellAddress{3, 3}));
+        QCOMPARE(w.current(), (CellAddress{2, 2}));
+        QCOMPARE(w.selectedTo(), (CellAddress{3, 3}));
         QCOMPARE(w.platform.Beeps, 0);
     }
 
@@ -251,11 +252,11 @@ private slots:
         GridWindow w;
         QApplication::clipboard()->setText("pasted");
         const auto actions = openMenu(w);
-        QCOMPARE(actions.size(), 2);
+        QCOMPARE(actions.size(), 3);
         QCOMPARE(actions[0]->text(), QString(ui::window_text::CopyCells));
         QCOMPARE(actions[0]->shortcut(), QKeySequence(QKeySequence::Copy));
-        QCOMPARE(actions[1]->shortcut(), QKeySequence(QKeySequence::Paste));
-        actions[1]->trigger();
+        QCOMPARE(actions[2]->shortcut(), QKeySequence(QKeySequence::Paste));
+        actions[2]->trigger();
         QCOMPARE(w.text(1, 1), std::string("pasted"));
         w.select(2, 2);
         actions[0]->trigger();
@@ -266,13 +267,13 @@ private slots:
         GridWindow w;
         QApplication::clipboard()->setText("pasted");
         w.grid.Editable = ui::EditMode::ReadOnly;
-        QVERIFY(!openMenu(w)[1]->isEnabled());
+        QVERIFY(!openMenu(w)[2]->isEnabled());
         w.key(Qt::Key_V, Qt::ControlModifier);
         QCOMPARE(w.text(1, 1), std::string("1.1"));
         w.grid.Editable = ui::EditMode::KeyboardAndMouse;
-        QVERIFY(openMenu(w)[1]->isEnabled());
+        QVERIFY(openMenu(w)[2]->isEnabled());
         QApplication::clipboard()->clear();
-        QVERIFY(!openMenu(w)[1]->isEnabled());
+        QVERIFY(!openMenu(w)[2]->isEnabled());
     }
 
     void aDisabledGridTakesNoKeysAndNoMouse() {

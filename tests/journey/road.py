@@ -156,9 +156,26 @@ class Road:
         else:
             habitats.enterDown(1, species.habitats)
         if place == 1:
+            self.pasteInVain(zones)
             zones.paste(1, 1, [(level,) for level in species.zones])
         else:
             zones.enterDown(1, species.zones)
+
+    def pasteInVain(self, grid):
+        """A block with a value that is refused, which a tip tells at its cell; taken back, done again, taken back."""
+        before = grid.column(1)
+        windows = len(self.session.windows())
+        self.session.clipboard = "3\n7\n1\n"
+        grid.clickCell(1, 1)
+        self.session.keys("ctrl+v")
+        grid.waitForCell(1, 1, "3")
+        waitFor(lambda: len(self.session.windows()) > windows, "the tip of a value that is refused")
+        self.picture("paste_refused")
+        same(grid.column(1), ["3", *before[1:]], "what was pasted")
+        for key, text in (("ctrl+z", before[0]), ("ctrl+shift+z", "3"), ("ctrl+z", before[0])):
+            self.session.keys(key)
+            grid.waitForCell(1, 1, text)
+        same(grid.column(1), before, "what was taken back")
 
     def gradeArea(self, species, _):
         self.window.combo("Dispersal > 10 km:").choose(species.dispersal)

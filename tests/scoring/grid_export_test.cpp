@@ -135,6 +135,25 @@ TEST_F(GridExport, ShowsNumbersAgainAfterwards) {
     for (const int member : {0, 1, 5}) EXPECT_TRUE(table(member).Redraw()) << member;
 }
 
+TEST_F(GridExport, HeadingsInWordsAreNamesWhereTheTableShowsNumbers) {
+    openAt(ProjectText(1, 2, 2, 2).set("Habitat Type", "Bog,Fen").set("Jurisdictional Unit", "North,South"),
+           4);
+    form.flxHabitatTypes.TextMatrix(2, list::Name, " ");
+    const auto inWords = [this](const ui::Grid& grid) {
+        std::vector<std::string> words;
+        for (int col = 0; col < grid.Cols(); ++col) words.push_back(form.HeadingInWords(grid, col));
+        return words;
+    };
+    EXPECT_THAT(inWords(table(0)),
+                ElementsAre("Common Name", "Bog", "2", "", "Total by species", "No. habitats"));
+    EXPECT_THAT(inWords(table(1)),
+                ElementsAre("Common Name", "North", "South", "", "Total by species", "No. Manag. zones"));
+    EXPECT_THAT(inWords(table(5)), ElementsAre("Common Name", "CCS", "", "Activity 1", "Activity 2", "",
+                                               "Total by species", "No. threats"));
+    EXPECT_THAT(inWords(form.flxHabitatTypes), ElementsAre("No.", "Habitat Name", "Area", "Level of Use"));
+    EXPECT_THAT(tableRow(0, 0), ElementsAre("Common Name", "1", "2", "", "Total by species", "No. habitats"));
+}
+
 // The long names stand in the headings only while the file is written.
 TEST_F(GridExport, IsNotDrawnWhileItsHeadingsAreNames) {
     openAt(ProjectText(1, 2, 2, 2), 4);

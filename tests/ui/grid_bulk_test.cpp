@@ -14,14 +14,21 @@ protected:
     static constexpr int Rows = 12;
     static constexpr int Cols = 4;
 
-    /// A grid that logs its events.
-    struct Watched {
+    /// A grid that logs its events, and what is told of it.
+    struct Watched : ui::CellWatch {
         explicit Watched(ui::Control& container) : Grid(container, "flxTest") {
             Grid.Rows(Rows);
             Grid.Cols(Cols);
             for (int row = 0; row < Rows; ++row) Grid.TextMatrix(row, row % Cols, "Grey-headed Albatross");
             Grid.CellChanged = [this](int row, int col) { Changed.emplace_back(row, col); };
+            Grid.Watch(this);
+            Grid.TellChanges(true);
         }
+        void begin(ui::CellDeed, int, int) noexcept override {}
+        void end() noexcept override {}
+        void willWrite(int row, int col) noexcept override { Told.emplace_back(row, col); }
+        void willReshape() noexcept override { Reshaped = true; }
+
         /// The failure's number, 0 for none.
         int attempt(const std::function<void(ui::Grid&)>& action) {
             try {
@@ -40,6 +47,8 @@ protected:
         }
         ui::Grid Grid;
         std::vector<std::pair<int, int>> Changed;
+        std::vector<std::pair<int, int>> Told;
+        bool Reshaped = false;
     };
 
     void expectTheSame(const std::function<void(ui::Grid&)>& atOnce,
@@ -49,6 +58,8 @@ protected:
         EXPECT_EQ(bulk.attempt(atOnce), single.attempt(oneByOne));
         EXPECT_EQ(bulk.texts(), single.texts());
         EXPECT_EQ(bulk.Changed, single.Changed);
+        EXPECT_EQ(bulk.Told, single.Told);
+        EXPECT_EQ(bulk.Reshaped, single.Reshaped);
     }
 
     std::mt19937 random{7};
@@ -111,6 +122,7 @@ TEST_F(GridBulk, CopiesTheTextOfAnotherCellOfTheColumn) {
     watched.Grid.CopyText(1, 0, 4);
     watched.Grid.CopyText(4, 0, 5);  // the long text stays with the copy
     watched.Grid.CopyText(0, 0, 0);
+    EXPECT_EQ(watched.Told, watched.Changed);
     EXPECT_EQ(watched.Grid.TextMatrix(1, 0), "Grey-headed Albatross");
     EXPECT_EQ(watched.Grid.TextMatrix(4, 0), "");
     EXPECT_EQ(watched.Grid.TextMatrix(0, 0), "Grey-headed Albatross");

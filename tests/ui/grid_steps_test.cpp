@@ -140,43 +140,111 @@ TEST_F(GridSteps, SelectedCellsAreCopiedAsLinesBlankOnesIncluded) {
     EXPECT_EQ(grid.SelectedText(), "1.2\na b c");
 }
 
-TEST_F(GridSteps, ABlockIsPastedCellByCell) {
+TEST_F(GridSteps, SelectedCellsAreCopiedWithHeadingsAndFixedColumns) {
+    grid.TextMatrix(0, 1, "Total by\nunit");
+    grid.Select(2, 1);
+    grid.UserSelectTo(3, 2);
+    EXPECT_EQ(grid.SelectedTextWithHeadings({}), "0.0\tTotal by unit\t0.2\n2.0\t2.1\t2.2\n3.0\t3.1\t3.2");
+    const auto named = [](int col) { return "unit " + std::to_string(col); };
+    EXPECT_EQ(grid.SelectedTextWithHeadings(named), "unit 0\tunit 1\tunit 2\n2.0\t2.1\t2.2\n3.0\t3.1\t3.2");
+    grid.ColHidden(1, true);
+    grid.ColHidden(0, true);
+    EXPECT_EQ(grid.SelectedTextWithHeadings({}), "0.2\n2.2\n3.2");
+}
+
+TEST_F(GridSteps, HeadingsThatAreSelectedAreCopiedOnce) {
+    grid.Select(0, 0);
+    EXPECT_EQ(grid.SelectedTextWithHeadings({}), "0.0");
+    grid.Select(0, 0, 1, 1);
+    EXPECT_EQ(grid.SelectedTextWithHeadings({}), "0.0\t0.1\n1.0\t1.1");
+    grid.FixedRows(0);
+    EXPECT_EQ(grid.SelectedTextWithHeadings([](int) { return "heading"; }), "0.0\t0.1\n1.0\t1.1");
+    grid.Rows(0);
+    EXPECT_EQ(grid.SelectedTextWithHeadings({}), "");
+}
+
+TEST_F(GridSteps, ABlockIsPastedCellByCellAndSelected) {
     std::vector<std::string> changed;
     grid.AfterEdit = [&](int row, int col) {
         changed.push_back(at(row, col) + "=" + std::string(grid.TextMatrix(row, col)));
     };
     grid.Select(1, 1);
-    EXPECT_TRUE(grid.UserPasteBlock("a\tb\r\nc\td\r\n"));
+    const auto block = grid.UserPasteBlock("a\tb\r\nc\td\r\n");
+    ASSERT_TRUE(block);
+    EXPECT_EQ(block->Left, 0);
+    EXPECT_FALSE(block->Refused);
     EXPECT_EQ(changed, (std::vector<std::string>{"1.1=a", "1.2=b", "2.1=c", "2.2=d"}));
-    EXPECT_EQ(current(), "2.2");
+    EXPECT_EQ(current(), "1.1");
+    EXPECT_EQ(at(grid.RowSel(), grid.ColSel()), "2.2");
+    EXPECT_TRUE(grid.UserSelected());
     EXPECT_EQ(platform.Beeps, 0);
+}
+
+TEST_F(GridSteps, ABlockOfUnevenLinesIsSelectedAsWideAsItsWidest) {
+    grid.Select(1, 1);
+    ASSERT_TRUE(grid.UserPasteBlock("a\tb\nc"));
+    EXPECT_EQ(current(), "1.1");
+    EXPECT_EQ(at(grid.RowSel(), grid.ColSel()), "2.2");
 }
 
 TEST_F(GridSteps, BlankCellsAtTheEndOfABlockArePastedToo) {
     grid.Select(1, 1);
-    EXPECT_TRUE(grid.UserPasteBlock("x\n\n\n"));
+    ASSERT_TRUE(grid.UserPasteBlock("x\n\n\n"));
     EXPECT_EQ(column(1), (std::vector<std::string>{"0.1", "x", "", ""}));
+}
+
+TEST_F(GridSteps, BlankCellsOfABlockLeaveCellsWithAListAsTheyAre) {
+    std::vector<std::string> changed;
+    grid.AfterEdit = [&](int row, int col) { changed.push_back(at(row, col)); };
+    grid.BeforeEdit = [&](int, int col, bool&) { grid.ComboList(col == 1 ? "0|1|2" : ""); };
+    grid.Select(1, 1);
+    const auto block = grid.UserPasteBlock("1\tx\n\t\n \ty");
+    ASSERT_TRUE(block);
+    EXPECT_EQ(block->Left, 0);
+    EXPECT_EQ(column(1), (std::vector<std::string>{"0.1", "1", "2.1", "3.1"}));
+    EXPECT_EQ(column(2), (std::vector<std::string>{"0.2", "x", "", "y"}));
+    EXPECT_EQ(changed, (std::vector<std::string>{"1.1", "1.2", "2.2", "3.2"}));
+    EXPECT_EQ(at(grid.RowSel(), grid.ColSel()), "3.2");
+    EXPECT_EQ(platform.Beeps, 0);
+    EXPECT_FALSE(grid.Editing());
 }
 
 TEST_F(GridSteps, ABlockStopsWithABeepAtTheFirstCellThatRefuses) {
     grid.ValidateEdit = [&](int, int, bool& cancel) { cancel = grid.EditText() == "bad"; };
     grid.Select(1, 1);
-    EXPECT_FALSE(grid.UserPasteBlock("a\nbad\nc"));
+    const auto block = grid.UserPasteBlock("a\nbad\tb\nc");
+    ASSERT_TRUE(block);
+    EXPECT_EQ(block->Refused, "bad");
+    EXPECT_EQ(block->Left, 3);
     EXPECT_EQ(column(1), (std::vector<std::string>{"0.1", "a", "2.1", "3.1"}));
     EXPECT_EQ(current(), "2.1");
+    EXPECT_EQ(at(grid.RowSel(), grid.ColSel()), "2.1");
     EXPECT_FALSE(grid.Editing());
     EXPECT_EQ(platform.Beeps, 1);
 }
 
 TEST_F(GridSteps, ABlockStopsWithABeepAtTheEdges) {
     grid.Select(3, 1);
-    EXPECT_FALSE(grid.UserPasteBlock("a\tb\tc"));
+    auto block = grid.UserPasteBlock("a\tb\tc");
+    ASSERT_TRUE(block);
+    EXPECT_FALSE(block->Refused);
+    EXPECT_EQ(block->Left, 1);
     EXPECT_EQ(grid.TextMatrix(3, 2), "b");
+    EXPECT_EQ(at(grid.RowSel(), grid.ColSel()), "3.2");
     EXPECT_EQ(platform.Beeps, 1);
     grid.Select(3, 1);
-    EXPECT_FALSE(grid.UserPasteBlock("d\ne"));
+    block = grid.UserPasteBlock("d\ne\tf");
+    ASSERT_TRUE(block);
+    EXPECT_FALSE(block->Refused);
+    EXPECT_EQ(block->Left, 2);
     EXPECT_EQ(grid.TextMatrix(3, 1), "d");
     EXPECT_EQ(platform.Beeps, 2);
+}
+
+TEST_F(GridSteps, NoBlockIsPastedIntoADisabledGrid) {
+    grid.Enabled(false);
+    EXPECT_FALSE(grid.UserPasteBlock("a"));
+    EXPECT_EQ(platform.Beeps, 0);
 }
 
 TEST_F(GridSteps, ASortMarksItsColumnUntilItsValuesChange) {

@@ -15,6 +15,20 @@ inline constexpr const char* TakeBack = "Take it back";
 inline constexpr const char* ShowCopies = "Show them";
 inline constexpr const char* HideCopies = "Hide them";
 
+// The menu of a table, and the tip where pasting stops: the refused text, and how many cells are left.
+inline constexpr const char* Undo = "Undo";
+inline constexpr const char* Redo = "Redo";
+inline constexpr const char* CopyWithHeadings = "Copy with headings";
+inline constexpr const char* PasteRefused = "“%1” is not accepted here: %2 not pasted.";
+inline constexpr const char* PasteTooLarge = "The table ends here: %1 not pasted.";
+
+// A box among many of one command, and the list of those that were answered at once.
+inline constexpr const char* BoxNumber = "Box %1 of this command";
+inline constexpr const char* OkToRest = "OK to the &rest that only tell";
+inline constexpr const char* OneTaken = "1 box of this command was answered with OK at once:";
+inline constexpr const char* SeveralTaken = "%1 boxes of this command were answered with OK at once:";
+inline constexpr const char* CopyAll = "&Copy all";
+
 // A copy: the project, when it was written, and what it holds.
 inline constexpr const char* NewProject = "A new project";
 inline constexpr const char* NamelessCopy = "A safety copy";

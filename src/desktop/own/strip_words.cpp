@@ -7,6 +7,7 @@
 #include <QStringList>
 
 #include "desktop/own/own_texts.h"
+#include "desktop/own/own_words.h"
 #include "desktop/texts.h"
 
 namespace desktop::strip_words {
@@ -18,13 +19,8 @@ constexpr int LongestText = 30;     // of a cell's
 constexpr int CellsByName = 2;      // in the strip itself
 constexpr int CellsInDetails = 25;  // in its tip
 
-QString said(const char* text) { return QString::fromUtf8(text); }
-
-QString shortened(const QString& text, int longest) {
-    if (text.size() <= longest) return text;
-    const int half = longest / 2;
-    return text.left(half) + QChar(0x2026) + text.right(half - 1);
-}
+using own_words::said;
+using own_words::shortened;
 
 QString nameOf(const QString& path) { return shortened(QFileInfo(path).fileName(), LongestName); }
 
@@ -135,9 +131,8 @@ QString notSelected(SelectionObstacle obstacle) {
 QString notKept(const QString& reason) { return said(own_texts::NotKept).arg(clause(reason)); }
 
 QString notCarried(const QList<LostText>& cellsLost) {
-    const QString count = cellsLost.size() == 1 ? said(own_texts::OneCell)
-                                                : said(own_texts::SeveralCells).arg(cellsLost.size());
-    return said(own_texts::NotCarried).arg(count, cells(cellsLost, CellsByName, "; "));
+    return said(own_texts::NotCarried)
+        .arg(own_words::cells(cellsLost.size()), cells(cellsLost, CellsByName, "; "));
 }
 
 QString allCells(const QList<LostText>& cellsLost) { return cells(cellsLost, CellsInDetails, "\n"); }

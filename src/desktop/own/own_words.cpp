@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: 2026 The Brenica developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/own/own_words.h"
+
+#include "desktop/own/own_texts.h"
+#include "desktop/texts.h"
+
+namespace desktop::own_words {
+
+namespace {
+
+constexpr int LongestRefused = 40;  // characters
+
+}  // namespace
+
+QString said(const char* text) { return QString::fromUtf8(text); }
+
+QString shortened(const QString& text, int longest) {
+    if (text.size() <= longest) return text;
+    const int half = longest / 2;
+    return text.left(half) + QChar(0x2026) + text.right(half - 1);
+}
+
+QString cells(qsizetype count) {
+    return count == 1 ? said(own_texts::OneCell) : said(own_texts::SeveralCells).arg(count);
+}
+
+QString pasteStopped(const ui::PastedBlock& block) {
+    if (!block.Refused) return said(own_texts::PasteTooLarge).arg(cells(block.Left));
+    return said(own_texts::PasteRefused)
+        .arg(shortened(shownText(*block.Refused), LongestRefused), cells(block.Left));
+}
+
+}  // namespace desktop::own_words

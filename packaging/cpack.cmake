@@ -27,7 +27,7 @@ still uncovered, asking the planner wherever scores lie too close together to
 tell. Tables, charts and the resulting suite can be exported.
 
 The package holds the desktop program, brenica-batch, which does the same
-without a window, and example landscapes.")
+without a window, the guide, and example landscapes.")
 
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)

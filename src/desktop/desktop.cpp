@@ -8,6 +8,9 @@
 
 #include "desktop/chart_view.h"
 #include "desktop/dialogues.h"
+#include "desktop/own/file_drop.h"
+#include "desktop/own/help_menu.h"
+#include "desktop/texts.h"
 #include "ui/errors.h"
 
 namespace desktop {
@@ -49,7 +52,8 @@ Desktop::Desktop()
       program_(platform_),
       copies_(*this, CopyFolder::usualPath()) {}
 
-void Desktop::start() {
+void Desktop::start(const QString& file) {
+    waitingFile_ = file;
     run([this] { program_.Main(); });
 }
 
@@ -66,6 +70,7 @@ void Desktop::run(const std::function<void()>& action) {
     keepCopies();
     if (program_.Ended()) return end(0);
     followStrip(false);
+    openWaitingFile();
 }
 
 /// What an open cell editor holds is taken over first, as the action itself would do, so that it is kept as well.
@@ -88,11 +93,26 @@ void Desktop::keepCopies() {
 /// The last look is before the box of a failure, which names no file and does not say that the work is kept.
 void Desktop::followStrip(bool programEnds) {
     if (mainWindow_ == nullptr) return;
-    if (strip_ == nullptr) {
-        strip_ =
-            std::make_unique<WindowStrip>(*mainWindow_, *program_.MainForm(), program_.GetFiles(), copies_);
-    }
+    if (strip_ == nullptr) furnishMainWindow();
     strip_->look(programEnds);
+}
+
+/// What the window has beside the form.
+void Desktop::furnishMainWindow() {
+    strip_ = std::make_unique<WindowStrip>(*mainWindow_, *program_.MainForm(), program_.GetFiles(), copies_);
+    addMenu(*mainWindow_->menuBar(),
+            helpMenu({mainWindow_.get(), [this] { return program_.MainForm()->CurrentMainTab; },
+                      [this](const QString& path) { openFile(path); }}));
+    new FileDrop(*mainWindow_, *this, [this](const QString& path) { openFile(path); });
+}
+
+void Desktop::openFile(const QString& path) {
+    command([this, &path] { program_.MainForm()->UserOpenFile(utf8(path)); });
+}
+
+void Desktop::openWaitingFile() {
+    if (mainWindow_ == nullptr || !program_.Splash()->Unloaded() || waitingFile_.isEmpty()) return;
+    openFile(std::exchange(waitingFile_, {}));
 }
 
 void Desktop::fail(const std::exception_ptr& failure) {

@@ -18,8 +18,9 @@ class Desktop : public FormLink, public Windows {
 public:
     Desktop();
 
-    /// Starts the program and opens its first window; the rest happens in the event loop, which it ends.
-    void start();
+    /// Starts the program and opens its first window; the rest happens in the event loop, which it ends. A file is opened
+    /// once the main window is there.
+    void start(const QString& file = {});
 
     void run(const std::function<void()>& action) override;
     void command(const std::function<void()>& action) override;
@@ -30,6 +31,8 @@ public:
     QWidget* ownerOfBoxes() override;
     void handlePendingEvents() override;
 
+    /// Project > Open with this file, the save question included.
+    void openFile(const QString& path);
     /// Shows what went wrong in one box and ends the program.
     void fail(const std::exception_ptr& failure);
 
@@ -44,6 +47,8 @@ private:
     void follow(std::unique_ptr<FormView>& window, ui::FormWindow* form);
     void keepCopies();
     void followStrip(bool programEnds);
+    void furnishMainWindow();
+    void openWaitingFile();
     void end(int exitCode);
 
     Scale scale_;
@@ -54,6 +59,7 @@ private:
     std::unique_ptr<FormView> splash_;
     std::unique_ptr<FormView> mainWindow_;
     std::unique_ptr<WindowStrip> strip_;  // from the main window's beginning on
+    QString waitingFile_;                 // until the splash has handed over
     bool busy_ = false;
     bool ended_ = false;
 };

@@ -175,6 +175,8 @@ QSize FormView::borderOfForm() const {
     return {ui::FormWindow::BorderWidth, ui::FormWindow::BorderHeight};
 }
 
+QMenuBar* FormView::menuBar() const { return menu_; }
+
 int FormView::menuHeight() const { return menu_ != nullptr ? menu_->sizeHint().height() : 0; }
 
 int FormView::edgeHeight(int width) const {

@@ -13,6 +13,7 @@
 #include <cmath>
 
 #include "desktop/dialogues.h"
+#include "desktop/program_files.h"
 #include "desktop/texts.h"
 #include "ui/errors.h"
 #include "ui/files.h"
@@ -50,8 +51,6 @@ auto withBox(Windows& windows, Show show) {
     return show(windows.ownerOfBoxes());
 }
 
-bool isFolder(const QString& path) { return QDir(path).exists(); }
-
 }  // namespace
 
 void QtPlatform::showMessage(const std::string& text, const std::string& title, ui::MessageIcon icon) {
@@ -83,7 +82,7 @@ void QtPlatform::SavePicture(const std::string& path) {
     const QImage picture = QApplication::clipboard()->image();
     if (picture.isNull()) ui::raise(ui::ErrorNumber::InvalidPropertyValue);
     const QString name = QString::fromStdString(path);
-    if (!isFolder(QFileInfo(name).absolutePath())) ui::raise(ui::ErrorNumber::PathNotFound);
+    if (!QFileInfo(name).dir().exists()) ui::raise(ui::ErrorNumber::PathNotFound);
     QSaveFile file(name);
     errno = 0;
     if (!file.open(QIODevice::WriteOnly))
@@ -126,14 +125,7 @@ void QtPlatform::setMousePointer(ui::MousePointer pointer) {
 
 void QtPlatform::processPendingEvents() { windows_.handlePendingEvents(); }
 
-/// The examples, installed beside the program or in the tree that it was built in.
-std::string QtPlatform::programFolder() const {
-    const QDir program(QApplication::applicationDirPath());
-    for (const char* place : {"../share/brenica/examples", "../../../../examples"}) {
-        if (isFolder(program.filePath(place))) return utf8(QDir::cleanPath(program.filePath(place)));
-    }
-    return utf8(program.path());
-}
+std::string QtPlatform::programFolder() const { return utf8(examplesFolder()); }
 
 ui::DecimalSeparator QtPlatform::decimalSeparator() const {
     return QLocale::system().decimalPoint() == "," ? ui::DecimalSeparator::Comma

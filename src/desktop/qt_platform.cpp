@@ -13,6 +13,7 @@
 #include <cmath>
 
 #include "desktop/dialogues.h"
+#include "desktop/file_dialogue.h"
 #include "desktop/program_files.h"
 #include "desktop/texts.h"
 #include "ui/errors.h"

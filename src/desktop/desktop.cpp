@@ -3,6 +3,7 @@
 #include "desktop/desktop.h"
 
 #include <QApplication>
+#include <QScreen>
 #include <new>
 #include <utility>
 
@@ -17,7 +18,9 @@ namespace desktop {
 
 namespace {
 
-constexpr int ExitAfterFailure = 4;  // as brenica-batch ends after an unexpected error
+constexpr double PrintResolution = 3;  // of a chart that is copied or saved, in the screen's own
+constexpr int SplashPercent = 70;      // of the screen, at the most
+constexpr int ExitAfterFailure = 4;    // as brenica-batch ends after an unexpected error
 
 /// Gives a flag a value for as long as it lives.
 class Held {
@@ -146,18 +149,29 @@ void Desktop::end(int exitCode) {
 }
 
 void Desktop::followForms() {
-    follow(splash_, program_.Splash());
-    follow(mainWindow_, program_.MainForm());
+    follow(splash_, program_.Splash(), linkOfSplash());
+    follow(mainWindow_, program_.MainForm(), *this);
+}
+
+/// However large the font is, the splash leaves the screen to be seen around it.
+FormLink& Desktop::linkOfSplash() {
+    const frmSplash* splash = program_.Splash();
+    if (splashLink_ == nullptr && splash != nullptr) {
+        const QSize most = QApplication::primaryScreen()->availableSize() * SplashPercent / 100;
+        splashLink_ =
+            std::make_unique<ScaledLink>(*this, scale_.within(most, {splash->Width(), splash->Height()}));
+    }
+    return splashLink_ != nullptr ? *splashLink_ : static_cast<FormLink&>(*this);
 }
 
 /// Opens a window for a form that has come into being, and hides that of a form that has ended: it may be the one that
 /// the running user action came from.
-void Desktop::follow(std::unique_ptr<FormView>& window, ui::FormWindow* form) {
+void Desktop::follow(std::unique_ptr<FormView>& window, ui::FormWindow* form, FormLink& link) {
     if (form == nullptr) return;
     if (form->Unloaded()) {
         if (window != nullptr) window->retire();
     } else if (window == nullptr) {
-        window = std::make_unique<FormView>(*form, *this);
+        window = std::make_unique<FormView>(*form, link);
         window->open();
     } else {
         window->follow();
@@ -174,7 +188,7 @@ QWidget* Desktop::ownerOfBoxes() {
 QPixmap Desktop::pictureOf(const ui::Chart& chart) {
     if (mainWindow_ == nullptr) return {};
     auto* view = dynamic_cast<ChartView*>(mainWindow_->viewOf(chart));
-    return view != nullptr ? view->picture() : QPixmap();
+    return view != nullptr ? view->picture(PrintResolution) : QPixmap();
 }
 
 }  // namespace desktop

@@ -2,13 +2,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QApplication>
 #include <exception>
 #include <memory>
 
 #include "desktop/form_view.h"
 #include "desktop/own/project_copies.h"
+#include "desktop/own/spent_keys.h"
 #include "desktop/own/window_strip.h"
 #include "desktop/qt_platform.h"
+#include "desktop/scaled_link.h"
 #include "project/modStartup.h"
 
 namespace desktop {
@@ -44,7 +47,8 @@ public:
     FormView* mainWindow() const { return mainWindow_.get(); }
 
 private:
-    void follow(std::unique_ptr<FormView>& window, ui::FormWindow* form);
+    void follow(std::unique_ptr<FormView>& window, ui::FormWindow* form, FormLink& link);
+    FormLink& linkOfSplash();
     void keepCopies();
     void followStrip(bool programEnds);
     void furnishMainWindow();
@@ -56,8 +60,10 @@ private:
     Program program_;
     ProjectCopies copies_;
     bool copiesFollow_ = false;
+    std::unique_ptr<ScaledLink> splashLink_;
     std::unique_ptr<FormView> splash_;
     std::unique_ptr<FormView> mainWindow_;
+    SpentKeys spentKeys_{*qApp};
     std::unique_ptr<WindowStrip> strip_;  // from the main window's beginning on
     QString waitingFile_;                 // until the splash has handed over
     bool busy_ = false;

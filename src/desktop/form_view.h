@@ -51,10 +51,11 @@ private:
     void addView(ui::Control& control);
     void startTimers();
     void followControl(ui::Control& control);
+    void levelLabels();
     void followWindow();
     void keepFocusOnOpenEditor();
     void arrangeContents();
-    void addPageKeys();
+    void addKeys();
     void turnPage(bool innermost, int by);
     QSize borderOfForm() const;
     int menuHeight() const;

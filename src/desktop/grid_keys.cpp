@@ -9,6 +9,7 @@
 
 #include "desktop/cell_editor.h"
 #include "desktop/grid_view.h"
+#include "desktop/texts.h"
 
 namespace desktop {
 

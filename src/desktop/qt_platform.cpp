@@ -24,6 +24,7 @@ namespace desktop {
 namespace {
 
 constexpr std::size_t MostKnownWidths = 1 << 20;
+constexpr double MetresPerInch = 0.0254;
 
 /// The default pointer, for as long as a box is on view.
 class PointerLift {
@@ -43,6 +44,14 @@ public:
 private:
     QList<QCursor> lifted_;
 };
+
+/// What of a text is longer than any screen counts as wide as what comes before it.
+double widthOf(std::string_view text, const QFontMetricsF& metrics) {
+    const QString measured = shortText(text);
+    const double whole = static_cast<double>(shownText(text).size());
+    return metrics.horizontalAdvance(measured) * whole /
+           static_cast<double>(std::max<qsizetype>(measured.size(), 1));
+}
 
 /// Runs a box on top of windows that show how far the form has come.
 template <class Show>
@@ -74,8 +83,13 @@ std::optional<std::string> QtPlatform::chooseFile(const ui::FileDialogRequest& r
 
 void QtPlatform::beep() { QApplication::beep(); }
 
+/// It tells its resolution, so that it is pasted and printed as large as it is seen.
 void QtPlatform::copyPicture(const ui::Chart& chart) {
-    QApplication::clipboard()->setPixmap(windows_.pictureOf(chart));
+    QImage picture = windows_.pictureOf(chart).toImage();
+    const double dots = QApplication::primaryScreen()->logicalDotsPerInch() * picture.devicePixelRatio();
+    picture.setDotsPerMeterX(qRound(dots / MetresPerInch));
+    picture.setDotsPerMeterY(qRound(dots / MetresPerInch));
+    QApplication::clipboard()->setImage(picture);
 }
 
 /// Written to a temporary name and renamed, so that a failure leaves the file as it was.
@@ -105,7 +119,7 @@ int QtPlatform::textWidth(std::string_view text, const ui::Font& font) const {
     const auto known = widths.Known.find(text);
     if (known != widths.Known.end()) return known->second;
     const QFontMetricsF metrics(scale_.font(font));
-    const int width = scale_.twips(static_cast<int>(std::ceil(metrics.horizontalAdvance(shownText(text)))));
+    const int width = scale_.twips(static_cast<int>(std::ceil(widthOf(text, metrics))));
     if (widths.Known.size() >= MostKnownWidths) widths.Known.clear();
     widths.Known.emplace(text, width);
     return width;

@@ -19,6 +19,7 @@ namespace {
 
 constexpr int QtMargin = 2;    // what Qt leaves beside the text and its caret
 constexpr int FrameWidth = 1;  // what the design's boxes have room for instead
+constexpr int TextGap = 2;     // what they have room for beside the text, too
 
 }  // namespace
 
@@ -38,7 +39,8 @@ void TextBoxView::fitMargins() {
     option.rect = QRect(0, 0, 1000, 1000);
     const QRect contents = style()->subElementRect(QStyle::SE_LineEditContents, &option, this);
     const auto margin = [](int frame, int room) { return std::min(0, room - frame); };
-    setTextMargins(margin(contents.left(), FrameWidth - QtMargin), margin(contents.top(), FrameWidth),
+    setTextMargins(margin(contents.left(), FrameWidth - QtMargin + TextGap),
+                   margin(contents.top(), FrameWidth),
                    margin(option.rect.right() - contents.right(), FrameWidth - QtMargin),
                    margin(option.rect.bottom() - contents.bottom(), FrameWidth));
 }
@@ -137,9 +139,8 @@ void TextBoxView::keyPressEvent(QKeyEvent* event) {
         case Qt::Key_End: return QLineEdit::keyPressEvent(event);
         default: break;
     }
-    const QString typed = event->text();
-    if (command || typed.isEmpty() || !typed.at(0).isPrint()) return event->ignore();
-    type(typed);
+    if (!isTyping(*event)) return event->ignore();
+    type(event->text());
 }
 
 void TextBoxView::inputMethodEvent(QInputMethodEvent* event) {

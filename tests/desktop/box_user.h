@@ -2,10 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QApplication>
 #include <QDialogButtonBox>
+#include <QLabel>
 #include <QPushButton>
-
-#include "desktop/desktop_test.h"
+#include <QTimer>
+#include <QtTest>
 
 namespace desktop_test {
 
@@ -49,6 +51,13 @@ inline User::Step click(QDialogButtonBox::StandardButton which) {
         QTest::mouseClick(box.findChild<QDialogButtonBox*>()->button(which), Qt::LeftButton);
         return true;
     };
+}
+
+inline const QLabel& textOf(const QWidget& box) {
+    for (const QLabel* label : box.findChildren<QLabel*>()) {
+        if (!label->text().isEmpty()) return *label;
+    }
+    qFatal("a box without a text");
 }
 
 }  // namespace desktop_test

@@ -7,19 +7,14 @@
 #include <QScrollBar>
 
 #include "desktop/box_user.h"
+#include "desktop/desktop_test.h"
 
 using desktop_test::click;
 using desktop_test::press;
+using desktop_test::textOf;
 using desktop_test::User;
 
 namespace {
-
-const QLabel& textOf(const QWidget& box) {
-    for (const QLabel* label : box.findChildren<QLabel*>()) {
-        if (!label->text().isEmpty()) return *label;
-    }
-    qFatal("a box without a text");
-}
 
 bool hasIcon(const QWidget& box) {
     for (const QLabel* label : box.findChildren<QLabel*>()) {

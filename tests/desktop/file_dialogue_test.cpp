@@ -10,6 +10,7 @@
 #include <QTemporaryDir>
 
 #include "desktop/box_user.h"
+#include "desktop/desktop_test.h"
 
 using desktop_test::click;
 using desktop_test::press;

@@ -77,6 +77,24 @@ private slots:
         QCOMPARE(w.view.cursorPosition(), 3);
     }
 
+    void charactersBeyondTheBasicPlaneAreTyped() {
+        BoxWindow w("");
+        w.focus();
+        QKeyEvent key(QEvent::KeyPress, 0, Qt::NoModifier, QString::fromUtf8("𝔘"));
+        QApplication::sendEvent(&w.view, &key);
+        QCOMPARE(w.text(), QString::fromUtf8("𝔘"));
+        QCOMPARE(w.keys, QList<int>{0x1D518});
+    }
+
+    void theTextStandsOffTheLeftEdge() {
+        BoxWindow w("▌");
+        const QImage picture = w.view.grab().toImage();
+        const QColor paper = w.view.palette().color(QPalette::Base);
+        int ink = 2;
+        while (picture.pixelColor(ink, picture.height() / 2) == paper) ++ink;
+        QVERIFY2(ink >= 4, qPrintable(QString::number(ink)));
+    }
+
     void backspaceEnterAndEscapeReachTheFilter() {
         BoxWindow w("abc");
         w.focus();

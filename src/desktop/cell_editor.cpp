@@ -3,7 +3,6 @@
 #include "desktop/cell_editor.h"
 
 #include <QAccessible>
-
 #include <QApplication>
 #include <QClipboard>
 #include <QKeyEvent>

@@ -311,8 +311,7 @@ QPixmap ChartPlot::picture(double resolution) {
     picture.setDevicePixelRatio(ratio);
     picture.fill(Qt::white);
     QCPPainter painter(&picture);
-    painter.setMode(QCPPainter::pmNoCaching);
-    painter.setMode(QCPPainter::pmNonCosmetic);
+    painter.setMode(QCPPainter::pmNonCosmetic, resolution > 1);
     draw(&painter);
     return picture;
 }

@@ -8,62 +8,10 @@
 
 using desktop_test::GridWindow;
 
-namespace {
-
-/// What a screen reader is told of cell editors, in its place.
-class Listener {
-public:
-    Listener() {
-        heard().clear();
-        before_ = QAccessible::installUpdateHandler([](QAccessibleEvent* event) {
-            if (qobject_cast<desktop::CellEditor*>(event->object()) == nullptr) return;
-            if (event->type() == QAccessible::Focus) heard() << "opened";
-            if (event->type() == QAccessible::TextUpdated)
-                heard() << static_cast<QAccessibleTextUpdateEvent*>(event)->textInserted();
-            if (event->type() == QAccessible::TextCaretMoved)
-                heard() << QString::number(static_cast<QAccessibleTextCursorEvent*>(event)->cursorPosition());
-        });
-        QAccessible::setActive(true);
-    }
-    ~Listener() {
-        QAccessible::setActive(false);
-        QAccessible::installUpdateHandler(before_);
-    }
-    Listener(const Listener&) = delete;
-    Listener& operator=(const Listener&) = delete;
-
-    static QStringList& heard() {
-        static QStringList told;
-        return told;
-    }
-    static QStringList take() { return std::exchange(heard(), {}); }
-
-private:
-    QAccessible::UpdateHandler before_;
-};
-
-}  // namespace
-
 class CellEditorAccessibleTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void openingTypingAndTheCaretAreTold() {
-        GridWindow w;
-        const Listener listener;
-        w.select(2, 2);
-        w.key(Qt::Key_F2);
-        QCOMPARE(Listener::take(), QStringList("opened"));
-        w.type("a");
-        QCOMPARE(Listener::take(), QStringList({"2.2a", "4"}));
-        w.key(Qt::Key_Home);
-        QCOMPARE(Listener::take(), QStringList("0"));
-        w.key(Qt::Key_Escape);
-        QCOMPARE(Listener::take(), QStringList());
-        w.key(Qt::Key_F2);
-        QCOMPARE(Listener::take(), QStringList("opened"));
-    }
-
     void textCaretAndSelectionCanBeAskedFor() {
         GridWindow w;
         w.run([&] { w.grid.TextMatrix(2, 2, "aé😀b"); });
@@ -78,6 +26,7 @@ private slots:
         QCOMPARE(text->characterCount(), 5);
         QCOMPARE(text->text(0, 5), QString("aé😀b"));
         QCOMPARE(text->cursorPosition(), 5);
+        w.key(Qt::Key_End);
         QCOMPARE(text->selectionCount(), 0);
         w.key(Qt::Key_Left, Qt::ShiftModifier);
         QCOMPARE(text->cursorPosition(), 4);

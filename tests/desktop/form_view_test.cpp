@@ -361,6 +361,8 @@ private slots:
 
     void f10OpensTheMenu() {
         MainWindow w;
+        w.view->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(w.view.get()));
         QTest::keyClick(w.view.get(), Qt::Key_F10);
         QWidget* menu = QApplication::activePopupWidget();
         QVERIFY(menu != nullptr);

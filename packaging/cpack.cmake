@@ -27,7 +27,7 @@ still uncovered, asking the planner wherever scores lie too close together to
 tell. Tables, charts and the resulting suite can be exported.
 
 The package holds the desktop program, brenica-batch, which does the same
-without a window, and example landscapes.")
+without a window, the guide, and example landscapes.")
 
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
@@ -39,5 +39,7 @@ set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION science)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+# A browser for the guide, and the dialogue for files that the other programs of the desktop show.
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "xdg-utils, qt6-gtk-platformtheme")
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 include(CPack)

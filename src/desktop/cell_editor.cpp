@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/cell_editor.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
 #include <QKeyEvent>
@@ -10,6 +11,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "desktop/cell_editor_accessible.h"
 #include "desktop/cell_list.h"
 #include "desktop/texts.h"
 
@@ -28,12 +30,6 @@ void typeInto(ui::Grid& grid, const QString& text) {
     }
 }
 
-bool isTyping(const QKeyEvent& event) {
-    if (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) return false;
-    const QString text = event.text();
-    return !text.isEmpty() && ui::isPrintable(static_cast<int>(text.toUcs4().first()));
-}
-
 CellEditor::CellEditor(ui::Grid& grid, FormLink& link, const GridPainter& painter, QWidget* view,
                        QWidget* viewport)
     : QWidget(viewport),
@@ -41,6 +37,7 @@ CellEditor::CellEditor(ui::Grid& grid, FormLink& link, const GridPainter& painte
       link_(link),
       painter_(painter),
       list_(new CellList(view, link.scale().pixels(ui::Grid::RowHeight))) {
+    installEditorAccessibility();
     setFocusPolicy(Qt::NoFocus);
     setCursor(Qt::IBeamCursor);
     connect(list_, &QListWidget::itemClicked, this, [this] { chooseItem(list_->currentRow(), false); });
@@ -62,10 +59,12 @@ void CellEditor::showAt(const QRect& cell, const QRect& body) {
     followList();
     show();
     update();
+    if (QAccessible::isActive()) tellListeners();
 }
 
 void CellEditor::conceal() {
     list_->hide();
+    told_.reset();
     if (isHidden()) return;
     hide();
     preedit_.clear();
@@ -277,11 +276,9 @@ QVariant CellEditor::inputMethodValue(Qt::InputMethodQuery query) const {
     }
 }
 
-QString CellEditor::text() const { return QString::fromStdString(grid_.EditText()); }
-
 QString CellEditor::selectedText() const {
-    const int from = unitOf(text(), std::min(anchor_, caret_));
-    return text().mid(from, unitOf(text(), std::max(anchor_, caret_)) - from);
+    const auto [from, to] = selectedUnits();
+    return text().mid(from, to - from);
 }
 
 /// The grid knows where a selection begins and how long it is; which of its ends is the caret stays here.
@@ -309,20 +306,23 @@ void CellEditor::layOut(QTextLayout& layout) const {
     layout.endLayout();
 }
 
-double CellEditor::caretX() const {
+double CellEditor::caretX() const { return xOfUnit(caretUnit() + static_cast<int>(preedit_.size())); }
+
+double CellEditor::xOfUnit(int unit) const {
     QTextLayout layout;
     layOut(layout);
-    const int unit = unitOf(text(), caret_) + static_cast<int>(preedit_.size());
     return painter_.padding() + 1 - scrolled_ +
            (layout.lineCount() > 0 ? layout.lineAt(0).cursorToX(unit) : 0);
 }
 
-int CellEditor::characterAt(int x) const {
+int CellEditor::unitAt(int x) const {
     QTextLayout layout;
     layOut(layout);
     if (layout.lineCount() == 0) return 0;
-    return characterOf(text(), layout.lineAt(0).xToCursor(x - painter_.padding() - 1 + scrolled_));
+    return layout.lineAt(0).xToCursor(x - painter_.padding() - 1 + scrolled_);
 }
+
+int CellEditor::characterAt(int x) const { return characterOf(text(), unitAt(x)); }
 
 int CellEditor::naturalWidth() const {
     const double text = QFontMetricsF(painter_.font(false)).horizontalAdvance(this->text() + preedit_);

@@ -5,6 +5,8 @@
 #include <QBasicTimer>
 #include <QTextLayout>
 #include <QWidget>
+#include <optional>
+#include <utility>
 
 #include "desktop/grid_painter.h"
 #include "desktop/view.h"
@@ -43,6 +45,18 @@ public:
     QVariant inputMethodValue(Qt::InputMethodQuery query) const;
     void showCaret(bool blinking);
 
+    // For screen readers, in Qt's units.
+    struct Units {
+        int From = 0;
+        int To = 0;
+    };
+    QString text() const { return QString::fromStdString(grid_.EditText()); }
+    int caretUnit() const;
+    Units selectedUnits() const;
+    void selectUnits(int anchor, int caret);
+    int unitAt(int x) const;
+    QRect placeOfUnit(int unit) const;
+
 protected:
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
@@ -60,13 +74,14 @@ private:
     bool steppingKey(QKeyEvent* event);
     void deleteNext();
     void replaceSelection(const QString& text);
-    QString text() const;
     QString selectedText() const;
     void followCaret();
     void select(int anchor, int caret);
     void paintText(QPainter& painter) const;
     void layOut(QTextLayout& layout) const;
     double caretX() const;
+    double xOfUnit(int unit) const;
+    void tellListeners();
     int characterAt(int x) const;
     int naturalWidth() const;
     void scrollToCaret();
@@ -81,12 +96,11 @@ private:
     int caret_ = 0;
     double scrolled_ = 0;
     bool caretShown_ = true;
+    std::optional<std::pair<QString, int>> told_;  // text and caret, while it is open
     QBasicTimer blinking_;
 };
 
 /// Types each character of a text into the open edit.
 void typeInto(ui::Grid& grid, const QString& text);
-/// Whether a key types its text, rather than being a command.
-bool isTyping(const QKeyEvent& event);
 
 }  // namespace desktop

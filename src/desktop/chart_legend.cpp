@@ -21,6 +21,30 @@ QCPLayoutGrid* centred(QCustomPlot& plot, QCPLegend& legend) {
     return row;
 }
 
+/// A series' colour and name. The square stands on the line of the text and is as high as its capitals.
+class LegendItem : public QCPPlottableLegendItem {
+public:
+    LegendItem(QCPLegend& legend, QCPBars& bars) : QCPPlottableLegendItem(&legend, &bars), bars_(bars) {}
+
+protected:
+    void draw(QCPPainter* painter) override {
+        const QFontMetricsF metrics(getFont());
+        const double side = std::round(metrics.capHeight());
+        const double line = mRect.y() + std::round(metrics.ascent());
+        const QSize room = mParentLegend->iconSize();
+        painter->setPen(bars_.pen());
+        painter->setBrush(bars_.brush());
+        painter->drawRect(QRectF(mRect.x() + (room.width() - side) / 2, line - side, side, side));
+        painter->setFont(getFont());
+        painter->setPen(getTextColor());
+        painter->drawText(QPointF(mRect.x() + room.width() + mParentLegend->iconTextPadding(), line),
+                          bars_.name());
+    }
+
+private:
+    QCPBars& bars_;
+};
+
 }  // namespace
 
 ChartLegend::ChartLegend(QCustomPlot& plot, int row) : legend_(*plot.legend) {
@@ -51,7 +75,7 @@ void ChartLegend::show(const ChartNumbers& numbers, const std::vector<QCPBars*>&
     for (int i = 0; i < static_cast<int>(bars.size()); ++i) {
         const QString name = numbers.seriesName(i);
         bars[static_cast<std::size_t>(i)]->setName(name);
-        bars[static_cast<std::size_t>(i)]->addToLegend(&legend_);
+        legend_.addItem(new LegendItem(legend_, *bars[static_cast<std::size_t>(i)]));
         itemWidths_.push_back(swatch + swatch / 2 +
                               static_cast<int>(std::ceil(metrics.horizontalAdvance(name))) + 2);
     }

@@ -87,7 +87,7 @@ ChartNumbers readNumbers(const ui::Chart& chart) {
     numbers.AllSeries = namedSeries(chart, columnsOf(chart.ChartData()) - 1);
     for (const Row& row : chart.ChartData()) {
         if (isBlank(row)) continue;
-        numbers.Categories.push_back(shownText(row.front()));
+        numbers.Categories.push_back(shortText(row.front()));
         for (std::size_t i = 0; i < numbers.AllSeries.size(); ++i) {
             const std::string text = i + 1 < row.size() ? row[i + 1] : std::string();
             numbers.AllSeries[i].Values.push_back(ui::tryReal(text));

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/chart_plot.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "desktop/texts.h"
@@ -30,6 +31,12 @@ ui::Font tickFont(const ui::Chart& chart) { return {chart.AxisTitleFont.Name, ui
 
 QString axisTitle(const std::string& title, double width, int mostLines, const QFont& font) {
     return wrappedOrCut(shownText(title), width, mostLines, QFontMetricsF(font));
+}
+
+/// The whole of a text that is not shown so.
+QString wholeIfCut(const QString& shown, const std::string& text) {
+    const QString whole = shownText(text);
+    return shown.simplified() == whole.simplified() ? QString() : whole;
 }
 
 /// Dark enough to be seen on white.
@@ -296,13 +303,37 @@ void ChartPlot::changeEvent(QEvent* event) {
     if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) outdateData();
 }
 
-QPixmap ChartPlot::picture() {
+/// Drawn anew, so that fonts and lines keep their proportions.
+QPixmap ChartPlot::picture(double resolution) {
     replotIfOutdated();
-    QPixmap picture(viewport().size() * devicePixelRatioF());
-    picture.setDevicePixelRatio(devicePixelRatioF());
+    const double ratio = devicePixelRatioF() * resolution;
+    QPixmap picture(viewport().size() * ratio);
+    picture.setDevicePixelRatio(ratio);
+    picture.fill(Qt::white);
     QCPPainter painter(&picture);
-    paintBuffers(painter);
+    painter.setMode(QCPPainter::pmNonCosmetic, resolution > 1);
+    draw(&painter);
     return picture;
+}
+
+bool ChartPlot::isCut(int category) const {
+    const auto label = std::find_if(labels_.Labels.begin(), labels_.Labels.end(),
+                                    [category](const auto& shown) { return shown.Category == category; });
+    if (label == labels_.Labels.end()) return true;
+    return label->Text.simplified() != numbers_.Categories[static_cast<std::size_t>(category)].simplified();
+}
+
+QString ChartPlot::cutNameAt(QPointF place) {
+    replotIfOutdated();
+    const QRect plot = axisRect()->rect();
+    if (title_->rect().contains(place.toPoint())) return wholeIfCut(title_->text(), chart_.Title);
+    if (place.x() < plot.left()) return wholeIfCut(yAxis->label(), chart_.YAxisTitle);
+    if (place.y() <= plot.bottom() || place.x() > plot.right()) return {};
+    if (place.y() > height() - plotLayout()->margins().bottom() - QFontMetrics(xAxis->labelFont()).height())
+        return wholeIfCut(xAxis->label(), chart_.XAxisTitle);
+    const int category = static_cast<int>(std::lround(xAxis->pixelToCoord(place.x())));
+    if (category < 0 || category >= numbers_.count() || !isCut(category)) return {};
+    return numbers_.Categories[static_cast<std::size_t>(category)];
 }
 
 }  // namespace desktop

@@ -21,8 +21,10 @@ class ChartPlot : public QCustomPlot {
 public:
     ChartPlot(const ui::Chart& chart, const Scale& scale, QWidget* parent);
 
-    /// What is seen of the chart, in the screen's pixels.
-    QPixmap picture();
+    /// What is seen of the chart, in so many pixels for each of the screen's.
+    QPixmap picture(double resolution = 1);
+    /// The whole of a title, or of a category's name below the axis, that finds no room there; empty elsewhere.
+    QString cutNameAt(QPointF place);
     /// What is drawn, read anew if it is out of date.
     const ChartNumbers& numbers();
     CategoryRange shownCategories();
@@ -58,6 +60,7 @@ private:
     void arrangeCategoryAxis();
     void arrangeBars();
     QRectF barRect(Bar bar) const;
+    bool isCut(int category) const;
     void paintBuffers(QCPPainter& painter);
     void paintFocus(QCPPainter& painter);
 

@@ -57,7 +57,7 @@ void ChartView::dataRead() { setAccessibleDescription(summary(shownText(control_
 
 QString ChartView::tipAt(QPointF place) {
     const auto bar = barAt(place);
-    if (!bar) return {};
+    if (!bar) return cutNameAt(place);
     const QString value = textOf(numbers(), bar->Category, bar->Series);
     const QString name =
         numbers().hasLegend() ? numbers().seriesName(bar->Series) : shownText(control_.YAxisTitle);

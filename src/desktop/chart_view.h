@@ -19,7 +19,7 @@ public:
     QWidget& widget() override { return *this; }
     void follow() override { outdateData(); }
 
-    /// Category, series and value of the bar at that place; empty where there is none.
+    /// Category, series and value of the bar at that place, or the whole of a name that is cut there; empty elsewhere.
     QString tipAt(QPointF place);
     void showNumbers();
 

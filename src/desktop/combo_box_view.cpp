@@ -4,6 +4,7 @@
 
 #include <QAbstractItemView>
 #include <QKeyEvent>
+#include <QShortcut>
 #include <QSignalBlocker>
 #include <QWheelEvent>
 
@@ -23,16 +24,42 @@ ComboBoxView::ComboBoxView(ui::ComboBox& box, FormLink& link, QWidget* parent)
     setMaxVisibleItems(MostVisibleItems);
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     setStyleSheet("QComboBox { combobox-popup: 0; }");
-    connect(this, &QComboBox::activated, this, [this, &link](int index) {
-        link.command([this, index] { box_.UserChoose(index); });
-        follow();  // also where the choice did not take place
-    });
+    connect(this, &QComboBox::activated, this, &ComboBoxView::choose);
+    view()->installEventFilter(this);
+}
+
+void ComboBoxView::choose(int index) {
+    link_.command([this, index] { box_.UserChoose(index); });
+    follow();  // also where the choice did not take place
+}
+
+/// Tab takes the item of the open list, which would keep the key, and goes on. With Ctrl it is a shortcut of the window.
+bool ComboBoxView::eventFilter(QObject* watched, QEvent* event) {
+    if (watched != view() || event->type() != QEvent::KeyPress) return QComboBox::eventFilter(watched, event);
+    const auto& key = static_cast<QKeyEvent&>(*event);
+    const bool back = key.key() == Qt::Key_Backtab;
+    if (!back && key.key() != Qt::Key_Tab) return false;
+    const int item = view()->currentIndex().row();
+    hidePopup();
+    if (item >= 0 && item != currentIndex()) choose(item);
+    if (key.modifiers() & Qt::ControlModifier) {
+        pressInWindow(QKeySequence(key.modifiers() | Qt::Key_Tab));
+    } else {
+        focusNextPrevChild(!back);
+    }
+    return true;
+}
+
+void ComboBoxView::pressInWindow(const QKeySequence& keys) const {
+    for (auto* shortcut : window()->findChildren<QShortcut*>()) {
+        if (shortcut->key() == keys) emit shortcut->activated();
+    }
 }
 
 bool ComboBoxView::showsTheItems() const {
     if (count() != box_.ListCount()) return false;
     for (int i = 0; i < count(); ++i) {
-        if (itemText(i).toStdString() != box_.List(i)) return false;
+        if (itemText(i) != shortText(box_.List(i))) return false;
     }
     return true;
 }
@@ -41,7 +68,7 @@ void ComboBoxView::follow() {
     const QSignalBlocker blocker(this);
     if (!showsTheItems()) {
         QStringList items;
-        for (int i = 0; i < box_.ListCount(); ++i) items.append(QString::fromStdString(box_.List(i)));
+        for (int i = 0; i < box_.ListCount(); ++i) items.append(shortText(box_.List(i)));
         clear();
         addItems(items);
     }
@@ -51,11 +78,7 @@ void ComboBoxView::follow() {
 /// What is typed is looked for in the open list, so that nothing is chosen on the way to it.
 void ComboBoxView::keyPressEvent(QKeyEvent* event) {
     const QString typed = event->text();
-    const bool command =
-        (event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0;
-    if (command || typed.isEmpty() || !typed.at(0).isPrint() || typed.at(0).isSpace()) {
-        return QComboBox::keyPressEvent(event);
-    }
+    if (!isTyping(*event) || typed.at(0).isSpace()) return QComboBox::keyPressEvent(event);
     showPopup();
     if (view()->isVisible()) view()->keyboardSearch(typed);
 }

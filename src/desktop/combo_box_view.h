@@ -17,6 +17,7 @@ public:
     void follow() override;
 
 protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void showPopup() override;
     /// A wheel that only scrolls past must not choose.
@@ -24,6 +25,8 @@ protected:
 
 private:
     bool showsTheItems() const;
+    void choose(int index);
+    void pressInWindow(const QKeySequence& keys) const;
 
     ui::ComboBox& box_;
     FormLink& link_;

@@ -3,18 +3,24 @@
 #include "desktop/desktop.h"
 
 #include <QApplication>
+#include <QScreen>
 #include <new>
 #include <utility>
 
 #include "desktop/chart_view.h"
 #include "desktop/dialogues.h"
+#include "desktop/own/file_drop.h"
+#include "desktop/own/help_menu.h"
+#include "desktop/texts.h"
 #include "ui/errors.h"
 
 namespace desktop {
 
 namespace {
 
-constexpr int ExitAfterFailure = 4;  // as brenica-batch ends after an unexpected error
+constexpr double PrintResolution = 3;  // of a chart that is copied or saved, in the screen's own
+constexpr int SplashPercent = 70;      // of the screen, at the most
+constexpr int ExitAfterFailure = 4;    // as brenica-batch ends after an unexpected error
 
 /// Gives a flag a value for as long as it lives.
 class Held {
@@ -49,7 +55,8 @@ Desktop::Desktop()
       program_(platform_),
       copies_(*this, CopyFolder::usualPath()) {}
 
-void Desktop::start() {
+void Desktop::start(const QString& file) {
+    waitingFile_ = file;
     run([this] { program_.Main(); });
 }
 
@@ -67,7 +74,8 @@ void Desktop::run(const std::function<void()>& action) {
     keepCopies();
     if (!program_.Ended()) followStrip(false);
     platform_.boxes().showTaken(ownerOfBoxes());
-    if (program_.Ended() && !ended_) end(0);
+    if (program_.Ended() && !ended_) return end(0);
+    openWaitingFile();
 }
 
 /// What an open cell editor holds is taken over first, as the action itself would do, so that it is kept as well.
@@ -90,13 +98,28 @@ void Desktop::keepCopies() {
 /// The last look is before the box of a failure, which names no file and does not say that the work is kept.
 void Desktop::followStrip(bool programEnds) {
     if (mainWindow_ == nullptr) return;
-    if (strip_ == nullptr) {
-        strip_ =
-            std::make_unique<WindowStrip>(*mainWindow_, *program_.MainForm(), program_.GetFiles(), copies_);
-        grids_ = std::make_unique<WindowGrids>(*mainWindow_, *program_.MainForm());
-    }
+    if (strip_ == nullptr) furnishMainWindow();
     strip_->look(programEnds);
     grids_->look();
+}
+
+/// What the window has beside the form.
+void Desktop::furnishMainWindow() {
+    strip_ = std::make_unique<WindowStrip>(*mainWindow_, *program_.MainForm(), program_.GetFiles(), copies_);
+    grids_ = std::make_unique<WindowGrids>(*mainWindow_, *program_.MainForm());
+    addMenu(*mainWindow_->menuBar(),
+            helpMenu({mainWindow_.get(), [this] { return program_.MainForm()->CurrentMainTab; },
+                      [this](const QString& path) { openFile(path); }}));
+    new FileDrop(*mainWindow_, *this, [this](const QString& path) { openFile(path); });
+}
+
+void Desktop::openFile(const QString& path) {
+    command([this, &path] { program_.MainForm()->UserOpenFile(utf8(path)); });
+}
+
+void Desktop::openWaitingFile() {
+    if (mainWindow_ == nullptr || !program_.Splash()->Unloaded() || waitingFile_.isEmpty()) return;
+    openFile(std::exchange(waitingFile_, {}));
 }
 
 void Desktop::fail(const std::exception_ptr& failure) {
@@ -131,18 +154,29 @@ void Desktop::end(int exitCode) {
 }
 
 void Desktop::followForms() {
-    follow(splash_, program_.Splash());
-    follow(mainWindow_, program_.MainForm());
+    follow(splash_, program_.Splash(), linkOfSplash());
+    follow(mainWindow_, program_.MainForm(), *this);
+}
+
+/// However large the font is, the splash leaves the screen to be seen around it.
+FormLink& Desktop::linkOfSplash() {
+    const frmSplash* splash = program_.Splash();
+    if (splashLink_ == nullptr && splash != nullptr) {
+        const QSize most = QApplication::primaryScreen()->availableSize() * SplashPercent / 100;
+        splashLink_ =
+            std::make_unique<ScaledLink>(*this, scale_.within(most, {splash->Width(), splash->Height()}));
+    }
+    return splashLink_ != nullptr ? *splashLink_ : static_cast<FormLink&>(*this);
 }
 
 /// Opens a window for a form that has come into being, and hides that of a form that has ended: it may be the one that
 /// the running user action came from.
-void Desktop::follow(std::unique_ptr<FormView>& window, ui::FormWindow* form) {
+void Desktop::follow(std::unique_ptr<FormView>& window, ui::FormWindow* form, FormLink& link) {
     if (form == nullptr) return;
     if (form->Unloaded()) {
         if (window != nullptr) window->retire();
     } else if (window == nullptr) {
-        window = std::make_unique<FormView>(*form, *this);
+        window = std::make_unique<FormView>(*form, link);
         window->open();
     } else {
         window->follow();
@@ -159,7 +193,7 @@ QWidget* Desktop::ownerOfBoxes() {
 QPixmap Desktop::pictureOf(const ui::Chart& chart) {
     if (mainWindow_ == nullptr) return {};
     auto* view = dynamic_cast<ChartView*>(mainWindow_->viewOf(chart));
-    return view != nullptr ? view->picture() : QPixmap();
+    return view != nullptr ? view->picture(PrintResolution) : QPixmap();
 }
 
 }  // namespace desktop

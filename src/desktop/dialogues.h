@@ -5,7 +5,6 @@
 #include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
-#include <optional>
 #include <string>
 
 #include "ui/platform.h"
@@ -53,8 +52,4 @@ bool showQuestionBox(QWidget* parent, const std::string& text, const std::string
 /// The answer, empty when the box is cancelled.
 std::string showInputBox(QWidget* parent, const std::string& prompt, const std::string& title,
                          const std::string& proposed);
-/// The path chosen, in a folder that exists and with an extension. `lastFolder` is where a dialogue opens that names no folder; it becomes the chosen file's.
-std::optional<std::string> showFileDialogue(QWidget* parent, const ui::FileDialogRequest& request,
-                                            QString& lastFolder);
-
 }  // namespace desktop

@@ -33,8 +33,25 @@ void followCommon(QWidget& widget, const ui::Control& control, const Scale& scal
     widget.setGeometry(scale.place(control));
     widget.setEnabled(control.Enabled());
     widget.setVisible(control.Visible());
-    widget.setToolTip(plainToolTip(control.ToolTipText()));
+    const std::string& tip = control.ToolTipText();
+    widget.setToolTip(plainToolTip(tip.empty() ? control.Description() : tip));
     widget.setAccessibleName(shownText(control.AccessibleName()));
+    if (!control.Description().empty()) widget.setAccessibleDescription(shownText(control.Description()));
+}
+
+bool isBox(const ui::Control& control) {
+    return control.Kind() == ui::ControlKind::TextBox || control.Kind() == ui::ControlKind::ComboBox;
+}
+
+/// Nothing for a label that stands above a box or by itself.
+template <class Controls>
+const ui::Control* boxBeside(const ui::Control& label, const Controls& controls) {
+    for (const ui::Control* control : controls) {
+        if (!isBox(*control) || &control->Container() != &label.Container()) continue;
+        const int middle = control->Top() + control->Height() / 2;
+        if (label.Top() < middle && middle < label.Top() + label.Height()) return control;
+    }
+    return nullptr;
 }
 
 }  // namespace
@@ -54,11 +71,12 @@ FormView::FormView(ui::FormWindow& form, FormLink& link)
     scroll_->setWidget(contents_);
     for (ui::Control* control : form.Controls()) addView(*control);
     startTimers();
-    addPageKeys();
+    addKeys();
     settled_.setSingleShot(true);
     settled_.setInterval(UntilSettled);
     connect(&settled_, &QTimer::timeout, this, [this] { tellSize(); });
     form.TakeChanged();
+    levelLabels();
     followWindow();
 }
 
@@ -93,16 +111,17 @@ void FormView::retire() {
     hide();
 }
 
-/// The keys that turn pages wherever the focus is: those of the outermost strip on view, and of the innermost.
-void FormView::addPageKeys() {
-    const auto add = [this](const QKeySequence& keys, bool innermost, int by) {
-        connect(new QShortcut(keys, this), &QShortcut::activated, this,
-                [this, innermost, by] { turnPage(innermost, by); });
+/// The keys that turn pages wherever the focus is, those of the outermost strip on view and of the innermost, and the
+/// key of the menu.
+void FormView::addKeys() {
+    const auto add = [this](const QKeySequence& keys, const std::function<void()>& action) {
+        connect(new QShortcut(keys, this), &QShortcut::activated, this, action);
     };
-    add(Qt::CTRL | Qt::Key_PageDown, false, 1);
-    add(Qt::CTRL | Qt::Key_PageUp, false, -1);
-    add(Qt::CTRL | Qt::Key_Tab, true, 1);
-    add(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab, true, -1);
+    add(Qt::CTRL | Qt::Key_PageDown, [this] { turnPage(false, 1); });
+    add(Qt::CTRL | Qt::Key_PageUp, [this] { turnPage(false, -1); });
+    add(Qt::CTRL | Qt::Key_Tab, [this] { turnPage(true, 1); });
+    add(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab, [this] { turnPage(true, -1); });
+    if (menu_ != nullptr) add(Qt::Key_F10, [this] { menu_->setActiveAction(menu_->actions().first()); });
 }
 
 void FormView::turnPage(bool innermost, int by) {
@@ -112,7 +131,9 @@ void FormView::turnPage(bool innermost, int by) {
         auto* strip = static_cast<TabStripView*>(&views_.at(control)->widget());
         if (strip->isVisible()) shown.append(strip);
     }
-    if (!shown.isEmpty()) (innermost ? shown.last() : shown.first())->step(by);
+    if (shown.isEmpty()) return;
+    TabStripView& strip = innermost ? *shown.last() : *shown.first();
+    strip.step(by, &strip != shown.first());  // the pages have a first and a last
 }
 
 View* FormView::viewOf(const ui::Control& control) const {
@@ -129,14 +150,29 @@ void FormView::followControl(ui::Control& control) {
 }
 
 void FormView::follow() {
+    bool labelsMayHaveMoved = false;
     for (ui::Control* control : form_.TakeChanged()) {
         if (control == &form_) {
             followWindow();
         } else {
             followControl(*control);
         }
+        labelsMayHaveMoved |= control->Kind() == ui::ControlKind::Label || isBox(*control);
     }
+    if (labelsMayHaveMoved) levelLabels();
     keepFocusOnOpenEditor();
+}
+
+/// The text of a label that stands beside a box gets the height of the box's text, whatever the style puts around that.
+void FormView::levelLabels() {
+    for (const ui::Control* control : form_.Controls()) {
+        if (control->Kind() != ui::ControlKind::Label) continue;
+        const ui::Control* box = boxBeside(*control, form_.Controls());
+        if (box == nullptr) continue;
+        QWidget& label = views_.at(control)->widget();
+        const QRect beside = link_.scale().place(*box);
+        label.move(label.x(), beside.top() + (beside.height() - label.fontMetrics().height() + 1) / 2);
+    }
 }
 
 /// An editor that refuses to close keeps the keys, wherever the user has clicked.
@@ -174,6 +210,8 @@ QSize FormView::borderOfForm() const {
     if (form_.Border() == ui::FormBorder::None) return {0, 0};
     return {ui::FormWindow::BorderWidth, ui::FormWindow::BorderHeight};
 }
+
+QMenuBar* FormView::menuBar() const { return menu_; }
 
 int FormView::menuHeight() const { return menu_ != nullptr ? menu_->sizeHint().height() : 0; }
 

@@ -11,6 +11,8 @@
 #include "desktop/view.h"
 #include "ui/form_window.h"
 
+class QMenuBar;
+
 namespace desktop {
 
 class MenuView;
@@ -29,6 +31,8 @@ public:
     void retire();
     /// Nothing for a control of another form.
     View* viewOf(const ui::Control& control) const;
+    /// Null for a form without a menu.
+    QMenuBar* menuBar() const;
     /// Gives a widget that is no control a place at the lower edge, as high as it wants to be while it is not hidden. The
     /// form has what is left: a normal window grows by that height, in a maximised one the form's area shrinks.
     void placeAtEdge(QWidget& widget);
@@ -47,10 +51,11 @@ private:
     void addView(ui::Control& control);
     void startTimers();
     void followControl(ui::Control& control);
+    void levelLabels();
     void followWindow();
     void keepFocusOnOpenEditor();
     void arrangeContents();
-    void addPageKeys();
+    void addKeys();
     void turnPage(bool innermost, int by);
     QSize borderOfForm() const;
     int menuHeight() const;

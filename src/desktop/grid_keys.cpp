@@ -10,6 +10,7 @@
 #include "desktop/cell_editor.h"
 #include "desktop/grid_view.h"
 #include "desktop/own/cell_history.h"
+#include "desktop/texts.h"
 
 namespace desktop {
 

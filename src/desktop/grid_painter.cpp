@@ -7,6 +7,7 @@
 #include <cmath>
 
 #include "desktop/colours.h"
+#include "desktop/texts.h"
 
 namespace desktop {
 
@@ -21,6 +22,7 @@ constexpr double LineWeight = 0.18;
 constexpr double HeadingLineWeight = 0.3;
 constexpr double SelectionWeight = 0.16;
 constexpr double FadedWeight = 0.5;
+constexpr double NarrowestHeading = 0.85;  // of the width that its text has by itself
 // Above this lightness black contrasts more than white.
 constexpr double MiddleLightness = 0.179;
 
@@ -43,10 +45,11 @@ bool isDisabled(const QPalette& palette) { return palette.currentColorGroup() ==
 
 }  // namespace
 
-/// A text in as many lines as there are, word by word; the last one is cut where it is too long.
-QStringList brokenIntoLines(const QString& text, int room, int lines, const QFontMetricsF& metrics) {
+/// A text in as many lines as there are, word by word; each is cut where it is longer than `longest`.
+QStringList brokenIntoLines(const QString& text, int room, int longest, int lines,
+                            const QFontMetricsF& metrics) {
     // No character that shows is narrower than a pixel: a long text need not be measured to its end.
-    const QStringList words = text.left((room + 1) * lines).split(' ');
+    const QStringList words = text.left((longest + 1) * lines).split(' ');
     QStringList broken;
     QString line = words.first();
     for (const QString& word : words.mid(1)) {
@@ -60,12 +63,12 @@ QStringList brokenIntoLines(const QString& text, int room, int lines, const QFon
         }
     }
     broken.append(line);
-    for (QString& shown : broken) shown = metrics.elidedText(shown, Qt::ElideRight, room);
+    for (QString& shown : broken) shown = metrics.elidedText(shown, Qt::ElideRight, longest);
     return broken;
 }
 
 QString cellText(const ui::Grid& grid, CellAddress cell) {
-    QString text = QString::fromUtf8(grid.TextMatrix(cell.Row, cell.Col));
+    QString text = shortText(grid.TextMatrix(cell.Row, cell.Col));
     for (QChar& character : text) {
         if (character < u' ' || character == QChar::LineSeparator) character = u' ';
     }
@@ -136,7 +139,8 @@ void GridPainter::paintText(QPainter& painter, CellAddress cell, const QRect& pl
     const bool bold = grid_.IsBold(cell.Row, cell.Col);
     const int room = roomFor(cell, place);
     if (room <= 0) return;
-    const ShapedText& text = shaped(cellText(grid_, cell), room, linesFor(cell), bold);
+    const ShapedText& text =
+        shaped(cellText(grid_, cell), room, longestFor(cell, room), linesFor(cell), bold);
     const double free = std::max(0.0, room - text.Width);
     const ui::CellAlign alignment = grid_.AlignmentOf(cell.Row, cell.Col);
     const double indent = alignment == ui::CellAlign::CentreCentre  ? std::floor(free / 2)
@@ -144,9 +148,18 @@ void GridPainter::paintText(QPainter& painter, CellAddress cell, const QRect& pl
                                                                     : 0;
     const int height = static_cast<int>(std::ceil(text.Text.size().height()));
     painter.setFont(font(bold));
-    painter.drawStaticText(
-        QPointF(place.left() + padding_ + indent, place.top() + (place.height() - 1 - height) / 2),
-        text.Text);
+    const QPointF at(place.left() + padding_ + indent, place.top() + (place.height() - 1 - height) / 2);
+    if (text.Width <= room) return painter.drawStaticText(at, text.Text);
+    painter.save();
+    painter.translate(at);
+    painter.scale(room / text.Width, 1);
+    painter.drawStaticText(0, 0, text.Text);
+    painter.restore();
+}
+
+/// The longest line that is drawn whole. A heading that is a little too wide for its column is drawn narrower.
+int GridPainter::longestFor(CellAddress cell, int room) const {
+    return cell.Row < geometry_.fixedRows() ? static_cast<int>(room / NarrowestHeading) : room;
 }
 
 /// What padding and sort mark leave of a cell. Right of the text less is kept free than is counted for it, so that
@@ -155,15 +168,15 @@ int GridPainter::roomFor(CellAddress cell, const QRect& place) const {
     return place.width() - padding_ - RightPadding - (bearsSortMark(cell) ? SortMarkWidth + RightPadding : 0);
 }
 
-const GridPainter::ShapedText& GridPainter::shaped(const QString& text, int room, int lines, bool bold) {
-    const TextKey key{text, room, lines, bold};
+const GridPainter::ShapedText& GridPainter::shaped(const QString& text, int room, int longest, int lines,
+                                                   bool bold) {
+    const TextKey key{text, room, longest, lines, bold};
     if (const ShapedText* known = texts_.object(key)) return *known;
     const QFontMetricsF metrics(font(bold));
     auto added = std::make_unique<ShapedText>();
-    const QStringList shown = brokenIntoLines(text, room, lines, metrics);
+    const QStringList shown = brokenIntoLines(text, room, longest, lines, metrics);
     added->Text.setTextFormat(Qt::PlainText);
-    added->Text.setText(shown.join('\n'));
-    if (shown.size() > 1) added->Text.setTextWidth(room + 1);  // without a width line breaks are not heeded
+    added->Text.setText(shown.join(QChar::LineSeparator));
     added->Text.prepare({}, font(bold));
     for (const QString& line : shown) added->Width = std::max(added->Width, metrics.horizontalAdvance(line));
     ShapedText* kept = added.release();
@@ -175,7 +188,7 @@ bool GridPainter::isCut(CellAddress cell) const {
     const QFontMetricsF metrics(font(grid_.IsBold(cell.Row, cell.Col)));
     const int room = roomFor(cell, geometry_.cell(cell.Row, cell.Col));
     const QString text = cellText(grid_, cell);
-    return brokenIntoLines(text, room, linesFor(cell), metrics).join(' ') != text;
+    return brokenIntoLines(text, room, longestFor(cell, room), linesFor(cell), metrics).join(' ') != text;
 }
 
 bool GridPainter::bearsSortMark(CellAddress cell) const {

@@ -40,11 +40,12 @@ private:
     struct TextKey {
         QString Text;
         int Room;
+        int Longest;
         int Lines;
         bool Bold;
         bool operator==(const TextKey&) const = default;
         friend std::size_t qHash(const TextKey& key, std::size_t seed) {
-            return qHashMulti(seed, key.Text, key.Room, key.Lines, key.Bold);
+            return qHashMulti(seed, key.Text, key.Room, key.Longest, key.Lines, key.Bold);
         }
     };
 
@@ -59,7 +60,8 @@ private:
     bool bearsSortMark(CellAddress cell) const;
     int roomFor(CellAddress cell, const QRect& place) const;
     int linesFor(CellAddress cell) const { return cell.Row == 0 ? geometry_.headingLines() : 1; }
-    const ShapedText& shaped(const QString& text, int room, int lines, bool bold);
+    int longestFor(CellAddress cell, int room) const;
+    const ShapedText& shaped(const QString& text, int room, int longest, int lines, bool bold);
 
     const ui::Grid& grid_;
     const GridGeometry& geometry_;

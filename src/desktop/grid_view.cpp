@@ -70,11 +70,12 @@ void GridView::tellListeners() {
     const CellAddress current{grid_.Row(), grid_.Col()};
     const bool any = current.Row < grid_.Rows() && current.Col < grid_.Cols();
     std::string text(any ? grid_.TextMatrix(current.Row, current.Col) : std::string_view());
+    const bool closed = std::exchange(toldEditing_, grid_.Editing()) && !grid_.Editing();
     const bool moved = current != toldCell_;
     const bool rewritten = !moved && text != toldText_;
     toldCell_ = current;
     toldText_ = std::move(text);
-    if (moved) tellCurrentCell(*this);
+    if (moved || closed) tellCurrentCell(*this);
     if (rewritten) tellCellText(*this);
 }
 

@@ -126,6 +126,7 @@ private:
     bool outdated_ = true;
     CellAddress toldCell_;
     std::string toldText_;
+    bool toldEditing_ = false;
 
     CellAddress hovered_;
     int draggedCol_ = -1;

@@ -13,6 +13,8 @@
 #include <cmath>
 
 #include "desktop/dialogues.h"
+#include "desktop/file_dialogue.h"
+#include "desktop/program_files.h"
 #include "desktop/texts.h"
 #include "ui/errors.h"
 #include "ui/files.h"
@@ -22,6 +24,7 @@ namespace desktop {
 namespace {
 
 constexpr std::size_t MostKnownWidths = 1 << 20;
+constexpr double MetresPerInch = 0.0254;
 
 /// The default pointer, for as long as a box is on view.
 class PointerLift {
@@ -42,6 +45,14 @@ private:
     QList<QCursor> lifted_;
 };
 
+/// What of a text is longer than any screen counts as wide as what comes before it.
+double widthOf(std::string_view text, const QFontMetricsF& metrics) {
+    const QString measured = shortText(text);
+    const double whole = static_cast<double>(shownText(text).size());
+    return metrics.horizontalAdvance(measured) * whole /
+           static_cast<double>(std::max<qsizetype>(measured.size(), 1));
+}
+
 /// Runs a box on top of windows that show how far the form has come.
 template <class Show>
 auto withBox(Windows& windows, Show show) {
@@ -49,8 +60,6 @@ auto withBox(Windows& windows, Show show) {
     const PointerLift lift;
     return show(windows.ownerOfBoxes());
 }
-
-bool isFolder(const QString& path) { return QDir(path).exists(); }
 
 }  // namespace
 
@@ -75,8 +84,13 @@ std::optional<std::string> QtPlatform::chooseFile(const ui::FileDialogRequest& r
 
 void QtPlatform::beep() { QApplication::beep(); }
 
+/// It tells its resolution, so that it is pasted and printed as large as it is seen.
 void QtPlatform::copyPicture(const ui::Chart& chart) {
-    QApplication::clipboard()->setPixmap(windows_.pictureOf(chart));
+    QImage picture = windows_.pictureOf(chart).toImage();
+    const double dots = QApplication::primaryScreen()->logicalDotsPerInch() * picture.devicePixelRatio();
+    picture.setDotsPerMeterX(qRound(dots / MetresPerInch));
+    picture.setDotsPerMeterY(qRound(dots / MetresPerInch));
+    QApplication::clipboard()->setImage(picture);
 }
 
 /// Written to a temporary name and renamed, so that a failure leaves the file as it was.
@@ -84,7 +98,7 @@ void QtPlatform::SavePicture(const std::string& path) {
     const QImage picture = QApplication::clipboard()->image();
     if (picture.isNull()) ui::raise(ui::ErrorNumber::InvalidPropertyValue);
     const QString name = QString::fromStdString(path);
-    if (!isFolder(QFileInfo(name).absolutePath())) ui::raise(ui::ErrorNumber::PathNotFound);
+    if (!QFileInfo(name).dir().exists()) ui::raise(ui::ErrorNumber::PathNotFound);
     QSaveFile file(name);
     errno = 0;
     if (!file.open(QIODevice::WriteOnly))
@@ -106,7 +120,7 @@ int QtPlatform::textWidth(std::string_view text, const ui::Font& font) const {
     const auto known = widths.Known.find(text);
     if (known != widths.Known.end()) return known->second;
     const QFontMetricsF metrics(scale_.font(font));
-    const int width = scale_.twips(static_cast<int>(std::ceil(metrics.horizontalAdvance(shownText(text)))));
+    const int width = scale_.twips(static_cast<int>(std::ceil(widthOf(text, metrics))));
     if (widths.Known.size() >= MostKnownWidths) widths.Known.clear();
     widths.Known.emplace(text, width);
     return width;
@@ -127,14 +141,7 @@ void QtPlatform::setMousePointer(ui::MousePointer pointer) {
 
 void QtPlatform::processPendingEvents() { windows_.handlePendingEvents(); }
 
-/// The examples, installed beside the program or in the tree that it was built in.
-std::string QtPlatform::programFolder() const {
-    const QDir program(QApplication::applicationDirPath());
-    for (const char* place : {"../share/brenica/examples", "../../../../examples"}) {
-        if (isFolder(program.filePath(place))) return utf8(QDir::cleanPath(program.filePath(place)));
-    }
-    return utf8(program.path());
-}
+std::string QtPlatform::programFolder() const { return utf8(examplesFolder()); }
 
 ui::DecimalSeparator QtPlatform::decimalSeparator() const {
     return QLocale::system().decimalPoint() == "," ? ui::DecimalSeparator::Comma

@@ -26,7 +26,7 @@ public:
     virtual void handlePendingEvents() = 0;
     /// The window that a box belongs to; null while there is none.
     virtual QWidget* ownerOfBoxes() = 0;
-    /// The chart as it is seen.
+    /// The chart as it is seen, in a resolution that prints.
     virtual QPixmap pictureOf(const ui::Chart& chart) = 0;
 };
 

@@ -3,6 +3,7 @@
 #include "desktop/scale.h"
 
 #include <QFontMetricsF>
+#include <algorithm>
 #include <cmath>
 
 namespace desktop {
@@ -11,6 +12,16 @@ namespace {
 
 const ui::Font DesignFont{};
 constexpr int TwipsAPoint = 20;
+
+/// As large in the unit that it is given in.
+QFont resized(QFont font, double ratio) {
+    if (font.pixelSize() > 0) {
+        font.setPixelSize(static_cast<int>(std::lround(font.pixelSize() * ratio)));
+    } else {
+        font.setPointSizeF(font.pointSizeF() * ratio);
+    }
+    return font;
+}
 
 }  // namespace
 
@@ -35,16 +46,19 @@ QRect Scale::place(const ui::Control& control) const {
 }
 
 QFont Scale::font(const ui::Font& font) const {
-    QFont scaled = desktopFont_;
+    QFont scaled = resized(desktopFont_, static_cast<double>(font.Size) / DesignFont.Size);
     if (font.Name != DesignFont.Name) scaled.setFamily(QString::fromStdString(font.Name));
-    const double ratio = static_cast<double>(font.Size) / DesignFont.Size;
-    if (scaled.pixelSize() > 0) {
-        scaled.setPixelSize(static_cast<int>(std::lround(scaled.pixelSize() * ratio)));
-    } else {
-        scaled.setPointSizeF(scaled.pointSizeF() * ratio);
-    }
     scaled.setBold(font.Bold);
     return scaled;
+}
+
+Scale Scale::within(QSize most, ui::Size form) const {
+    const double ratio = std::min(
+        {1.0, most.width() / (form.Width * pixelsPerTwip_), most.height() / (form.Height * pixelsPerTwip_)});
+    Scale smaller = *this;
+    smaller.desktopFont_ = resized(desktopFont_, ratio);
+    smaller.pixelsPerTwip_ *= ratio;
+    return smaller;
 }
 
 }  // namespace desktop

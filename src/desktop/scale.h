@@ -27,6 +27,8 @@ public:
     /// The desktop's font for the design's own one, and another family where the design names one; sizes keep their
     /// ratio to the design's 8 points.
     QFont font(const ui::Font& font) const;
+    /// This scale, or a smaller one where a form of that size would be larger than `most` pixels.
+    Scale within(QSize most, ui::Size form) const;
     const QFont& desktopFont() const { return desktopFont_; }
 
 private:

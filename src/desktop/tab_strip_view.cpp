@@ -71,9 +71,11 @@ void TabStripView::select(int index) {
     follow();  // also where the tab could not be left
 }
 
-void TabStripView::step(int by) {
-    const int wanted = strip_.SelectedItem() + by;
-    if (wanted < 1 || wanted > tabs_.size()) return;
+void TabStripView::step(int by, bool goesRound) {
+    const int count = static_cast<int>(tabs_.size());
+    int wanted = strip_.SelectedItem() + by;
+    if (goesRound) wanted = (wanted - 1 + count) % count + 1;
+    if (wanted < 1 || wanted > count) return;
     const bool onTabs = tabs_[strip_.SelectedItem() - 1]->hasFocus();
     select(wanted);
     if (onTabs) tabs_[strip_.SelectedItem() - 1]->setFocus(Qt::TabFocusReason);

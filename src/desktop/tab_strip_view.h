@@ -35,8 +35,8 @@ public:
     void follow() override;
 
     void select(int index);
-    /// The tab before or behind the selected one, with the focus on it.
-    void step(int by);
+    /// The tab before or behind the selected one, with the focus on it; behind the last the first, if it goes round.
+    void step(int by, bool goesRound = false);
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -19,6 +19,8 @@ namespace {
 
 constexpr int QtMargin = 2;    // what Qt leaves beside the text and its caret
 constexpr int FrameWidth = 1;  // what the design's boxes have room for instead
+constexpr int TextGap = 2;     // beside a text that leaves it
+constexpr int CaretWidth = 1;
 
 }  // namespace
 
@@ -31,16 +33,26 @@ TextBoxView::TextBoxView(ui::TextBox& box, FormLink& link, QWidget* parent)
     connect(this, &QLineEdit::cursorPositionChanged, this, [this] { tellSelection(); });
 }
 
-/// Takes back what the style's frame is wider than the design's boxes have room for.
+/// Takes back what the style's frame is wider than the design's boxes have room for. A text stands off the left edge as
+/// far as it leaves room.
 void TextBoxView::fitMargins() {
     QStyleOptionFrame option;
     initStyleOption(&option);
     option.rect = QRect(0, 0, 1000, 1000);
     const QRect contents = style()->subElementRect(QStyle::SE_LineEditContents, &option, this);
     const auto margin = [](int frame, int room) { return std::min(0, room - frame); };
-    setTextMargins(margin(contents.left(), FrameWidth - QtMargin), margin(contents.top(), FrameWidth),
-                   margin(option.rect.right() - contents.right(), FrameWidth - QtMargin),
-                   margin(option.rect.bottom() - contents.bottom(), FrameWidth));
+    const int free = width() - 2 * FrameWidth - fontMetrics().horizontalAdvance(text()) - CaretWidth;
+    const int gap = std::clamp(free, 0, TextGap);
+    const QMargins margins(margin(contents.left(), FrameWidth - QtMargin) + gap,
+                           margin(contents.top(), FrameWidth),
+                           margin(option.rect.right() - contents.right(), FrameWidth - QtMargin),
+                           margin(option.rect.bottom() - contents.bottom(), FrameWidth));
+    if (margins != textMargins()) setTextMargins(margins);
+}
+
+void TextBoxView::resizeEvent(QResizeEvent* event) {
+    fitMargins();
+    QLineEdit::resizeEvent(event);
 }
 
 void TextBoxView::changeEvent(QEvent* event) {
@@ -51,7 +63,10 @@ void TextBoxView::changeEvent(QEvent* event) {
 void TextBoxView::follow() {
     following_ = true;
     const QString shown = QString::fromStdString(box_.Text());
-    if (text() != shown) setText(shown);
+    if (text() != shown) {
+        setText(shown);
+        fitMargins();
+    }
     const int start = unitOf(shown, box_.SelStart());
     const int end = unitOf(shown, box_.SelStart() + box_.SelLength());
     if (start != end) {
@@ -137,9 +152,8 @@ void TextBoxView::keyPressEvent(QKeyEvent* event) {
         case Qt::Key_End: return QLineEdit::keyPressEvent(event);
         default: break;
     }
-    const QString typed = event->text();
-    if (command || typed.isEmpty() || !typed.at(0).isPrint()) return event->ignore();
-    type(typed);
+    if (!isTyping(*event)) return event->ignore();
+    type(event->text());
 }
 
 void TextBoxView::inputMethodEvent(QInputMethodEvent* event) {

@@ -2,13 +2,30 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/texts.h"
 
+#include <QKeyEvent>
 #include <QTextDocument>
 
+#include "ui/text_editor.h"
+
 namespace desktop {
+
+namespace {
+
+constexpr int LongestLine = 4096;  // characters: more than there are pixels
+
+}  // namespace
 
 QString shownText(std::string_view text) {
     QString shown = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
     return shown.replace("\r\n", "\n").replace('\r', '\n');
+}
+
+QString shortText(std::string_view text) {
+    constexpr std::size_t BytesOfCharacter = 4;  // at the most
+    QString shown = shownText(text.substr(0, BytesOfCharacter * LongestLine)).left(LongestLine);
+    if (shown.endsWith(QChar::ReplacementCharacter) || (!shown.isEmpty() && shown.back().isHighSurrogate()))
+        shown.chop(1);
+    return shown;
 }
 
 QString captionWithAccessKey(const ui::Control& control) {
@@ -19,13 +36,19 @@ QString captionWithAccessKey(const ui::Control& control) {
 }
 
 QString plainToolTip(std::string_view text) {
-    constexpr int LongestLine = 80;  // characters; Qt breaks lines of marked-up text only
-    const QString tip = shownText(text);
-    if (tip.size() <= LongestLine && !Qt::mightBeRichText(tip)) return tip;
+    constexpr int WidestTip = 80;  // characters; Qt breaks lines of marked-up text only
+    const QString tip = shortText(text);
+    if (tip.size() <= WidestTip && !Qt::mightBeRichText(tip)) return tip;
     return "<p>" + tip.toHtmlEscaped().replace('\n', "<br>") + "</p>";
 }
 
 std::string utf8(const QString& text) { return text.toStdString(); }
+
+bool isTyping(const QKeyEvent& event) {
+    if (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) return false;
+    const QString text = event.text();
+    return !text.isEmpty() && ui::isPrintable(static_cast<int>(text.toUcs4().first()));
+}
 
 int unitOf(const QString& text, int character) {
     int unit = 0;

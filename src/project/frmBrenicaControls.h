@@ -24,6 +24,13 @@ struct frmBrenicaControls : ui::FormWindow {
 
     ui::FileDialog cdgFileDialog;
 
+    // What the buttons beside a list do.
+    static constexpr const char* UpdateHelp = "Adds as many rows to the list as the box says.";
+    static constexpr const char* MoveUpHelp =
+        "Exchanges the names of this row and the one above. The grades stay where they are.";
+    static constexpr const char* MoveDownHelp =
+        "Exchanges the names of this row and the one below. The grades stay where they are.";
+
     // Menu.
     ui::MenuItem mnuProject{*this, "mnuProject", {.Caption = "Project", .AccessKey = 'P'}};
     ui::MenuItem mnuNewProject{
@@ -66,7 +73,9 @@ struct frmBrenicaControls : ui::FormWindow {
         fraTabContents(0), "txtTotalSpecies", "0", {.AccessibleName = "Number of new species"}};
     ui::Label lblNewSpecies{fraTabContents(0), "lblNewSpecies", {.Caption = "new species"}};
     ui::CommandButton cmdUpdateSpecies{
-        fraTabContents(0), "cmdUpdateSpecies", {.Caption = "Update species list", .AccessKey = 'U'}};
+        fraTabContents(0),
+        "cmdUpdateSpecies",
+        {.Caption = "Update species list", .AccessKey = 'U', .Description = UpdateHelp}};
     ui::CommandButton cmdRemoveSpecies{
         fraTabContents(0), "cmdRemoveSpecies", {.Caption = "Remove species no.:", .AccessKey = 'R'}};
     ui::TextBox txtRemoveSpeciesIndex{fraTabContents(0),
@@ -76,7 +85,8 @@ struct frmBrenicaControls : ui::FormWindow {
     ui::ControlArray<ui::CommandButton> cmdSpeciesMove{
         fraTabContents(0),
         "cmdSpeciesMove",
-        {{.Caption = "▲", .AccessibleName = "Move up"}, {.Caption = "▼", .AccessibleName = "Move down"}}};
+        {{.Caption = "▲", .AccessibleName = "Move up", .Description = MoveUpHelp},
+         {.Caption = "▼", .AccessibleName = "Move down", .Description = MoveDownHelp}}};
 
     // Page 2: the lists that species are judged against.
     ui::ControlArray<ui::OptionButton> optLandChar{fraTabContents(1),
@@ -101,7 +111,9 @@ struct frmBrenicaControls : ui::FormWindow {
         fraLandCharInfo(0), "txtTotalHabitatTypes", "0", {.AccessibleName = "Number of new habitats"}};
     ui::Label lblNewHabitatTypes{fraLandCharInfo(0), "lblNewHabitatTypes", {.Caption = "new habitats"}};
     ui::CommandButton cmdUpdateHabitatTypes{
-        fraLandCharInfo(0), "cmdUpdateHabitatTypes", {.Caption = "Update habitat list", .AccessKey = 'U'}};
+        fraLandCharInfo(0),
+        "cmdUpdateHabitatTypes",
+        {.Caption = "Update habitat list", .AccessKey = 'U', .Description = UpdateHelp}};
     ui::CommandButton cmdRemoveHabitatType{
         fraLandCharInfo(0), "cmdRemoveHabitatType", {.Caption = "Remove habitat no.:", .AccessKey = 'R'}};
     ui::TextBox txtRemoveHabitatIndex{fraLandCharInfo(0),
@@ -111,7 +123,8 @@ struct frmBrenicaControls : ui::FormWindow {
     ui::ControlArray<ui::CommandButton> cmdHabitatMove{
         fraLandCharInfo(0),
         "cmdHabitatMove",
-        {{.Caption = "▲", .AccessibleName = "Move up"}, {.Caption = "▼", .AccessibleName = "Move down"}}};
+        {{.Caption = "▲", .AccessibleName = "Move up", .Description = MoveUpHelp},
+         {.Caption = "▼", .AccessibleName = "Move down", .Description = MoveDownHelp}}};
 
     ui::Grid flxJurisUnits{fraLandCharInfo(1), "flxJurisUnits", {.AccessibleName = "Management zones"}};
     ui::Label lblAddJurisUnits{fraLandCharInfo(1), "lblAddJurisUnits", {.Caption = "Add", .AccessKey = 'A'}};
@@ -119,7 +132,9 @@ struct frmBrenicaControls : ui::FormWindow {
         fraLandCharInfo(1), "txtTotalJurisUnits", "0", {.AccessibleName = "Number of new management zones"}};
     ui::Label lblNewJurisUnits{fraLandCharInfo(1), "lblNewJurisUnits", {.Caption = "new mng. zones"}};
     ui::CommandButton cmdUpdateJurisUnits{
-        fraLandCharInfo(1), "cmdUpdateJurisUnits", {.Caption = "Update mng. zone list", .AccessKey = 'U'}};
+        fraLandCharInfo(1),
+        "cmdUpdateJurisUnits",
+        {.Caption = "Update mng. zone list", .AccessKey = 'U', .Description = UpdateHelp}};
     ui::CommandButton cmdRemoveJurisUnit{
         fraLandCharInfo(1), "cmdRemoveJurisUnit", {.Caption = "Remove mng. zone no.:", .AccessKey = 'R'}};
     ui::TextBox txtRemoveJurisUnitIndex{fraLandCharInfo(1),
@@ -129,7 +144,8 @@ struct frmBrenicaControls : ui::FormWindow {
     ui::ControlArray<ui::CommandButton> cmdJurisUnitMove{
         fraLandCharInfo(1),
         "cmdJurisUnitMove",
-        {{.Caption = "▲", .AccessibleName = "Move up"}, {.Caption = "▼", .AccessibleName = "Move down"}}};
+        {{.Caption = "▲", .AccessibleName = "Move up", .Description = MoveUpHelp},
+         {.Caption = "▼", .AccessibleName = "Move down", .Description = MoveDownHelp}}};
 
     ui::Grid flxLandUses{fraLandCharInfo(2), "flxLandUses", {.AccessibleName = "Human activities"}};
     ui::Label lblAddLandUses{fraLandCharInfo(2), "lblAddLandUses", {.Caption = "Add", .AccessKey = 'A'}};
@@ -137,7 +153,9 @@ struct frmBrenicaControls : ui::FormWindow {
         fraLandCharInfo(2), "txtTotalLandUses", "0", {.AccessibleName = "Number of new human activities"}};
     ui::Label lblNewLandUses{fraLandCharInfo(2), "lblNewLandUses", {.Caption = "new human act."}};
     ui::CommandButton cmdUpdateLandUses{
-        fraLandCharInfo(2), "cmdUpdateLandUses", {.Caption = "Update human act. list", .AccessKey = 'U'}};
+        fraLandCharInfo(2),
+        "cmdUpdateLandUses",
+        {.Caption = "Update human act. list", .AccessKey = 'U', .Description = UpdateHelp}};
     ui::CommandButton cmdRemoveLandUse{
         fraLandCharInfo(2), "cmdRemoveLandUse", {.Caption = "Remove human act. no.:", .AccessKey = 'R'}};
     ui::TextBox txtRemoveLandUseIndex{fraLandCharInfo(2),
@@ -147,7 +165,8 @@ struct frmBrenicaControls : ui::FormWindow {
     ui::ControlArray<ui::CommandButton> cmdLandUseMove{
         fraLandCharInfo(2),
         "cmdLandUseMove",
-        {{.Caption = "▲", .AccessibleName = "Move up"}, {.Caption = "▼", .AccessibleName = "Move down"}}};
+        {{.Caption = "▲", .AccessibleName = "Move up", .Description = MoveUpHelp},
+         {.Caption = "▼", .AccessibleName = "Move down", .Description = MoveDownHelp}}};
 
     ui::ControlArray<ui::OptionButton> optHomeRangeType{
         fraLandCharInfo(3),
@@ -163,7 +182,9 @@ struct frmBrenicaControls : ui::FormWindow {
         fraLandCharInfo(3), "txtTotalBins", "0", {.AccessibleName = "Number of new breakpoints"}};
     ui::Label lblNewBins{fraLandCharInfo(3), "lblNewBins", {.Caption = "new breakpoints"}};
     ui::CommandButton cmdUpdateBins{
-        fraLandCharInfo(3), "cmdUpdateBins", {.Caption = "Update breakpoints", .AccessKey = 'U'}};
+        fraLandCharInfo(3),
+        "cmdUpdateBins",
+        {.Caption = "Update breakpoints", .AccessKey = 'U', .Description = UpdateHelp}};
     ui::CommandButton cmdRemoveBin{
         fraLandCharInfo(3), "cmdRemoveBin", {.Caption = "Remove breakpoint no:", .AccessKey = 'R'}};
     ui::TextBox txtRemoveBinIndex{fraLandCharInfo(3),
@@ -177,7 +198,9 @@ struct frmBrenicaControls : ui::FormWindow {
         fraLandCharInfo(4), "txtTotalFunctions", "0", {.AccessibleName = "Number of new functions"}};
     ui::Label lblNewFunctions{fraLandCharInfo(4), "lblNewFunctions", {.Caption = "new functions"}};
     ui::CommandButton cmdUpdateFunctions{
-        fraLandCharInfo(4), "cmdUpdateFunctions", {.Caption = "Update function list", .AccessKey = 'U'}};
+        fraLandCharInfo(4),
+        "cmdUpdateFunctions",
+        {.Caption = "Update function list", .AccessKey = 'U', .Description = UpdateHelp}};
     ui::CommandButton cmdRemoveFunction{
         fraLandCharInfo(4), "cmdRemoveFunction", {.Caption = "Remove function no.:", .AccessKey = 'R'}};
     ui::TextBox txtRemoveFunctionIndex{fraLandCharInfo(4),
@@ -187,7 +210,8 @@ struct frmBrenicaControls : ui::FormWindow {
     ui::ControlArray<ui::CommandButton> cmdFunctionMove{
         fraLandCharInfo(4),
         "cmdFunctionMove",
-        {{.Caption = "▲", .AccessibleName = "Move up"}, {.Caption = "▼", .AccessibleName = "Move down"}}};
+        {{.Caption = "▲", .AccessibleName = "Move up", .Description = MoveUpHelp},
+         {.Caption = "▼", .AccessibleName = "Move down", .Description = MoveDownHelp}}};
 
     // Page 3: one species on the five criteria.
     ui::Label lblSpeciesName{

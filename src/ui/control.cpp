@@ -19,7 +19,8 @@ Control::Control(Control& container, ControlKind kind, std::string name, Design 
       enabled_(design.Enabled),
       accessKey_(design.AccessKey),
       shortcut_(std::move(design.Shortcut)),
-      accessibleName_(std::move(design.AccessibleName)) {
+      accessibleName_(std::move(design.AccessibleName)),
+      description_(std::move(design.Description)) {
     form_->controls_.push_back(this);
 }
 

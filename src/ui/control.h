@@ -41,6 +41,8 @@ struct Design {
     std::string Shortcut{};
     /// How a screen reader names a control that has neither a caption nor a label before it.
     std::string AccessibleName{};
+    /// What it does, where its caption does not say it: a screen reader tells it, and it is the tip of a control without one.
+    std::string Description{};
 };
 
 /// What all controls share. A control belongs to one form and stands in one container, a frame or the form itself.
@@ -71,6 +73,7 @@ public:
     const std::string& Shortcut() const { return shortcut_; }
     /// The name that the design gives it, its caption, or the caption of the label before it.
     virtual std::string AccessibleName() const;
+    const std::string& Description() const { return description_; }
 
     int Left() const { return left_; }
     void Left(int left) { change(left_, left); }
@@ -118,6 +121,7 @@ private:
     char accessKey_ = 0;
     std::string shortcut_;
     std::string accessibleName_;
+    std::string description_;
     int left_ = 0;
     int top_ = 0;
     int width_ = 0;

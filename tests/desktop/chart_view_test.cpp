@@ -87,6 +87,19 @@ ui::Chart::Table habitats(int count) {
     return data;
 }
 
+/// Of the lightness of two pixels at the same place: letters may be smoothed a shade otherwise.
+int greatestDifference(const QImage& one, const QImage& other) {
+    if (one.size() != other.size()) return 255;
+    int greatest = 0;
+    for (int y = 0; y < one.height(); ++y) {
+        for (int x = 0; x < one.width(); ++x) {
+            const int difference = one.pixelColor(x, y).lightness() - other.pixelColor(x, y).lightness();
+            greatest = std::max(greatest, std::abs(difference));
+        }
+    }
+    return greatest;
+}
+
 void turnWheel(QWidget& widget, QPoint place, QPoint angle) {
     QWheelEvent event(place, widget.mapToGlobal(place), QPoint(), angle, Qt::NoButton, Qt::NoModifier,
                       Qt::NoScrollPhase, false);
@@ -256,6 +269,72 @@ private slots:
         QCOMPARE(shown.bars(3).name(), QString("Criterion 4"));
     }
 
+    void theSquaresOfTheLegendStandLevelWithTheirTexts() {
+        Shown shown;
+        shown.giveScores(5, 2);
+        const QImage picture = asPixels(shown.view.picture());
+        const QRect item = shown.view.legend->item(0)->rect();
+        const int split = shown.view.legend->iconSize().width() + 1;
+        const auto rows = [&](QRect part) {  // the first and the last that bear ink
+            int first = -1;
+            int last = -1;
+            for (int y = part.top(); y <= part.bottom(); ++y) {
+                if (!hasInk(picture, QRect(part.left(), y, part.width(), 1))) continue;
+                if (first < 0) first = y;
+                last = y;
+            }
+            return std::pair(first, last);
+        };
+        const auto square = rows(QRect(item.left(), item.top(), split, item.height()));
+        const int capital = QFontMetrics(shown.view.legend->font()).horizontalAdvance("C");
+        const auto text = rows(QRect(item.left() + split, item.top(), capital + 1, item.height()));
+        QVERIFY(square.first >= 0 && text.first >= 0);
+        QVERIFY2(std::abs(square.first - text.first) <= 1,
+                 qPrintable(QString::number(square.first - text.first)));
+        QVERIFY2(std::abs(square.second - text.second) <= 1,
+                 qPrintable(QString::number(square.second - text.second)));
+    }
+
+    void aPictureInThreeTimesTheResolutionKeepsItsProportions() {
+        Shown shown;
+        shown.giveScores(5, 2);
+        const QImage seen = asPixels(shown.view.picture());
+        const QImage fine = asPixels(shown.view.picture(3));
+        QCOMPARE(fine.size(), 3 * seen.size());
+        // All that is drawn stands at the same place, three times as large.
+        const auto inkOf = [](const QImage& picture) {
+            QRegion ink;
+            for (int y = 0; y < picture.height(); ++y) {
+                for (int x = 0; x < picture.width(); ++x) {
+                    if (picture.pixelColor(x, y).lightness() < 128) ink += QRect(x, y, 1, 1);
+                }
+            }
+            return ink.boundingRect();
+        };
+        const QRect small = inkOf(seen);
+        const QRect large = inkOf(fine);
+        const auto near = [](int a, int b) { return std::abs(a - b) <= 6; };
+        QVERIFY(near(large.left(), 3 * small.left()) && near(large.top(), 3 * small.top()));
+        QVERIFY(near(large.right(), 3 * small.right()) && near(large.bottom(), 3 * small.bottom()));
+        QCOMPARE(asPixels(shown.view.picture()), seen);
+    }
+
+    void aNameThatIsCutIsReadInATip() {
+        Shown shown({300, 400});
+        const std::string name(200, 'W');
+        shown.give({{"Ash", "1"}, {name, "2"}, {"Oak", "3"}});
+        const int below = shown.view.axisRect()->bottom() + 20;
+        const auto tipBelow = [&](int category) {
+            return shown.view.tipAt(QPointF(shown.view.xAxis->coordToPixel(category), below));
+        };
+        QCOMPARE(tipBelow(1), QString::fromStdString(name));
+        QCOMPARE(tipBelow(0), QString());
+        shown.chart.Title = std::string(500, 'T');
+        shown.view.follow();
+        shown.view.picture();
+        QCOMPARE(shown.view.tipAt(QPointF(150, 15)), QString(500, 'T'));
+    }
+
     void chartsOfOneUnnamedSeriesHaveNoLegend() {
         Shown shown;
         shown.give(habitats(6));
@@ -344,7 +423,7 @@ private slots:
         shown.view.clearFocus();
         const QImage picture = asPixels(shown.view.picture());
         QVERIFY(hasInk(picture, shown.view.axisRect()->rect()));
-        QVERIFY(picture == asPixels(shown.view.grab()));
+        QVERIFY(greatestDifference(picture, asPixels(shown.view.grab())) < 32);
     }
 
     void pictureIsNeverEmpty() {

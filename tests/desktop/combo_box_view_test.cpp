@@ -4,6 +4,7 @@
 
 #include <QAbstractItemView>
 #include <QLineEdit>
+#include <QShortcut>
 #include <QSignalSpy>
 #include <QWheelEvent>
 
@@ -106,6 +107,40 @@ private slots:
         if (w.view.view()->isVisible()) QTest::keyClick(w.view.view(), Qt::Key_Return);
         QCOMPARE(w.box.Text(), std::string("Birch"));
         QCOMPARE(w.view.currentText(), QString("Birch"));
+    }
+
+    void tabTakesTheItemOfTheOpenListAndGoesOn() {
+        ComboWindow w;
+        w.view.setFocus();
+        QTest::keyClick(&w.view, Qt::Key_C);
+        QVERIFY(w.view.view()->isVisible());
+        QTest::keyClick(w.view.view(), Qt::Key_Tab);
+        QVERIFY(!w.view.view()->isVisible());
+        QCOMPARE(w.clicks, QStringList("Cedar"));
+        QVERIFY(w.before.hasFocus());
+    }
+
+    void tabOnTheItemThatIsChosenAlreadyChoosesNothing() {
+        ComboWindow w;
+        w.run([&] { w.box.ListIndex(1); });
+        w.clicks.clear();
+        w.view.setFocus();
+        w.openList();
+        QTest::keyClick(w.view.view(), Qt::Key_Backtab, Qt::ShiftModifier);
+        QVERIFY(!w.view.view()->isVisible());
+        QCOMPARE(w.clicks, QStringList());
+        QVERIFY(w.before.hasFocus());
+    }
+
+    void controlAndTabTakesTheItemAndTurnsThePage() {
+        ComboWindow w;
+        QShortcut turn(QKeySequence(Qt::CTRL | Qt::Key_Tab), &w.window);
+        const QSignalSpy turned(&turn, &QShortcut::activated);
+        w.view.setFocus();
+        QTest::keyClick(&w.view, Qt::Key_B);
+        QTest::keyClick(w.view.view(), Qt::Key_Tab, Qt::ControlModifier);
+        QCOMPARE(w.clicks, QStringList("Beech"));
+        QCOMPARE(turned.size(), 1);
     }
 
     void aChoiceThatTheFormTakesBackSpringsBack() {

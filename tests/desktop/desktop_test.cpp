@@ -5,6 +5,7 @@
 #include <QAction>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScreen>
 #include <QScrollBar>
 #include <QTimer>
 
@@ -266,6 +267,43 @@ private slots:
         QCOMPARE(caption, QString("half way"));
     }
 
+    void aKeyThatWasPressedForABoxPressesNoButton() {
+        InMainWindow w;
+        QWidget& button = w.window().viewOf(w.form().cmdUpdateSpecies)->widget();
+        int pressed = 0;
+        w.form().cmdUpdateSpecies.Click = [&] {
+            ++pressed;
+            if (pressed == 1) w.form().GetPlatform().showMessage("text", "title", ui::MessageIcon::None);
+        };
+        const Boxes boxes;
+        button.setFocus();
+        QTest::keyClick(&button, Qt::Key_Return);
+        QCOMPARE(boxes.Texts.size(), 1);
+        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space, Qt::Key_Return}) {
+            QTest::keyClick(&button, key, Qt::NoModifier, 100);
+            QCOMPARE(pressed, 1);
+        }
+        QTest::keyClick(&button, Qt::Key_Return, Qt::NoModifier, desktop::SpentKeys::Pause + 100);
+        QCOMPARE(pressed, 2);
+    }
+
+    void theSplashLeavesRoomOnASmallScreen() {
+        const QFont before = QApplication::font();
+        const auto restored = qScopeGuard([&] { QApplication::setFont(before); });
+        for (const int size : {9, 14, 28}) {
+            QFont font = before;
+            font.setPointSize(size);
+            QApplication::setFont(font);
+            Running program;
+            const QSize screen = program.splash().screen()->availableSize();
+            QVERIFY(program.splash().width() <= screen.width() * 3 / 4);
+            QVERIFY(program.splash().height() <= screen.height() * 3 / 4);
+            for (const QLabel* label : program.splash().findChildren<QLabel*>())
+                QVERIFY2(label->width() >= label->fontMetrics().horizontalAdvance(label->text()),
+                         qPrintable(label->text()));
+        }
+    }
+
     void nothingBeginsUnderABox() {
         InMainWindow w;
         bool ran = false;
@@ -319,6 +357,13 @@ private slots:
         });
         program.desktop.run([&] { program.form().ImportData(1, "/nowhere/species.txt", false); });
         QCOMPARE(told.value(0).left(33), QString("species.txt could not be imported"));
+    }
+
+    void chartsAreCopiedInAResolutionThatPrints() {
+        InMainWindow program;
+        const ui::Chart& chart = program.form().chtSummary(0);
+        const QSize seen = program.window().viewOf(chart)->widget().size();
+        QCOMPARE(program.desktop.pictureOf(chart).size(), 3 * seen);
     }
 
     void twoProgramsLiveSideBySide() {

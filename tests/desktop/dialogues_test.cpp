@@ -2,15 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/dialogues.h"
 
-#include <QDialogButtonBox>
-#include <QDir>
-#include <QFileDialog>
-#include <QMessageBox>
-#include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
-#include <QTemporaryDir>
 
 #include "desktop/box_user.h"
 #include "desktop/desktop_test.h"
@@ -28,43 +22,6 @@ bool hasIcon(const QWidget& box) {
     }
     return false;
 }
-
-/// File dialogues that are looked at and answered.
-struct FileBox {
-    QTemporaryDir folder;
-    QString lastFolder;
-    ui::FileDialogRequest request{ui::FileDialogKind::Save, "", "Text Files (*.txt)|*.txt", "txt", "", 6};
-    QString filters;
-    QString directory;
-
-    FileBox() { request.InitDir = folder.path().toStdString(); }
-
-    QString path(const char* name) const { return QDir(folder.path()).filePath(name); }
-    void write(const char* name, const char* content) const {
-        QFile file(path(name));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(content);
-    }
-    User::Step look() {
-        return [this](QWidget& box) {
-            const auto& dialogue = dynamic_cast<QFileDialog&>(box);
-            filters = dialogue.nameFilters().join('|');
-            directory = dialogue.directory().absolutePath();
-            return true;
-        };
-    }
-    static User::Step choose(const QString& name) {
-        return [name](QWidget& box) {
-            auto* edit = box.findChild<QLineEdit*>("fileNameEdit");
-            if (edit == nullptr) return false;
-            edit->setText(name);
-            static_cast<QDialog&>(box).accept();
-            return true;
-        };
-    }
-    static User::Step cancel() { return press(Qt::Key_Escape); }
-    std::optional<std::string> show() { return desktop::showFileDialogue(nullptr, request, lastFolder); }
-};
 
 }  // namespace
 
@@ -225,126 +182,6 @@ private slots:
                    press(Qt::Key_Return)});
         desktop::showInputBox(nullptr, "How many?", "title", "0");
         QCOMPARE(names, QStringList({"title", "How many?", "How many?"}));
-    }
-
-    void aFileDialogueOpensWithFilterAndFolder() {
-        FileBox w;
-        User user({w.look(), FileBox::cancel()});
-        QVERIFY(!w.show().has_value());
-        QCOMPARE(w.filters, QString("Text Files (*.txt)"));
-        QCOMPARE(w.directory, QDir(w.folder.path()).absolutePath());
-    }
-
-    void aNameWithoutAnExtensionGetsTheDefaultOne() {
-        for (const char* extension : {"txt", ".txt"}) {
-            FileBox w;
-            w.request.DefaultExt = extension;
-            User user({FileBox::choose("result")});
-            QCOMPARE(QString::fromStdString(w.show().value_or("")), w.path("result.txt"));
-        }
-        FileBox w;
-        User user({FileBox::choose("result.brn")});
-        QCOMPARE(QString::fromStdString(w.show().value_or("")), w.path("result.brn.txt"));
-        User dotted({FileBox::choose("scores v1.2")});
-        QCOMPARE(QString::fromStdString(w.show().value_or("")), w.path("scores v1.2.txt"));
-        User spelled({FileBox::choose("SCORES.TXT")});
-        QCOMPARE(QString::fromStdString(w.show().value_or("")), w.path("SCORES.TXT"));
-    }
-
-    void aFolderThatIsNotThereIsToldAndAskedForAgain() {
-        FileBox w;
-        int told = 0;
-        const User::Step reading = [&told](QWidget& box) {
-            if (qobject_cast<QFileDialog*>(&box) != nullptr) return false;
-            told += textOf(box).text().contains("nowhere") ? 1 : 0;
-            return click(QDialogButtonBox::Ok)(box);
-        };
-        User user({FileBox::choose("nowhere/result.txt"), reading, FileBox::choose("result.txt")});
-        QCOMPARE(QString::fromStdString(w.show().value_or("")), w.path("result.txt"));
-        QCOMPARE(told, 1);
-    }
-
-    void theProposedNameIsTheChoice() {
-        FileBox w;
-        w.request.FileName = "Proposed";
-        User user({[](QWidget& box) {
-            static_cast<QDialog&>(box).accept();
-            return true;
-        }});
-        QCOMPARE(QString::fromStdString(w.show().value_or("")), w.path("Proposed.txt"));
-    }
-
-    void overwritingIsAskedForAndMayBeRefused() {
-        FileBox w;
-        w.write("old.txt", "old");
-        int questions = 0;
-        const auto answer = [&](QDialogButtonBox::StandardButton button) -> User::Step {
-            return [&questions, button](QWidget& box) {
-                if (qobject_cast<QFileDialog*>(&box) != nullptr) return false;
-                ++questions;
-                return click(button)(box);
-            };
-        };
-        User refusing({FileBox::choose("old.txt"), answer(QDialogButtonBox::No), FileBox::cancel()});
-        QVERIFY(!w.show().has_value());
-        QCOMPARE(questions, 1);
-        User agreeing({FileBox::choose("old.txt"), answer(QDialogButtonBox::Yes)});
-        QCOMPARE(QString::fromStdString(w.show().value_or("")), w.path("old.txt"));
-        QCOMPARE(questions, 2);
-    }
-
-    void withoutTheFlagOverwritingIsNotAskedFor() {
-        FileBox w;
-        w.write("old.txt", "old");
-        w.request.Flags = 4;
-        User user({FileBox::choose("old.txt")});
-        QCOMPARE(QString::fromStdString(w.show().value_or("")), w.path("old.txt"));
-    }
-
-    void theFolderOfTheLastChoiceIsWhereTheNextDialogueOpens() {
-        FileBox w;
-        w.write("there.txt", "");
-        w.request.Kind = ui::FileDialogKind::Open;
-        User choosing({FileBox::choose("there.txt")});
-        QVERIFY(w.show().has_value());
-        w.request.InitDir.clear();
-        User looking({w.look(), FileBox::cancel()});
-        QVERIFY(!w.show().has_value());
-        QCOMPARE(w.directory, QDir(w.folder.path()).absolutePath());
-        QCOMPARE(w.lastFolder, QDir(w.folder.path()).absolutePath());
-    }
-
-    void aCancelledDialogueKeepsTheFolder() {
-        FileBox w;
-        w.lastFolder = "/kept";
-        User user({FileBox::cancel()});
-        QVERIFY(!w.show().has_value());
-        QCOMPARE(w.lastFolder, QString("/kept"));
-    }
-
-    void aProposedPathOpensItsOwnFolder() {
-        FileBox w;
-        const QTemporaryDir other;
-        w.request.FileName = QDir(other.path()).filePath("project.brn").toStdString();
-        User user({w.look(), FileBox::cancel()});
-        QVERIFY(!w.show().has_value());
-        QCOMPARE(w.directory, QDir(other.path()).absolutePath());
-    }
-
-    void openTakesOnlyFilesThatAreThere() {
-        FileBox w;
-        w.request.Kind = ui::FileDialogKind::Open;
-        bool warned = false;
-        User user({FileBox::choose("missing.txt"),
-                   [&](QWidget& box) {
-                       if (qobject_cast<QMessageBox*>(&box) == nullptr) return false;
-                       warned = true;
-                       QTest::keyClick(&box, Qt::Key_Escape);
-                       return true;
-                   },
-                   FileBox::cancel()});
-        QVERIFY(!w.show().has_value());
-        QVERIFY(warned);
     }
 };
 

@@ -13,6 +13,7 @@
 #include "desktop/grid_view.h"
 #include "desktop/main_window.h"
 #include "desktop/texts.h"
+#include "project/pages.h"
 #include "support/form_views.h"
 #include "ui/combo_box.h"
 #include "ui/grid.h"
@@ -339,6 +340,66 @@ private slots:
         QTest::keyClick(&w.widgetOf(w.box), Qt::Key_Tab, Qt::ControlModifier);
         QCOMPARE(w.outer.SelectedItem(), 2);
         QCOMPARE(w.inner.SelectedItem(), 1);
+    }
+
+    void innerTabsGoRoundAndPagesDoNot() {
+        SmallForm w;
+        w.show();
+        QWidget& box = w.widgetOf(w.box);
+        box.setFocus();
+        for (const int tab : {2, 1, 2}) {
+            QTest::keyClick(&box, Qt::Key_Tab, Qt::ControlModifier);
+            QCOMPARE(w.inner.SelectedItem(), tab);
+        }
+        w.link.run([&] { w.inner.SelectedItem(1); });
+        QTest::keyClick(&box, Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(w.inner.SelectedItem(), 2);
+        w.link.run([&] { w.inner.Visible(false), w.outer.SelectedItem(3); });
+        QTest::keyClick(&box, Qt::Key_Tab, Qt::ControlModifier);
+        QCOMPARE(w.outer.SelectedItem(), 3);
+    }
+
+    void f10OpensTheMenu() {
+        MainWindow w;
+        w.view->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(w.view.get()));
+        QTest::keyClick(w.view.get(), Qt::Key_F10);
+        QWidget* menu = QApplication::activePopupWidget();
+        QVERIFY(menu != nullptr);
+        QCOMPARE(menu->objectName(), QString("mnuProject"));
+        QTest::keyClick(menu, Qt::Key_Escape);
+    }
+
+    void whatAControlDoesIsItsTip() {
+        MainWindow w;
+        for (const ui::CommandButton& button : w.form->cmdSpeciesMove) {
+            const QWidget& widget = w.widgetOf(button);
+            QVERIFY(widget.toolTip().contains("grades"));
+            QCOMPARE(widget.accessibleDescription(), widget.accessibleDescription().trimmed());
+            QVERIFY(!widget.accessibleDescription().isEmpty());
+        }
+        for (const auto* button :
+             {&w.form->cmdUpdateSpecies, &w.form->cmdUpdateHabitatTypes, &w.form->cmdUpdateJurisUnits,
+              &w.form->cmdUpdateLandUses, &w.form->cmdUpdateFunctions, &w.form->cmdUpdateBins}) {
+            QVERIFY2(!w.widgetOf(*button).toolTip().isEmpty(), button->Name().c_str());
+        }
+    }
+
+    /// The text of a label is as high as that of the box beside it.
+    void labelsStandLevelWithTheirBoxes() {
+        MainWindow w;
+        w.goTo(page::Criteria);
+        int seen = 0;
+        for (const QLabel* label : w.view->findChildren<QLabel*>()) {
+            if (label->buddy() == nullptr || !label->isVisible()) continue;
+            const QWidget& box = *label->buddy();
+            if (box.y() > label->geometry().bottom()) continue;  // below it
+            const int line = label->mapTo(w.view.get(), QPoint(0, label->fontMetrics().height() / 2)).y();
+            const int middle = box.mapTo(w.view.get(), box.rect().center()).y();
+            QVERIFY2(std::abs(line - middle) <= 1, qPrintable(label->text()));
+            ++seen;
+        }
+        QVERIFY(seen > 1);
     }
 
     void theFocusGoesBackToACellEditorThatRefusesToClose() {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QLineEdit>
+#include <QToolTip>
 
 #include "desktop/cell_editor.h"
 #include "desktop/cell_list.h"
@@ -81,6 +82,15 @@ struct GridWindow : Window {
     }
     void drag(QPoint place) { movePointer(place, Qt::LeftButton); }
     void hover(QPoint place) { movePointer(place, Qt::NoButton); }
+
+    QString tipAt(QPoint place) {
+        for (QWidget* widget : QApplication::topLevelWidgets()) {
+            if (widget->inherits("QTipLabel")) delete widget;
+        }
+        QHelpEvent event(QEvent::ToolTip, place, view.viewport()->mapToGlobal(place));
+        QApplication::sendEvent(view.viewport(), &event);
+        return QToolTip::isVisible() ? QToolTip::text() : QString();
+    }
 
     desktop::CellEditor& editor() { return *view.findChild<desktop::CellEditor*>(); }
     desktop::CellList& list() { return *view.findChild<desktop::CellList*>(); }

@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Brenica developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <QScrollBar>
-#include <QToolTip>
 #include <QWheelEvent>
 
 #include "desktop/grid_fixture.h"
@@ -186,18 +185,18 @@ private slots:
         GridWindow w;
         w.grid.MouseMove = [&] { w.grid.ToolTipText(w.grid.MouseRow() == 0 ? "<b>share</b> of area" : ""); };
         w.hover(w.middle(0, 2));
-        QCOMPARE(tipAt(w, w.middle(0, 2)), QString("<p>&lt;b&gt;share&lt;/b&gt; of area</p>"));
+        QCOMPARE(w.tipAt(w.middle(0, 2)), QString("<p>&lt;b&gt;share&lt;/b&gt; of area</p>"));
         w.hover(w.middle(2, 2));
-        QCOMPARE(tipAt(w, w.middle(2, 2)), QString());
+        QCOMPARE(w.tipAt(w.middle(2, 2)), QString());
     }
 
     void aTextThatIsCutIsItsCellsTip() {
         GridWindow w;
         w.run([&] { w.grid.TextMatrix(2, 2, "a rather long name of a species"); });
-        QCOMPARE(tipAt(w, w.middle(2, 2)), QString("a rather long name of a species"));
-        QCOMPARE(tipAt(w, w.middle(1, 1)), QString());
+        QCOMPARE(w.tipAt(w.middle(2, 2)), QString("a rather long name of a species"));
+        QCOMPARE(w.tipAt(w.middle(1, 1)), QString());
         w.run([&] { w.grid.ColWidth(2, 4000); });
-        QCOMPARE(tipAt(w, w.middle(2, 2)), QString());
+        QCOMPARE(w.tipAt(w.middle(2, 2)), QString());
     }
 
 private:
@@ -206,14 +205,6 @@ private:
         QWheelEvent event(place, w.view.viewport()->mapToGlobal(place), QPoint(), QPoint(0, angle),
                           Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
         QApplication::sendEvent(w.view.viewport(), &event);
-    }
-    static QString tipAt(GridWindow& w, QPoint place) {
-        for (QWidget* widget : QApplication::topLevelWidgets()) {
-            if (widget->inherits("QTipLabel")) delete widget;
-        }
-        QHelpEvent event(QEvent::ToolTip, place, w.view.viewport()->mapToGlobal(place));
-        QApplication::sendEvent(w.view.viewport(), &event);
-        return QToolTip::isVisible() ? QToolTip::text() : QString();
     }
 };
 

@@ -327,6 +327,34 @@ private slots:
         QCOMPARE(w.view.cellAt(w.view.cellPlace(3, 2).center()), (desktop::CellAddress{3, 2}));
     }
 
+    /// Where the words without the blank between them would just find room.
+    void theWordsOfABrokenHeadingStandInTwoLinesAtAnyWidth() {
+        for (int width = 1200; width < 1500; width += 15) {
+            GridWindow w;
+            w.grid.WordWrap = true;
+            w.run([&] {
+                w.grid.TextMatrix(0, 2, "Total by species");
+                w.grid.ColWidth(2, width);
+            });
+            const QRect heading = w.view.cellPlace(0, 2);
+            if (heading.height() == w.view.cellPlace(1, 2).height()) continue;
+            const QImage lower = w.picture().copy(heading.adjusted(3, heading.height() / 2 + 2, -3, -3));
+            const int ink = lower.width() * lower.height() - countOf(lower, lower.pixelColor(0, 0));
+            QVERIFY2(ink > 20, qPrintable(QString::number(width)));
+        }
+    }
+
+    void aHeadingThatIsALittleTooWideIsDrawnNarrower() {
+        GridWindow w;
+        w.run([&] { w.grid.TextMatrix(0, 2, "Aggregate"); });
+        const desktop::Scale& scale = w.link.scale();
+        const int needed = scale.twips(QFontMetrics(scale.font({})).horizontalAdvance("Aggregate"));
+        w.run([&] { w.grid.ColWidth(2, needed); });
+        QVERIFY(w.tipAt(w.middle(0, 2)).isEmpty());
+        w.run([&] { w.grid.ColWidth(2, needed / 2); });
+        QCOMPARE(w.tipAt(w.middle(0, 2)), QString("Aggregate"));
+    }
+
     void aDisabledGridLooksDisabled() {
         GridWindow w;
         const QRect cell = w.view.cellPlace(3, 2);

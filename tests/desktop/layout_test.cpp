@@ -17,6 +17,7 @@ using desktop_test::MainWindow;
 
 namespace {
 
+constexpr int TextGap = 2;         // left of a text that leaves it
 constexpr int LineEditMargin = 2;  // Qt's own, inside the text margins
 constexpr int TabFrame = 2;
 
@@ -57,7 +58,7 @@ public:
         option.lineWidth = widget.style()->pixelMetric(QStyle::PM_DefaultFrameWidth, &option, &widget);
         const QRect contents = widget.style()->subElementRect(QStyle::SE_LineEditContents, &option, &widget);
         const QSize room =
-            contents.marginsRemoved(widget.textMargins()).size() - QSize(2 * LineEditMargin, 0);
+            contents.marginsRemoved(widget.textMargins()).size() - QSize(2 * LineEditMargin - TextGap, 0);
         const QFontMetrics metrics = widget.fontMetrics();
         require(widget, room, {metrics.horizontalAdvance(longest) + 1, metrics.height()});
     }

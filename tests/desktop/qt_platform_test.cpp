@@ -28,6 +28,7 @@ public:
     QPixmap pictureOf(const ui::Chart&) override {
         QPixmap picture(30, 20);
         picture.fill(Qt::red);
+        picture.setDevicePixelRatio(3);
         return picture;
     }
 };
@@ -141,6 +142,9 @@ private slots:
         const QImage saved(file.fileName());
         QCOMPARE(saved.size(), QSize(30, 20));
         QCOMPARE(saved.pixelColor(10, 10), QColor(Qt::red));
+        const double dots = QApplication::primaryScreen()->logicalDotsPerInch() * 3 / 0.0254;
+        QVERIFY(std::abs(saved.dotsPerMeterX() - dots) <= 1);
+        QVERIFY(std::abs(saved.dotsPerMeterY() - dots) <= 1);
     }
 
     void aPictureReplacesAnOlderFile() {

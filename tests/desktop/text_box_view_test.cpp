@@ -77,6 +77,34 @@ private slots:
         QCOMPARE(w.view.cursorPosition(), 3);
     }
 
+    void charactersBeyondTheBasicPlaneAreTyped() {
+        BoxWindow w("");
+        w.focus();
+        QKeyEvent key(QEvent::KeyPress, 0, Qt::NoModifier, QString::fromUtf8("𝔘"));
+        QApplication::sendEvent(&w.view, &key);
+        QCOMPARE(w.text(), QString::fromUtf8("𝔘"));
+        QCOMPARE(w.keys, QList<int>{0x1D518});
+    }
+
+    void theTextStandsOffTheLeftEdge() {
+        const auto leftOfInk = [](BoxWindow& shown, const QString& text) {
+            shown.view.setText({});
+            const QImage blank = shown.view.grab().toImage();
+            shown.box.Text(text.toStdString());
+            shown.view.follow();
+            const QImage picture = shown.view.grab().toImage();
+            const int y = picture.height() / 2;
+            int x = 0;
+            while (x < picture.width() && picture.pixel(x, y) == blank.pixel(x, y)) ++x;
+            return x;
+        };
+        BoxWindow w("");
+        const int off = leftOfInk(w, "▌");
+        // A text that needs all the room gets it.
+        w.view.resize(w.view.fontMetrics().horizontalAdvance("▌▌▌▌") + 3, w.view.height());
+        QCOMPARE(leftOfInk(w, "▌▌▌▌"), off - 2);
+    }
+
     void backspaceEnterAndEscapeReachTheFilter() {
         BoxWindow w("abc");
         w.focus();

@@ -3,6 +3,7 @@
 """A desktop of its own for one program: X server, window manager, message bus, mouse, keyboard and clipboard."""
 
 import os
+import re
 import shutil
 import signal
 import subprocess
@@ -206,6 +207,12 @@ class Session:
     def keys(self, *names):
         """Presses keys one after the other, by their names, such as ctrl+c, Tab, Return."""
         self._run("xdotool", "key", "--delay", str(KEY_DELAY), *names)
+
+    def windowNamed(self, title):
+        """The number of the window with this title."""
+        found = waitFor(lambda: self._run("xdotool", "search", "--name", f"^{re.escape(title)}$", check=False).stdout,
+                        f"the window {title}")
+        return found.decode().split()[-1]
 
     @property
     def clipboard(self):

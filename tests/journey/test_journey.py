@@ -16,7 +16,9 @@ sys.path[:0] = [str(HERE), str(HERE.parent / "reference")]
 
 import landscape
 from brenica_reference import run as runModel
+from file_drag import FileDrag
 from keyboard import KeyboardRoad
+from landscape import SPECIES
 from road import PAGES, SLIP, Road
 from session import Session, missingTools, waitFor
 from tour import start
@@ -102,6 +104,42 @@ class Journey(unittest.TestCase):
             self.assertEqual(exported.decode(), model.results.decode())
             self.assertEqual(exported, batchResults(project, session.home / "batch.txt", roadOptions()))
             self.assertEqual(second.read_bytes(), exported)
+
+    def test_openedFromOutsideWithTheGuideBesideIt(self):
+        """A project as the command line and the file manager give it, and F1, with a browser that only notes what to show."""
+        with Session(pictures=OUTPUT / "outside") as session, diagnosed(session, "outside"):
+            tools, shown = session.home / "bin", session.home / "shown"
+            tools.mkdir()
+            (tools / "xdg-open").write_text(f'#!/bin/sh\necho "$1" >>{shown}\n')
+            (tools / "xdg-open").chmod(0o755)
+            session.environment["PATH"] = f"{tools}:{session.environment['PATH']}"
+            other = session.home / "moor of the heron.brn"
+            other.write_bytes(landscape.projectFile())
+
+            window = start(session, PROGRAM, True, FULL_EXAMPLE)
+            grid = window.grid("Candidate species")
+            grid.waitForCell(1, 1, "Jaguar")
+            session.picture("by_argument")
+
+            target = int(session.windowNamed(f"Brenica - {FULL_EXAMPLE}"))
+            self.assertTrue(FileDrag(session.environment["DISPLAY"], target, other).drop((400, 300)))
+            window.box("Delete home range data").press("Yes")  # of the project that is left
+            grid = window.grid("Candidate species")
+            grid.waitForCell(1, 1, SPECIES[0].name)
+            session.picture("dropped")
+            target = int(session.windowNamed(f"Brenica - {other}"))
+            notes = session.home / "notes.txt"
+            notes.write_text("no project")
+            self.assertFalse(FileDrag(session.environment["DISPLAY"], target, notes).drop((400, 300)))
+
+            for number, page in enumerate(PAGES[:3], 1):
+                window.page(page)
+                session.keys("F1")
+                waitFor(lambda: shown.exists() and len(shown.read_text().split()) == number, "the guide")
+                self.assertTrue(shown.read_text().split()[-1].endswith(f"/page-{number}.html"), shown.read_text())
+            session.keys("alt+F4")
+            self.assertEqual(session.waitForEnd(), 0)
+            self.assertEqual(session.programOutput(), "")
 
     def test_fullExampleByTheKeyboardAlone(self):
         with Session(pictures=OUTPUT / "keyboard") as session, diagnosed(session, "keyboard"):

@@ -20,9 +20,9 @@ TOP = HERE.parents[1]
 SCREENS = {"1366x768": {}, "1920x1080": {}, "3840x2160": {"QT_FONT_DPI": "192"}}
 
 
-def start(session, program, byKey):
+def start(session, program, byKey, *arguments):
     """Goes past the splash by a key or a click, to the main window."""
-    session.start(program)
+    session.start(program, *arguments)
     window = Window(session)
     splash = window.find("label", "Brenica Software")
     session.picture("splash")

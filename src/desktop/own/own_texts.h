@@ -82,4 +82,37 @@ inline constexpr const char* ScoresFirst = "Go to Aggregate Scores first.";
 inline constexpr const char* StatusFirst = "A species has no conservation status (CCS). Enter it first.";
 inline constexpr const char* SpeciesFirst = "There is no species to select from.";
 
+// What the program prints before it has a window.
+inline constexpr const char* Usage =
+    "Usage: brenica [FILE]\n"
+    "Opens the window of Brenica, with the project FILE where one is given.\n"
+    "\n"
+    "  -h, --help      print this and exit\n"
+    "  -v, --version   print the version and exit\n"
+    "\n"
+    "The options of Qt are known, too. brenica-batch works without a window.\n";
+inline constexpr const char* Version = "brenica %1\n";
+inline constexpr const char* OneProjectOnly = "One project can be opened at a time.";
+inline constexpr const char* NamelessProject = "The name of the project is empty.";
+inline constexpr const char* NoDisplay =
+    "There is no display to open the window on. brenica-batch works without one.";
+
+// The menu of help.
+inline constexpr const char* Help = "He&lp";
+inline constexpr const char* Guide = "&Guide";
+inline constexpr const char* Examples = "&Examples";
+inline constexpr const char* AboutExamples = "&What they show";
+inline constexpr const char* About = "&About Brenica";
+inline constexpr const char* NoGuide = "The guide is not installed.";
+inline constexpr const char* NoBrowser = "There is no browser to show the guide in. It lies in %1.";
+inline constexpr const char* AboutText =
+    "Brenica %1\n"
+    "Plans the conservation of a landscape by a small suite of species.\n"
+    "\n"
+    "Copyright 2026 The Brenica developers\n"
+    "Free software under the GNU General Public License, version 3 or later; without any warranty.\n"
+    "\n"
+    "It is built on\n%2";
+inline constexpr const char* AboutLibrary = "%1 %2 (%3)";
+
 }  // namespace desktop::own_texts

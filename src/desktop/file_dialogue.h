@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: 2026 The Brenica developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+#include <optional>
+#include <string>
+
+#include "ui/platform.h"
+
+class QWidget;
+
+namespace desktop {
+
+/// The desktop's own dialogue for files where it has one, otherwise Qt's. Gives the path chosen, in a folder that exists
+/// and with an extension. `lastFolder` is where a dialogue opens that names no folder; it becomes the chosen file's.
+std::optional<std::string> showFileDialogue(QWidget* parent, const ui::FileDialogRequest& request,
+                                            QString& lastFolder);
+
+}  // namespace desktop

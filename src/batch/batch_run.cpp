@@ -79,13 +79,26 @@ void BatchRun::printUncovered() {
     out_ << '\n' << withBreaks(project_.platform().Transcript.back().Text, "\n") << '\n';
 }
 
-}  // namespace
-
-ExitCode runBatch(const BatchOptions& options, std::ostream& out, std::ostream& err) {
+template <class Run>
+ExitCode sayingFaults(std::ostream& err, Run run) {
     try {
-        return BatchRun(options, out, err).run();
+        return run();
     } catch (const UsageFault& fault) {
         err << ProgramName << ": " << fault.Text << '\n';
         return ExitWrongUsage;
     }
+}
+
+}  // namespace
+
+ExitCode runBatch(const BatchOptions& options, std::ostream& out, std::ostream& err) {
+    return sayingFaults(err, [&] { return BatchRun(options, out, err).run(); });
+}
+
+ExitCode runLastBatch(const BatchOptions& options, std::ostream& out, std::ostream& err) {
+    static BatchRun* run = nullptr;  // never taken apart
+    return sayingFaults(err, [&] {
+        run = new BatchRun(options, out, err);
+        return run->run();
+    });
 }

@@ -22,3 +22,7 @@ enum ExitCode {
 /// Opens the project in a form of its own, walks its pages, runs the selection and writes what was asked for. All of it
 /// goes through the form's user actions. The suite goes to `out`; boxes, as they come, and faults go to `err`.
 ExitCode runBatch(const BatchOptions& options, std::ostream& out, std::ostream& err);
+
+/// The same for a process that ends with it: the form is left standing, since to take large tables apart takes time, and
+/// the system takes them all at once.
+ExitCode runLastBatch(const BatchOptions& options, std::ostream& out, std::ostream& err);

@@ -21,7 +21,7 @@ int runCommandLine(int argc, char** argv, std::ostream& out) {
     if (const Verb* verb = argc > 1 ? findVerb(argv[1]) : nullptr)
         return runVerb(*verb, arguments.subspan(2), out, std::cerr);
     const ParsedOptions parsed = parseOptions(argc, argv, out, std::cerr);
-    return parsed.Options ? runBatch(*parsed.Options, out, std::cerr) : parsed.ExitCode;
+    return parsed.Options ? runLastBatch(*parsed.Options, out, std::cerr) : parsed.ExitCode;
 }
 
 /// A run makes and drops many large tables and then ends: what it has freed it keeps for the next one.

@@ -20,6 +20,9 @@ struct Cell {
 
 /// Nothing for a level that is no number or beyond 32 bits.
 std::optional<std::int32_t> wholeLevel(double level) {
+    constexpr double Small = 1 << 16;
+    if (level >= 0 && level < Small && level == static_cast<std::int32_t>(level))
+        return static_cast<std::int32_t>(level);  // nearly every level
     if (isBlank(level)) return 0;
     const double whole = nearestWhole(level);
     if (!(whole >= std::numeric_limits<std::int32_t>::min() &&

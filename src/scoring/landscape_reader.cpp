@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "scoring/landscape_reader.h"
 
+#include <array>
+#include <utility>
+
 #include "project/columns.h"
 #include "ui/form_window.h"
 #include "ui/numbers.h"
@@ -33,13 +36,13 @@ public:
     void readRow(int row, int firstCol, std::span<double> values) const {
         auto value = values.begin();
         table_.ReadRow(row, firstCol, static_cast<int>(values.size()), readingInto(value));
-        std::fill(value, values.end(), method::Unreadable);
+        while (value != values.end()) *value++ = method::Unreadable;
     }
     /// The cells of a column from row `firstRow` on.
     void readColumn(int col, int firstRow, std::span<double> values) const {
         auto value = values.begin();
         table_.ReadColumn(col, firstRow, static_cast<int>(values.size()), readingInto(value));
-        std::fill(value, values.end(), method::Unreadable);
+        while (value != values.end()) *value++ = method::Unreadable;
     }
 
 private:
@@ -47,12 +50,18 @@ private:
     ui::DecimalSeparator separator_;
 };
 
-/// One column of a table of blocks: a row for each species and item.
-method::Table blocksOf(const ui::Grid& table, int col, int species, int items) {
+/// Columns of a table of blocks, which has a row for each species and item. A block is read whole while it is at hand.
+template <std::size_t Count>
+std::array<method::Table, Count> blocksOf(const ui::Grid& table, const std::array<int, Count>& cols,
+                                          int species, int items) {
     const Numbers numbers(table);
-    method::Table values(static_cast<std::size_t>(species), static_cast<std::size_t>(items));
-    for (int s = 1; s <= species; ++s)
-        numbers.readColumn(col, blockRow(s, items, 1), values.row(landscapeIndex(s)));
+    std::array<method::Table, Count> values;
+    for (method::Table& column : values)
+        column = method::Table(static_cast<std::size_t>(species), static_cast<std::size_t>(items));
+    for (int s = 1; s <= species; ++s) {
+        for (std::size_t i = 0; i < Count; ++i)
+            numbers.readColumn(cols[i], blockRow(s, items, 1), values[i].row(landscapeIndex(s)));
+    }
     return values;
 }
 
@@ -87,7 +96,7 @@ method::Table tableOf(const ui::Grid& table, int firstCol, int rows, int cols) {
 }
 
 method::Table levelsOf(const ui::Grid& table, int species, int units) {
-    return blocksOf(table, use::Level, species, units);
+    return std::move(blocksOf(table, std::array{use::Level}, species, units).front());
 }
 
 std::vector<double> levelsOfSpecies(const ui::Grid& table, int species, int units) {
@@ -97,9 +106,13 @@ std::vector<double> levelsOfSpecies(const ui::Grid& table, int species, int unit
 }
 
 method::ThreatRatings ratingsOf(const ui::Grid& table, int species, int threats) {
-    const auto rating = [&](int col) { return blocksOf(table, col, species, threats); };
-    return {rating(threat::Urgency), rating(threat::Recovery), rating(threat::Severity),
-            rating(threat::Proportion), rating(threat::Probability)};
+    auto [urgency, recovery, severity, proportion, probability] =
+        blocksOf(table,
+                 std::array{threat::Urgency, threat::Recovery, threat::Severity, threat::Proportion,
+                            threat::Probability},
+                 species, threats);
+    return {std::move(urgency), std::move(recovery), std::move(severity), std::move(proportion),
+            std::move(probability)};
 }
 
 method::Table threatScoresOf(const ui::Grid& vulnerabilityTable, int species, int threats) {

@@ -23,8 +23,7 @@ QString shownText(std::string_view text) {
 QString shortText(std::string_view text) {
     constexpr std::size_t BytesOfCharacter = 4;  // at the most
     QString shown = shownText(text.substr(0, BytesOfCharacter * LongestLine)).left(LongestLine);
-    if (shown.endsWith(QChar::ReplacementCharacter) || (!shown.isEmpty() && shown.back().isHighSurrogate()))
-        shown.chop(1);
+    if (shown.size() == LongestLine && shown.back().isHighSurrogate()) shown.chop(1);
     return shown;
 }
 

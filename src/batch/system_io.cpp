@@ -7,6 +7,7 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <memory>
 #include <system_error>
 #include <utility>
 
@@ -47,15 +48,13 @@ std::string gathered(const std::function<void(const std::string& path)>& write) 
     write("/proc/self/fd/" + std::to_string(memory.number()));
     const off_t size = ::lseek(memory.number(), 0, SEEK_END);
     if (size < 0) throwSystemError();
-    std::string text(static_cast<std::size_t>(size), '\0');
-    std::size_t got = 0;
-    while (got < text.size()) {
-        const ssize_t count =
-            ::pread(memory.number(), text.data() + got, text.size() - got, static_cast<off_t>(got));
-        if (count < 0) throwSystemError();
-        got += static_cast<std::size_t>(count);
-    }
-    return text;
+    if (size == 0) return {};
+    const auto length = static_cast<std::size_t>(size);
+    void* const content = ::mmap(nullptr, length, PROT_READ, MAP_SHARED | MAP_POPULATE, memory.number(), 0);
+    if (content == MAP_FAILED) throwSystemError();
+    const auto unmap = [length](void* mapped) { ::munmap(mapped, length); };
+    const std::unique_ptr<void, decltype(unmap)> mapped(content, unmap);
+    return {static_cast<const char*>(content), length};
 }
 
 SignalsHeld::SignalsHeld() {

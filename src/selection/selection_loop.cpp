@@ -284,11 +284,11 @@ void SetupSelectionSpecies(ui::Platform& platform, modGlobal& global, ui::Grid& 
                            const ui::Grid& scoresGrid, const Block& block,
                            std::span<const int> rowsBefore) try {
     const int startRow = grid.Rows();
+    grid.Rows(startRow + static_cast<int>(block.size()) + 1);
     std::size_t count = 0;
     for (int species = 1; species <= global.TotalSpecies; ++species) {
         if (count < block.size() && block[count].Species == landscapeIndex(species)) {
             const int row = startRow + static_cast<int>(count++);
-            grid.Rows(row + 1);
             const auto copy = [&](int col) {
                 grid.TextMatrix(row, col, scoresGrid.TextMatrix(species, col));
             };
@@ -306,7 +306,6 @@ void SetupSelectionSpecies(ui::Platform& platform, modGlobal& global, ui::Grid& 
             global.ExcludedSpeciesList += std::string(ui::trim(scoresGrid.TextMatrix(species, 0))) + "; ";
         }
     }
-    grid.Rows(grid.Rows() + 1);
     if (global.ExcludedSpeciesCount > 0 && global.SelectionStarting) reportExcluded(platform, global);
     global.SelectionStarting = false;
 } catch (...) {

@@ -128,9 +128,9 @@ Conversion convert(std::string_view text, DecimalSeparator separator) {
 std::optional<std::int64_t> wholeThousandths(double value) {
     constexpr double Largest = 1e9;
     if (!(std::abs(value) < Largest)) return std::nullopt;
-    const double thousandths = std::nearbyint(value * 1000);
-    if (thousandths / 1000 != value) return std::nullopt;
-    return static_cast<std::int64_t>(thousandths);
+    const auto thousandths = static_cast<std::int64_t>(value * 1000 + (value < 0 ? -0.5 : 0.5));
+    if (static_cast<double>(thousandths) / 1000 != value) return std::nullopt;
+    return thousandths;
 }
 
 std::string decimalText(std::int64_t thousandths) {

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <cstring>
 
 #include "ui/case_folding.h"
 
@@ -31,7 +32,14 @@ std::size_t sequenceLength(std::string_view text, std::size_t position) {
     return overlong || outside ? 0 : count;
 }
 
+/// Eight bytes at a time: whole files go through here.
 bool isAscii(std::string_view text) {
+    constexpr std::uint64_t HighBits = 0x8080808080808080;
+    std::uint64_t bytes = 0;
+    for (; text.size() >= sizeof(bytes); text.remove_prefix(sizeof(bytes))) {
+        std::memcpy(&bytes, text.data(), sizeof(bytes));
+        if ((bytes & HighBits) != 0) return false;
+    }
     return std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
 }
 

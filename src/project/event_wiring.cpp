@@ -123,6 +123,7 @@ void frmBrenica::wireSummaryTables() {
     for (int i = 0; i < flxSummary.Count(); ++i) {
         ui::Grid& grid = flxSummary(i);
         grid.CellChanged = [this, i](int row, int col) { flxSummary_CellChanged(i, row, col); };
+        grid.CellsChanged = [this, i](const ui::WrittenCells& cells) { flxSummary_CellsChanged(i, cells); };
         grid.BeforeEdit = [this, i](int row, int col, bool& cancel) {
             flxSummary_BeforeEdit(i, row, col, cancel);
         };

@@ -178,6 +178,7 @@ public:
 
     // scoring/summary_tables.cpp
     void flxSummary_CellChanged(int index, int row, int col);
+    void flxSummary_CellsChanged(int index, const ui::WrittenCells& cells);
 
     // scoring/summary_editing.cpp
     void tabCriteriaSummary_Click();

@@ -38,6 +38,13 @@ void frmBrenica::flxSummary_CellChanged(int index, int row, int col) {
     }
 }
 
+/// The same for many cells at once, of which mostly nothing follows.
+void frmBrenica::flxSummary_CellsChanged(int index, const ui::WrittenCells& cells) {
+    ProjectChanged = true;
+    if (CurrentMainTab != page::Summary) return;
+    cells.forEach([&](int row, int col) { flxSummary_CellChanged(index, row, col); });
+}
+
 /// A level edited in a cross table corrects the totals and reaches the long table. Headings are no data, and no edit is
 /// possible before a calculation has put shifted levels right.
 void frmBrenica::levelOfUse_Changed(const ParameterList& list, int row, int col) {

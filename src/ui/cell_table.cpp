@@ -64,7 +64,8 @@ void RowFormats::resizeCols(std::size_t count) {
 }
 
 /// The new text is taken over before the old one goes, since it may be that very text.
-void CellTable::replace(Cell& cell, std::string_view text) {
+bool CellTable::replace(Cell& cell, std::string_view text) {
+    if (cell.text() == text) return false;
     LongTexts::Entry* const before = cell.isLong() ? cell.longText() : nullptr;
     if (text.size() > Cell::MostInPlace) {
         cell.assignLong(longTexts_.add(text));
@@ -72,6 +73,7 @@ void CellTable::replace(Cell& cell, std::string_view text) {
         cell.assignShort(text);
     }
     if (before != nullptr) longTexts_.release(*before);
+    return true;
 }
 
 void CellTable::fill(const Rows& rows, std::size_t col, std::string_view text) {

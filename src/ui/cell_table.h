@@ -154,10 +154,13 @@ public:
 
     /// Valid until this cell changes, or the shape or the order of the table.
     std::string_view text(std::size_t row, std::size_t col) const { return cells_[row][col].text(); }
-    void text(std::size_t row, std::size_t col, std::string_view text) {
+    /// Tells whether that changes the text.
+    bool text(std::size_t row, std::size_t col, std::string_view text) {
         Cell& cell = cells_[row][col];
         if (text.size() > Cell::MostInPlace || cell.isLong()) return replace(cell, text);
+        const std::uint64_t before = cell.textId();
         cell.assignShort(text);
+        return cell.textId() != before;
     }
     /// Which cells of a column: `count` of them, the first one and every `step`-th row after it.
     struct Rows {
@@ -226,7 +229,7 @@ public:
     void reorder(std::size_t first, std::span<const std::size_t> places);
 
 private:
-    void replace(Cell& cell, std::string_view text);
+    bool replace(Cell& cell, std::string_view text);
     void releaseTexts(std::size_t row, std::size_t firstCol);
 
     GapBuffer<Cell> cells_{0};

@@ -19,6 +19,11 @@ constexpr int MostHeadingLines = 2;
 const Font CellFont{};
 const Font BoldCellFont{.Bold = true};
 
+/// How many of `count` cells, `step` apart, there are behind the first one.
+int fitting(int first, int step, int count, int size) {
+    return step == 0 ? count : std::min(count, (size - 1 - first) / step + 1);
+}
+
 }  // namespace
 
 Grid::Grid(Control& container, std::string name, Design design)
@@ -78,7 +83,7 @@ void Grid::insertRows(int row, int count) {
 void Grid::CopyText(int row, int col, int fromRow) {
     requireCell(row, col);
     requireCell(fromRow, col);
-    tellWrites(row, col, 0, 0, 1);
+    if (changeWatch_ != nullptr) tellWrite(row, col);
     cells_.copyText(size(row), size(col), size(fromRow));
     textsChanged(col);
     if (CellChanged) CellChanged(row, col);
@@ -87,47 +92,47 @@ void Grid::CopyText(int row, int col, int fromRow) {
 void Grid::FillColumn(int col, int row, int step, int count, std::string_view text) {
     if (count < 1) return;
     requireCell(row, col);
-    const int inside = step == 0 ? count : std::min(count, (Rows() - 1 - row) / step + 1);
-    tellWrites(row, col, step, 0, inside);
-    cells_.fill({size(row), size(step), size(inside)}, size(col), text);
+    const WrittenCells cells{row, col, step, 0, fitting(row, step, count, Rows())};
+    tellWrites(cells);
+    cells_.fill({size(row), size(step), size(cells.Count)}, size(col), text);
     textsChanged(col);
-    reportWritten(row, col, step, 0, inside);
-    if (inside < count) raise(ErrorNumber::SubscriptOutOfRange);
+    reportWritten(cells);
+    if (cells.Count < count) raise(ErrorNumber::SubscriptOutOfRange);
 }
 
 void Grid::WriteColumn(int col, int row, int step, std::span<const std::string_view> texts) {
     if (texts.empty()) return;
     requireCell(row, col);
     const int count = static_cast<int>(texts.size());
-    const int inside = step == 0 ? count : std::min(count, (Rows() - 1 - row) / step + 1);
-    tellWrites(row, col, step, 0, inside);
-    for (int i = 0; i < inside; ++i) cells_.text(size(row + i * step), size(col), texts[size(i)]);
+    const WrittenCells cells{row, col, step, 0, fitting(row, step, count, Rows())};
+    tellWrites(cells);
+    for (int i = 0; i < cells.Count; ++i) cells_.text(size(row + i * step), size(col), texts[size(i)]);
     textsChanged(col);
-    reportWritten(row, col, step, 0, inside);
-    if (inside < count) raise(ErrorNumber::SubscriptOutOfRange);
+    reportWritten(cells);
+    if (cells.Count < count) raise(ErrorNumber::SubscriptOutOfRange);
 }
 
 void Grid::WriteRow(int row, int col, std::span<const std::string_view> texts) {
     if (texts.empty()) return;
     requireCell(row, col);
     const int count = static_cast<int>(texts.size());
-    const int inside = std::min(count, Cols() - col);
-    tellWrites(row, col, 0, 1, inside);
-    for (int i = 0; i < inside; ++i) {
+    const WrittenCells cells{row, col, 0, 1, fitting(col, 1, count, Cols())};
+    tellWrites(cells);
+    for (int i = 0; i < cells.Count; ++i) {
         cells_.text(size(row), size(col + i), texts[size(i)]);
         textsChanged(col + i);
     }
-    reportWritten(row, col, 0, 1, inside);
-    if (inside < count) raise(ErrorNumber::SubscriptOutOfRange);
+    reportWritten(cells);
+    if (cells.Count < count) raise(ErrorNumber::SubscriptOutOfRange);
 }
 
-void Grid::tellWrites(int row, int col, int rowStep, int colStep, int count) {
-    for (int i = 0; changeWatch_ != nullptr && i < count; ++i)
-        tellWrite(row + i * rowStep, col + i * colStep);
+void Grid::tellWrites(const WrittenCells& cells) {
+    if (changeWatch_ != nullptr) cells.forEach([this](int row, int col) { tellWrite(row, col); });
 }
 
-void Grid::reportWritten(int row, int col, int rowStep, int colStep, int count) {
-    for (int i = 0; CellChanged && i < count; ++i) CellChanged(row + i * rowStep, col + i * colStep);
+void Grid::reportWritten(const WrittenCells& cells) {
+    if (CellsChanged) return CellsChanged(cells);
+    if (CellChanged) cells.forEach([this](int row, int col) { CellChanged(row, col); });
 }
 
 void Grid::ReserveRows(long long more) {

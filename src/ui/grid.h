@@ -35,6 +35,20 @@ struct PastedBlock {
     std::optional<std::string> Refused;
 };
 
+/// Cells of a row or a column that were written together.
+struct WrittenCells {
+    int Row;  ///< of the first one
+    int Col;
+    int RowStep;
+    int ColStep;
+    int Count;
+
+    template <class Visit>
+    void forEach(Visit visit) const {
+        for (int i = 0; i < Count; ++i) visit(Row + i * RowStep, Col + i * ColStep);
+    }
+};
+
 /// A rectangular table of text cells with heading rows and columns, counted from 0 at the top left. Cells are the
 /// program's store. A cell address outside the grid raises SubscriptOutOfRange.
 ///
@@ -45,6 +59,7 @@ public:
     Grid(Control& container, std::string name, Design design = {});
 
     Event<int, int> CellChanged;                          ///< row, column
+    Event<const WrittenCells&> CellsChanged;              ///< many at once, each of them as by CellChanged
     Event<int, int, bool&> BeforeEdit;                    ///< row, column, cancel
     Event<int, int, int&> KeyPressEdit;                   ///< row, column, key; 0 swallows it
     Event<int, int, bool&> ValidateEdit;                  ///< row, column, cancel: keeps the editor open
@@ -99,8 +114,8 @@ public:
         requireCell(row, col);
         if (changeWatch_ != nullptr) [[unlikely]]
             tellWrite(row, col);
-        cells_.text(size(row), size(col), text);
-        textsChanged(col);
+        if (cells_.text(size(row), size(col), text)) textsChanged(col);
+        reportChange();
         if (CellChanged) CellChanged(row, col);
     }
     /// Writes the text of another cell of the column.
@@ -116,8 +131,7 @@ public:
     double Real(int row, int col) const { return gradeToReal(TextMatrix(row, col), separator_); }
     int Long(int row, int col) const { return toLong(Real(row, col)); }
 
-    /// Grows with every change of shape, texts, formats or order, by an equal text as well: as long as it stands, all of
-    /// them are as they were.
+    /// Grows with every change of shape, texts, formats or order: as long as it stands, all of them are as they were.
     std::uint64_t Revision() const { return revision_; }
 
     // Current cell and selection. Row and Col stay inside the grid when it shrinks.
@@ -281,7 +295,7 @@ private:
     static constexpr int NotMeasured = -1;
 
     void tellWrite(int row, int col);
-    void tellWrites(int row, int col, int rowStep, int colStep, int count);
+    void tellWrites(const WrittenCells& cells);
     void tellReshape();
     static std::size_t size(int value) { return static_cast<std::size_t>(value); }
     /// A negative number is beyond every size.
@@ -303,7 +317,7 @@ private:
         contentChanged();
     }
     void insertRows(int row, int count);
-    void reportWritten(int row, int col, int rowStep, int colStep, int count);
+    void reportWritten(const WrittenCells& cells);
     void forgetWidths();
     void keepCurrentCellInside();
     CellTable::Range selection() const;

@@ -417,12 +417,13 @@ TEST_F(PageMoves, CalculateTheTablesAnewAfterAnyChange) {
     ui::Grid& scores = form.flxSummary(summary::Vulnerability);
     const std::function<void()> changes[] = {
         [&] { form.flxSummary(summary::ThreatsBySpecies).TextMatrix(1, threat::Severity, "3"); },
-        [&] { form.flxSummary(summary::HabitatUse).TextMatrix(1, 1, "1"); },
-        [&] { form.flxLandUses.UserEditCell(1, list::Urgency, "1"); },
+        [&] { form.flxSummary(summary::HabitatUse).TextMatrix(1, 1, "3"); },
+        [&] { form.flxLandUses.TextMatrix(1, list::Urgency, "0"); },
         [&] { scores.TextMatrix(1, vulnerability::ThreatOffset + 1, "9"); }};
     for (const auto& change : changes) {
         goTo(5);
         change();
+        SCOPED_TRACE(&change - changes);
         const std::uint64_t revision = scores.Revision();
         goTo(6);
         EXPECT_GT(scores.Revision(), revision);

@@ -27,6 +27,7 @@ TEST_F(TakenRun, IsNoneOfAProjectThatWasLeft) {
     openForSelection(typical());
     select();
     ASSERT_TRUE(form.TakeSelectionRun());
+    platform.Answers.assign(1, "no");
     form.mnuNewProject.UserClick();
     EXPECT_FALSE(form.TakeSelectionRun());
 }

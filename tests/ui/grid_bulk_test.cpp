@@ -108,6 +108,18 @@ TEST_F(GridBulk, WritesColumnsAndRowsAsOneCellAfterTheOther) {
     }
 }
 
+TEST_F(GridBulk, TellsOfManyCellsAtOnceWhoListensToThat) {
+    Watched watched(frame);
+    std::vector<std::pair<int, int>> together;
+    watched.Grid.CellsChanged = [&](const ui::WrittenCells& cells) {
+        cells.forEach([&](int row, int col) { together.emplace_back(row, col); });
+    };
+    watched.Grid.FillColumn(1, 2, 3, 2, "x");
+    watched.Grid.WriteRow(4, 2, std::vector<std::string_view>{"y", "z"});
+    EXPECT_EQ(together, (std::vector<std::pair<int, int>>{{2, 1}, {5, 1}, {4, 2}, {4, 3}}));
+    EXPECT_TRUE(watched.Changed.empty());
+}
+
 TEST_F(GridBulk, FillsWithATextOfItsOwn) {
     Watched watched(frame);
     watched.Grid.FillColumn(0, 0, 1, Rows, watched.Grid.TextMatrix(4, 0));
@@ -166,7 +178,6 @@ TEST_F(GridBulk, TellsThatSomethingWasDoneToIt) {
     ui::Grid& grid = watched.Grid;
     const std::function<void()> deeds[] = {
         [&] { grid.TextMatrix(1, 1, "y"); },
-        [&] { grid.TextMatrix(1, 1, "y"); },
         [&] { grid.FillColumn(0, 1, 1, 2, "z"); },
         [&] { grid.WriteRow(1, 0, std::vector<std::string_view>{"a"}); },
         [&] { grid.WriteColumn(0, 1, 1, std::vector<std::string_view>{"b"}); },
@@ -186,6 +197,7 @@ TEST_F(GridBulk, TellsThatSomethingWasDoneToIt) {
         ++number;
     }
     const std::uint64_t before = grid.Revision();
+    grid.TextMatrix(1, 1, std::string(grid.TextMatrix(1, 1)));
     grid.Select(2, 2);
     grid.AutoSize(0, 4);
     grid.ColWidth(1, 20);
@@ -203,7 +215,7 @@ TEST_F(GridBulk, FitsColumnsWhereverTheWidestTextStands) {
     grid.TextMatrix(8, 1, "bold");
     grid.TextMatrix(9, 1, "bold");
     grid.FillColumn(2, 0, 1, Rows, "");
-    grid.FillColumn(1, 1, 4, 3, "");
+    grid.FillColumn(1, 1, 4, 2, "");
     grid.Select(9, 1);
     grid.CellFontBold(true);
     grid.AutoSize(0, 2);

@@ -28,8 +28,8 @@ public:
 
 private:
     void writeOutputs(Outputs& outputs, ExitCode code);
-    std::string resultsText();
-    std::string tableText(const ExportTable& table);
+    void exportResults(const Outputs::Take& take);
+    void exportTable(const ExportTable& table, const Outputs::Take& take);
     void printSuite();
     void printUncovered();
 
@@ -42,26 +42,29 @@ private:
 
 /// The messages come first: they are written whatever becomes of the other files.
 void BatchRun::writeOutputs(Outputs& outputs, ExitCode code) {
-    outputs.writeMessages([&] { return messageLines(project_.platform().Transcript); });
-    if (code == ExitDone) outputs.writeResults([&] { return resultsText(); });
+    outputs.writeMessages(
+        [&](const Outputs::Take& take) { take(messageLines(project_.platform().Transcript)); });
+    if (code == ExitDone) outputs.writeResults([&](const Outputs::Take& take) { exportResults(take); });
     if (code == ExitUnreadableProject) return;
     for (const ExportTable& table : form_.ExportTables()) {
-        if (form_.isExportable(table)) outputs.writeTable(table, [&] { return tableText(table); });
+        if (form_.isExportable(table))
+            outputs.writeTable(table, [&](const Outputs::Take& take) { exportTable(table, take); });
     }
 }
 
 /// The form swallows a fault of the export, too.
-std::string BatchRun::resultsText() {
+void BatchRun::exportResults(const Outputs::Take& take) {
     project_.files().ClearLastFault();
-    return gathered([&](const std::string& path) {
+    const auto write = [&](const std::string& path) {
         project_.platform().Files.push_back(path);
         form_.cmdExportResults.UserClick();
         if (project_.files().LastFault()) throw project_.files().LastFault()->Error;
-    });
+    };
+    gather(write, take);
 }
 
-std::string BatchRun::tableText(const ExportTable& table) {
-    return gathered([&](const std::string& path) { form_.SaveTable(table, path); });
+void BatchRun::exportTable(const ExportTable& table, const Outputs::Take& take) {
+    gather([&](const std::string& path) { form_.SaveTable(table, path); }, take);
 }
 
 void BatchRun::printSuite() {

@@ -64,13 +64,13 @@ std::optional<Outputs::File> Outputs::begin(const std::optional<std::string>& pa
 
 void Outputs::write(std::optional<File>& file, const Content& content) {
     if (!file) return;
-    attempt(file->Path, [&] { file->Target.write(content()); });
+    attempt(file->Path, [&] { content([&](std::string_view text) { file->Target.write(text); }); });
 }
 
 void Outputs::writeTable(const ExportTable& table, const Content& content) {
     if (!tables_) return;
     const fs::path path = pathOf(table, *tables_);
-    attempt(path.string(), [&] { OutputFile(path).write(content()); });
+    attempt(path.string(), [&] { content([&](std::string_view text) { OutputFile(path).write(text); }); });
 }
 
 void Outputs::attempt(const std::string& path, const std::function<void()>& step) {

@@ -7,6 +7,7 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <string_view>
 
 #include "batch/options.h"
 #include "batch/output_file.h"
@@ -16,7 +17,9 @@
 /// cannot be written afterwards is named on standard error and keeps none of the others from being written.
 class Outputs {
 public:
-    using Content = std::function<std::string()>;
+    using Take = std::function<void(std::string_view text)>;
+    /// Hands the text over that a file is to hold.
+    using Content = std::function<void(const Take& take)>;
 
     /// Throws UsageFault. The folder of the tables is made, no file is.
     Outputs(const BatchOptions& options, std::span<const ExportTable> tables, std::ostream& err);

@@ -43,18 +43,19 @@ void writeAll(int descriptor, std::string_view text) {
     }
 }
 
-std::string gathered(const std::function<void(const std::string& path)>& write) {
+void gather(const std::function<void(const std::string& path)>& write,
+            const std::function<void(std::string_view text)>& take) {
     const Descriptor memory(::memfd_create("brenica-batch", MFD_CLOEXEC));
     write("/proc/self/fd/" + std::to_string(memory.number()));
     const off_t size = ::lseek(memory.number(), 0, SEEK_END);
     if (size < 0) throwSystemError();
-    if (size == 0) return {};
+    if (size == 0) return take({});
     const auto length = static_cast<std::size_t>(size);
     void* const content = ::mmap(nullptr, length, PROT_READ, MAP_SHARED | MAP_POPULATE, memory.number(), 0);
     if (content == MAP_FAILED) throwSystemError();
     const auto unmap = [length](void* mapped) { ::munmap(mapped, length); };
     const std::unique_ptr<void, decltype(unmap)> mapped(content, unmap);
-    return {static_cast<const char*>(content), length};
+    take({static_cast<const char*>(content), length});
 }
 
 SignalsHeld::SignalsHeld() {

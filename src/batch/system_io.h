@@ -32,8 +32,10 @@ private:
 /// Writes all of a text; throws std::system_error.
 void writeAll(int descriptor, std::string_view text);
 
-/// What a writer that wants a path writes there. The file has no name in any folder, so that nothing of it can stay.
-std::string gathered(const std::function<void(const std::string& path)>& write);
+/// Hands over what a writer that wants a path writes there. The file has no name in any folder, so that nothing of it can
+/// stay.
+void gather(const std::function<void(const std::string& path)>& write,
+            const std::function<void(std::string_view text)>& take);
 
 /// While it lives a signal that would end the program waits, so that what must not be left halfway is finished.
 /// REQUIRES: no other thread runs, since that one would take the signal.

@@ -179,11 +179,11 @@ void frmBrenica::growThreatTable(int added, int oldRows) {
     const int first = oldRows == 1 ? 2 : oldRows;
     const int blocks = oldRows + added - first;
     if (blocks < 1) return;
-    const int firstRow = grid.Rows();
     grid.ReserveRows(static_cast<long long>(global_.TotalSpecies) * blocks);
-    for (int block = 0; block < blocks; ++block) grid.AddEmptyRows(grid.Rows(), global_.TotalSpecies);
-    for (int species = 1; species <= global_.TotalSpecies; ++species) {
-        grid.FillColumn(1, firstRow + species - 1, global_.TotalSpecies, blocks, grid.TextMatrix(species, 1));
+    for (int block = 0; block < blocks; ++block) {
+        const int row = grid.Rows();
+        grid.AddEmptyRows(row, global_.TotalSpecies);
+        grid.CopyTexts(1, row, 1, global_.TotalSpecies);
     }
 }
 

@@ -72,6 +72,12 @@ void frmBrenica::wireLists() {
     flxHabitatTypes.CellChanged = [this](int row, int col) { flxHabitatTypes_CellChanged(row, col); };
     flxJurisUnits.CellChanged = [this](int row, int col) { flxJurisUnits_CellChanged(row, col); };
     flxLandUses.CellChanged = [this](int row, int col) { flxLandUses_CellChanged(row, col); };
+    for (const ListKind kind : {ListKind::HabitatTypes, ListKind::JurisUnits, ListKind::LandUses}) {
+        const ParameterList& list = parameterList(kind);
+        list.Grid->CellsChanged = [this, &list](const ui::WrittenCells& cells) {
+            listCells_Changed(list, cells);
+        };
+    }
     flxFunctions.CellChanged = [this](int row, int col) { flxFunctions_CellChanged(row, col); };
     flxLandUses.BeforeRowColChange = [this](int row, int col, int, int, bool&) {
         flxLandUses_BeforeRowColChange(row, col);

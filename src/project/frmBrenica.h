@@ -351,6 +351,11 @@ private:
 
     // entry/parameter_list_cells.cpp
     void unitName_CellChanged(const ParameterList& list, int row, int col);
+    void listCells_Changed(const ParameterList& list, const ui::WrittenCells& cells);
+    bool reachWholeBlocks(const ParameterList& list, const ui::WrittenCells& cells);
+    void writeUnitName(const ParameterList& list, int row);
+    void writeThreat(int row, int col);
+    void fillBlocks(const ParameterList& list, int col, int row, int count);
 
     // entry/candidate_species.cpp
     void growSpeciesRows(int member, int oldTotal);

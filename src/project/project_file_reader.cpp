@@ -120,11 +120,9 @@ void ProjectFileReader::readLine(std::string_view line) {
 void ProjectFileReader::readVersion(const Row&, Values values) { global_.ProjectVersion = values.front(); }
 
 void ProjectFileReader::fillNames(ui::Grid& grid, const Values& values) {
-    for (std::size_t i = 0; i < values.size(); ++i) {
-        const int row = static_cast<int>(i) + 1;
+    for (int row = 1; row <= static_cast<int>(values.size()); ++row)
         grid.TextMatrix(row, list::Number, ui::toText(row));
-        grid.TextMatrix(row, list::Name, values[i]);
-    }
+    grid.WriteColumn(list::Name, 1, 1, values);
 }
 
 void ProjectFileReader::readSpecies(const Row&, Values values) {

@@ -297,7 +297,7 @@ void SetupSelectionSpecies(ui::Platform& platform, modGlobal& global, ui::Grid& 
                      {result::Name, result::Aggregate, result::Heterogeneity, result::Vulnerability})
                     copy(col);
             } else {
-                grid.CopyText(row, result::Name, rowsBefore[landscapeIndex(species)]);
+                grid.CopyTexts(result::Name, row, rowsBefore[landscapeIndex(species)]);
             }
             for (const int col : {result::AreaScore, result::Functionality, result::SocioEcon}) copy(col);
             grid.TextMatrix(row, result::Candidate, ui::toText(species));

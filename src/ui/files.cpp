@@ -31,12 +31,17 @@ ErrorNumber errorOfOpening(const std::string& path, FileMode mode, int systemErr
     return mode == FileMode::Input && inFolder ? ErrorNumber::FileNotFound : ErrorNumber::PathNotFound;
 }
 
+struct Extent {
+    std::size_t Expected;
+    std::size_t Bound;
+};
+
 /// How much is read of a file: all of a regular one, but no more than memory holds of what may never end.
-std::size_t boundOf(std::FILE* stream) {
+Extent extentOf(std::FILE* stream) {
     constexpr std::size_t Bound = std::size_t{1} << 30;
     struct stat about {};
     const bool regular = fstat(fileno(stream), &about) == 0 && S_ISREG(about.st_mode);
-    return regular ? std::string::npos : Bound;
+    return regular ? Extent{static_cast<std::size_t>(about.st_size), std::string::npos} : Extent{0, Bound};
 }
 
 [[noreturn]] void raiseTooLarge() {
@@ -91,11 +96,12 @@ Files::OpenFile& Files::find(int number) {
 void Files::load(OpenFile& file) {
     if (file.Mode != FileMode::Input || !file.Stream) return;
     std::FILE* stream = file.Stream.get();
-    const std::size_t bound = boundOf(stream);
+    const Extent extent = extentOf(stream);
+    file.Content.reserve(extent.Expected);
     std::array<char, 65536> block{};
     errno = 0;
     while (const std::size_t count = std::fread(block.data(), 1, block.size(), stream)) {
-        if (count > bound - file.Content.size()) raiseTooLarge();
+        if (count > extent.Bound - file.Content.size()) raiseTooLarge();
         file.Content.append(block.data(), count);
     }
     if (std::ferror(stream) != 0) raise(errorFor(errno, ErrorNumber::DeviceIoError));

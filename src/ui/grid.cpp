@@ -80,13 +80,16 @@ void Grid::insertRows(int row, int count) {
     forgetWidths();
 }
 
-void Grid::CopyText(int row, int col, int fromRow) {
+void Grid::CopyTexts(int col, int row, int fromRow, int count) {
+    if (count < 1) return;
     requireCell(row, col);
     requireCell(fromRow, col);
-    if (changeWatch_ != nullptr) tellWrite(row, col);
-    cells_.copyText(size(row), size(col), size(fromRow));
+    const WrittenCells cells{row, col, 1, 0, fitting(std::max(row, fromRow), 1, count, Rows())};
+    tellWrites(cells);
+    for (int i = 0; i < cells.Count; ++i) cells_.copyText(size(row + i), size(col), size(fromRow + i));
     textsChanged(col);
-    if (CellChanged) CellChanged(row, col);
+    reportWritten(cells);
+    if (cells.Count < count) raise(ErrorNumber::SubscriptOutOfRange);
 }
 
 void Grid::FillColumn(int col, int row, int step, int count, std::string_view text) {

@@ -118,8 +118,8 @@ public:
         reportChange();
         if (CellChanged) CellChanged(row, col);
     }
-    /// Writes the text of another cell of the column.
-    void CopyText(int row, int col, int fromRow);
+    /// Writes the texts of `count` cells of a column, from `fromRow` on, into those from `row` on, one after the other.
+    void CopyTexts(int col, int row, int fromRow, int count = 1);
     /// Writes the same text into `count` cells of a column, from `row` on in steps of `step` rows (at least 0), as
     /// TextMatrix would one after the other.
     void FillColumn(int col, int row, int step, int count, std::string_view text);

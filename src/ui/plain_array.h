@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <sys/mman.h>
-
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
@@ -14,9 +12,8 @@
 
 namespace ui {
 
-/// A growing array of plain values that may become large, unset until they are written. Where a std::vector copies into new memory, the system moves
-/// its pages; and it asks for pages of 2 MiB, since a good part of the time that it takes to fill a large table goes into
-/// asking for those of 4 KiB.
+/// A growing array of plain values that may become large, unset until they are written. Where a std::vector copies into
+/// new memory, the system moves its pages.
 template <class T>
 class PlainArray {
     static_assert(std::is_trivially_copyable_v<T> && std::is_trivially_destructible_v<T>);
@@ -49,17 +46,7 @@ private:
         static_cast<void>(memory_.release());
         memory_.reset(static_cast<T*>(memory));
         capacity_ = capacity;
-        askForLargePages();
     }
-    /// A wish: without large pages all is the same.
-    void askForLargePages() {
-        constexpr std::size_t LargePage = std::size_t{1} << 21;
-        void* start = memory_.get();
-        std::size_t room = capacity_ * sizeof(T);
-        if (std::align(LargePage, LargePage, start, room) != nullptr)
-            ::madvise(start, room / LargePage * LargePage, MADV_HUGEPAGE);
-    }
-
     std::unique_ptr<T, Release> memory_;
     std::size_t size_ = 0;
     std::size_t capacity_ = 0;

@@ -131,16 +131,30 @@ TEST_F(GridBulk, FillsWithATextOfItsOwn) {
 
 TEST_F(GridBulk, CopiesTheTextOfAnotherCellOfTheColumn) {
     Watched watched(frame);
-    watched.Grid.CopyText(1, 0, 4);
-    watched.Grid.CopyText(4, 0, 5);  // the long text stays with the copy
-    watched.Grid.CopyText(0, 0, 0);
+    watched.Grid.CopyTexts(0, 1, 4);
+    watched.Grid.CopyTexts(0, 4, 5);  // the long text stays with the copy
+    watched.Grid.CopyTexts(0, 0, 0);
     EXPECT_EQ(watched.Told, watched.Changed);
     EXPECT_EQ(watched.Grid.TextMatrix(1, 0), "Grey-headed Albatross");
     EXPECT_EQ(watched.Grid.TextMatrix(4, 0), "");
     EXPECT_EQ(watched.Grid.TextMatrix(0, 0), "Grey-headed Albatross");
     EXPECT_EQ(watched.Changed, (std::vector<std::pair<int, int>>{{1, 0}, {4, 0}, {0, 0}}));
-    EXPECT_EQ(watched.attempt([](ui::Grid& grid) { grid.CopyText(0, 0, Rows); }), 9);
-    EXPECT_EQ(watched.attempt([](ui::Grid& grid) { grid.CopyText(-1, 0, 0); }), 9);
+    EXPECT_EQ(watched.attempt([](ui::Grid& grid) { grid.CopyTexts(0, 0, Rows); }), 9);
+    EXPECT_EQ(watched.attempt([](ui::Grid& grid) { grid.CopyTexts(0, -1, 0); }), 9);
+}
+
+TEST_F(GridBulk, CopiesTextsOfAColumnOneAfterTheOther) {
+    for (int i = 0; i < 50; ++i) {
+        const int col = below(Cols);
+        const int row = below(Rows);
+        const int from = below(Rows);
+        const int count = below(Rows);
+        expectTheSame([&](ui::Grid& grid) { grid.CopyTexts(col, row, from, count); },
+                      [&](ui::Grid& grid) {
+                          for (int j = 0; j < count; ++j)
+                              grid.TextMatrix(row + j, col, std::string(grid.TextMatrix(from + j, col)));
+                      });
+    }
 }
 
 TEST_F(GridBulk, AddsEmptyRowsAsOneAfterTheOther) {
@@ -181,7 +195,7 @@ TEST_F(GridBulk, TellsThatSomethingWasDoneToIt) {
         [&] { grid.FillColumn(0, 1, 1, 2, "z"); },
         [&] { grid.WriteRow(1, 0, std::vector<std::string_view>{"a"}); },
         [&] { grid.WriteColumn(0, 1, 1, std::vector<std::string_view>{"b"}); },
-        [&] { grid.CopyText(1, 0, 2); },
+        [&] { grid.CopyTexts(0, 1, 2); },
         [&] { grid.CellFontBold(true); },
         [&] { grid.AddItem("c"); },
         [&] { grid.AddEmptyRows(3, 2); },

@@ -30,12 +30,38 @@ NOBODY = 65534
 ANSWERS_WITHIN = 20  # seconds; the longest command of the window on the example takes less than one
 BATCH = 25  # actions between two looks at the program
 PICTURE = 500  # actions between two pictures
+POWER_CUT = 2000  # actions after which the program is killed, and begins with the example again
 SAVED = {".brn", ".txt", ".png", ".svg", ".jpg", ".bmp", ".html"}
 KEYS = ("Tab Tab Tab shift+Tab ctrl+Tab ctrl+shift+Tab Return Return space Escape Escape BackSpace Delete Insert F1 F2 F4 F10 "
         "Up Down Left Right Home End Page_Up Page_Down ctrl+Home ctrl+End shift+Down shift+Right ctrl+a ctrl+c ctrl+x "
         "ctrl+v ctrl+shift+c ctrl+z ctrl+y ctrl+shift+z ctrl+n ctrl+o ctrl+s ctrl+p ctrl+q alt+f alt+e alt+g alt+h alt+i "
         "alt+Down alt+F4 Menu a b n y 0 1 2 3 5 9 period comma minus").split()
 TEXTS = ("0.5", "1e9", "-1", "Puma", "é", "日本", "a,b", "'\"", "<b>", "x" * 40)
+
+
+# The window fills the screen and cannot be put aside, so that what is pressed goes to the program.
+WINDOW_MANAGER = """<?xml version="1.0" encoding="UTF-8"?>
+<openbox_config xmlns="http://openbox.org/3.4/rc">
+  <focus><focusNew>yes</focusNew></focus>
+  <desktops><number>1</number></desktops>
+  <keyboard><keybind key="A-F4"><action name="Close"/></keybind></keyboard>
+  <mouse>
+    <context name="Frame">
+      <mousebind button="Left" action="Press"><action name="Focus"/><action name="Raise"/></mousebind>
+    </context>
+    <context name="Client">
+      <mousebind button="Left" action="Press"><action name="Focus"/><action name="Raise"/></mousebind>
+    </context>
+    <context name="Titlebar">
+      <mousebind button="Left" action="Drag"><action name="Move"/></mousebind>
+    </context>
+    <context name="Close">
+      <mousebind button="Left" action="Click"><action name="Close"/></mousebind>
+    </context>
+  </mouse>
+  <applications><application type="normal"><decor>no</decor><maximized>yes</maximized></application></applications>
+</openbox_config>
+"""
 
 
 class Chance:
@@ -125,17 +151,11 @@ class Run:
         waitFor(self.answers, "an answer of the program", ANSWERS_WITHIN)
         code = self.session.program.poll()
         if code is None:
-            return self.bringToFront()
+            return
         if code:
             raise Failure(f"the program ended with {code}: {self.session.programOutput()}")
         self.ends += 1
-        return self.start()
-
-    def bringToFront(self):
-        """A window that was minimised, or went with another desktop, would take no more actions."""
-        if not self.session.windows():
-            self.session._run("xdotool", "search", "--pid", str(self.session.program.pid), "--name", ".",
-                              "windowactivate", "%@", check=False)
+        self.start()
 
     def answers(self):
         if self.session.program.poll() is not None:
@@ -150,6 +170,9 @@ class Run:
             self.look()
             if done % PICTURE == 0:
                 self.session.picture(f"after_{done + BATCH}")
+            if (done + BATCH) % POWER_CUT == 0:
+                self.session.kill()
+                self.start()
 
 
 def dropRights():
@@ -168,7 +191,11 @@ def main():
     options = parser.parse_args()
     dropRights()
     started = time.monotonic()
-    with Session(pictures=options.pictures) as session:
+    desktop = Session(pictures=options.pictures)
+    windowManager = desktop.home / ".config/openbox/rc.xml"
+    windowManager.parent.mkdir()
+    windowManager.write_text(WINDOW_MANAGER, encoding="utf-8")
+    with desktop as session:
         prepare(session.home)
         before = contents(session.home)
         run = Run(session, options.program.resolve(), options.seed)

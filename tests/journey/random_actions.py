@@ -207,9 +207,9 @@ def main():
             return 1
         after = contents(session.home)
     faults = faultsOf(before, after)
-    saved = sorted(name for name, content in after.items() if before.get(name) not in (content, None))
+    saved = sorted(name for name, content in after.items() if before.get(name) != content and name[0] != ".")
     print(f"seed {options.seed}: {options.actions} actions in {time.monotonic() - started:.0f} s, ended and started again "
-          f"{run.ends} times, {len(after) - len(before)} new files, saved over: {', '.join(saved) or 'none'}")
+          f"{run.ends} times; saved: {', '.join(saved) or 'nothing'}")
     for fault in faults:
         print(f"seed {options.seed}: {fault}", file=sys.stderr)
     return 1 if faults else 0

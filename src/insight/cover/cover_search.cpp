@@ -3,6 +3,7 @@
 #include "insight/cover/cover_search.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace insight {
 
@@ -12,7 +13,7 @@ namespace {
 constexpr std::size_t FewPicks = 2;
 
 /// How often the weights are moved at a node: the more, the more there is to be saved below it.
-int roundsAt(const CoverNode& node) { return static_cast<int>(node.Picks / 2); }
+int roundsAt(const CoverNode& node) { return static_cast<int>(node.Picks); }
 
 std::vector<std::int64_t> totalsOf(const CoverIndex& index) {
     std::vector<std::int64_t> totals;
@@ -23,7 +24,11 @@ std::vector<std::int64_t> totalsOf(const CoverIndex& index) {
 }  // namespace
 
 CoverSearch::CoverSearch(const CoverIndex& index, SearchBudget& budget)
-    : index_(index), budget_(budget), size_(index, {}), total_(index, totalsOf(index)) {}
+    : index_(index),
+      budget_(budget),
+      size_(index, {}),
+      total_(index, totalsOf(index)),
+      chances_(index.units()) {}
 
 SearchEnd CoverSearch::run(const CoverQuestion& question, const Visitor& visit) {
     question_ = &question;
@@ -70,10 +75,9 @@ bool CoverSearch::mayHold(std::size_t depth, int rounds) {
     return allows(size_, 0) && (!leastTotal_ || allows(total_, *leastTotal_ - pickedTotal_));
 }
 
-/// Every suite of the node holds one of the species that cover its rarest unit.
 void CoverSearch::branch(std::size_t depth) {
     Level& level = levels_[depth];
-    const std::size_t unit = rarestUnit(level.Node);
+    const std::size_t unit = tightestUnit(level.Node);
     level.Branches.clear();
     forEachCommon(level.Node.Species, index_.speciesOf(unit),
                   [&](std::size_t s) { level.Branches.push_back(static_cast<std::uint32_t>(s)); });
@@ -91,10 +95,27 @@ void CoverSearch::branch(std::size_t depth) {
 
 /// The most promising one first, so that a suite is found early.
 void CoverSearch::sortBranches(Rows& branches) const {
-    const WeightBound& bound = leastTotal_ ? total_ : size_;
     std::sort(branches.begin(), branches.end(), [&](std::uint32_t a, std::uint32_t b) {
-        return bound.score(a) != bound.score(b) ? bound.score(a) > bound.score(b) : a < b;
+        return bound().score(a) != bound().score(b) ? bound().score(a) > bound().score(b) : a < b;
     });
+}
+
+/// Every suite of the node holds one of the species that cover this unit: few ones, with little room for others.
+std::size_t CoverSearch::tightestUnit(const CoverNode& node) {
+    if (node.Picks <= FewPicks) return rarestUnit(node);
+    std::fill(chances_.begin(), chances_.end(), 0.0);
+    forEach(node.Species, [&](std::size_t s) {
+        const double chance = bound().chance(s);
+        forEachCommon(index_.unitsOf(s), node.Units, [&](std::size_t u) { chances_[u] += chance; });
+    });
+    std::size_t tightest = 0;
+    double least = std::numeric_limits<double>::infinity();
+    forEach(node.Units, [&](std::size_t u) {
+        if (chances_[u] >= least) return;
+        least = chances_[u];
+        tightest = u;
+    });
+    return tightest;
 }
 
 std::size_t CoverSearch::rarestUnit(const CoverNode& node) const {

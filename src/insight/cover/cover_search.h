@@ -51,6 +51,9 @@ private:
     bool mayHold(std::size_t depth, int rounds);
     void branch(std::size_t depth);
     void sortBranches(Rows& branches) const;
+    /// The bound that was looked at last.
+    const WeightBound& bound() const { return leastTotal_ ? total_ : size_; }
+    std::size_t tightestUnit(const CoverNode& node);
     std::size_t rarestUnit(const CoverNode& node) const;
     void dropDominated(Level& level);
     bool isRedundant() const;
@@ -60,6 +63,7 @@ private:
     SearchBudget& budget_;
     WeightBound size_;
     WeightBound total_;
+    std::vector<double> chances_;  ///< by unit
 
     const CoverQuestion* question_ = nullptr;
     const Visitor* visit_ = nullptr;

@@ -12,6 +12,9 @@ namespace {
 /// From so few picks on it is quicker to try them than to look for a bound.
 constexpr std::size_t FewPicks = 2;
 
+/// Picks that tell one share of a question from another.
+constexpr std::size_t SharedPicks = 2;
+
 /// How often the weights are moved at a node: the more, the more there is to be saved below it.
 int roundsAt(const CoverNode& node) { return static_cast<int>(node.Picks); }
 
@@ -23,9 +26,10 @@ std::vector<std::int64_t> totalsOf(const CoverIndex& index) {
 
 }  // namespace
 
-CoverSearch::CoverSearch(const CoverIndex& index, SearchBudget& budget)
+CoverSearch::CoverSearch(const CoverIndex& index, SearchBudget& budget, const SearchNews* news)
     : index_(index),
       budget_(budget),
+      news_(news),
       size_(index, {}),
       total_(index, totalsOf(index)),
       chances_(index.units()) {}
@@ -49,18 +53,44 @@ SearchEnd CoverSearch::run(const CoverQuestion& question, const Visitor& visit) 
     return ended_.value_or(SearchEnd::Exhausted);
 }
 
+SearchEnd CoverSearch::part(const CoverQuestion& question, const Visitor& visit,
+                            std::vector<CoverQuestion>& shares) {
+    shares_ = &shares;
+    const SearchEnd end = run(question, visit);
+    shares_ = nullptr;
+    return end;
+}
+
 void CoverSearch::search(std::size_t depth) {
     CoverNode& node = levels_[depth].Node;
     if (isEmpty(node.Units)) return showSuite();
     if (node.Picks == 0) return;
-    if (!budget_.spend()) {
-        ended_ = SearchEnd::Cut;
-        return;
-    }
+    if (shares_ && depth == SharedPicks) return addShare(node);
+    if (!spend()) return;
     if (question_->Drop == Domination::None && isRedundant()) return;
     if (node.Picks == 1) return searchLast(node);
     if (!mayHold(depth, roundsAt(node))) return;
     branch(depth);
+}
+
+/// Takes a step, if there is to be one.
+bool CoverSearch::spend() {
+    if (!budget_.spend()) {
+        ended_ = SearchEnd::Cut;
+    } else if (news_ && news_->Halt.load(std::memory_order_relaxed)) {
+        ended_ = SearchEnd::Stopped;
+    } else if (news_ && leastTotal_) {
+        leastTotal_ = news_->LeastTotal.load(std::memory_order_relaxed);
+    }
+    return !ended_;
+}
+
+void CoverSearch::addShare(const CoverNode& node) {
+    shares_->push_back({.Part = {node.Species, node.Units},
+                        .Picked = picked_,
+                        .MostPicks = question_->MostPicks,
+                        .Drop = question_->Drop,
+                        .LeastTotal = leastTotal_});
 }
 
 /// Whether the node is still to be searched. What leaves no choice is searched here.

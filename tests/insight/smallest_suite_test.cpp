@@ -78,7 +78,7 @@ struct Sought {
 
 Sought bestTotal(const LoadedCase& made, const Rows& from, const SearchEffort& effort = {}) {
     SearchBudget budget(effort);
-    CoverSearch search(made.Index, budget);
+    SharedSearch search(made.Index, budget);
     Sought sought{from, false};
     sought.IsProven = findBestTotal(search, made.Index, wholeOf(made.Index), sought.Suite);
     return sought;
@@ -132,7 +132,7 @@ TEST(SmallestSuite, IsNarrowedFromBelow) {
     for (const std::uint64_t nodes : {0U, 3U, 30U, 1'000'000U}) {
         const SearchEffort effort{.Nodes = nodes};
         SearchBudget budget(effort);
-        CoverSearch search(made.Index, budget);
+        SharedSearch search(made.Index, budget);
         Rows all(made.Index.species());
         std::iota(all.begin(), all.end(), 0);
         SmallestSuite known = {1, all};

@@ -3,6 +3,7 @@
 #include "insight/cover/cover_search.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace insight {
 
@@ -11,8 +12,11 @@ namespace {
 /// From so few picks on it is quicker to try them than to look for a bound.
 constexpr std::size_t FewPicks = 2;
 
+/// Picks that tell one share of a question from another.
+constexpr std::size_t SharedPicks = 2;
+
 /// How often the weights are moved at a node: the more, the more there is to be saved below it.
-int roundsAt(const CoverNode& node) { return static_cast<int>(node.Picks / 2); }
+int roundsAt(const CoverNode& node) { return static_cast<int>(node.Picks); }
 
 std::vector<std::int64_t> totalsOf(const CoverIndex& index) {
     std::vector<std::int64_t> totals;
@@ -22,8 +26,13 @@ std::vector<std::int64_t> totalsOf(const CoverIndex& index) {
 
 }  // namespace
 
-CoverSearch::CoverSearch(const CoverIndex& index, SearchBudget& budget)
-    : index_(index), budget_(budget), size_(index, {}), total_(index, totalsOf(index)) {}
+CoverSearch::CoverSearch(const CoverIndex& index, SearchBudget& budget, const SearchNews* news)
+    : index_(index),
+      budget_(budget),
+      news_(news),
+      size_(index, {}),
+      total_(index, totalsOf(index)),
+      chances_(index.units()) {}
 
 SearchEnd CoverSearch::run(const CoverQuestion& question, const Visitor& visit) {
     question_ = &question;
@@ -44,18 +53,44 @@ SearchEnd CoverSearch::run(const CoverQuestion& question, const Visitor& visit) 
     return ended_.value_or(SearchEnd::Exhausted);
 }
 
+SearchEnd CoverSearch::part(const CoverQuestion& question, const Visitor& visit,
+                            std::vector<CoverQuestion>& shares) {
+    shares_ = &shares;
+    const SearchEnd end = run(question, visit);
+    shares_ = nullptr;
+    return end;
+}
+
 void CoverSearch::search(std::size_t depth) {
     CoverNode& node = levels_[depth].Node;
     if (isEmpty(node.Units)) return showSuite();
     if (node.Picks == 0) return;
-    if (!budget_.spend()) {
-        ended_ = SearchEnd::Cut;
-        return;
-    }
+    if (shares_ && depth == SharedPicks) return addShare(node);
+    if (!spend()) return;
     if (question_->Drop == Domination::None && isRedundant()) return;
     if (node.Picks == 1) return searchLast(node);
     if (!mayHold(depth, roundsAt(node))) return;
     branch(depth);
+}
+
+/// Takes a step, if there is to be one.
+bool CoverSearch::spend() {
+    if (!budget_.spend()) {
+        ended_ = SearchEnd::Cut;
+    } else if (news_ && news_->Halt.load(std::memory_order_relaxed)) {
+        ended_ = SearchEnd::Stopped;
+    } else if (news_ && leastTotal_) {
+        leastTotal_ = news_->LeastTotal.load(std::memory_order_relaxed);
+    }
+    return !ended_;
+}
+
+void CoverSearch::addShare(const CoverNode& node) {
+    shares_->push_back({.Part = {node.Species, node.Units},
+                        .Picked = picked_,
+                        .MostPicks = question_->MostPicks,
+                        .Drop = question_->Drop,
+                        .LeastTotal = leastTotal_});
 }
 
 /// Whether the node is still to be searched. What leaves no choice is searched here.
@@ -70,10 +105,9 @@ bool CoverSearch::mayHold(std::size_t depth, int rounds) {
     return allows(size_, 0) && (!leastTotal_ || allows(total_, *leastTotal_ - pickedTotal_));
 }
 
-/// Every suite of the node holds one of the species that cover its rarest unit.
 void CoverSearch::branch(std::size_t depth) {
     Level& level = levels_[depth];
-    const std::size_t unit = rarestUnit(level.Node);
+    const std::size_t unit = tightestUnit(level.Node);
     level.Branches.clear();
     forEachCommon(level.Node.Species, index_.speciesOf(unit),
                   [&](std::size_t s) { level.Branches.push_back(static_cast<std::uint32_t>(s)); });
@@ -91,10 +125,27 @@ void CoverSearch::branch(std::size_t depth) {
 
 /// The most promising one first, so that a suite is found early.
 void CoverSearch::sortBranches(Rows& branches) const {
-    const WeightBound& bound = leastTotal_ ? total_ : size_;
     std::sort(branches.begin(), branches.end(), [&](std::uint32_t a, std::uint32_t b) {
-        return bound.score(a) != bound.score(b) ? bound.score(a) > bound.score(b) : a < b;
+        return bound().score(a) != bound().score(b) ? bound().score(a) > bound().score(b) : a < b;
     });
+}
+
+/// Every suite of the node holds one of the species that cover this unit: few ones, with little room for others.
+std::size_t CoverSearch::tightestUnit(const CoverNode& node) {
+    if (node.Picks <= FewPicks) return rarestUnit(node);
+    std::fill(chances_.begin(), chances_.end(), 0.0);
+    forEach(node.Species, [&](std::size_t s) {
+        const double chance = bound().chance(s);
+        forEachCommon(index_.unitsOf(s), node.Units, [&](std::size_t u) { chances_[u] += chance; });
+    });
+    std::size_t tightest = 0;
+    double least = std::numeric_limits<double>::infinity();
+    forEach(node.Units, [&](std::size_t u) {
+        if (chances_[u] >= least) return;
+        least = chances_[u];
+        tightest = u;
+    });
+    return tightest;
 }
 
 std::size_t CoverSearch::rarestUnit(const CoverNode& node) const {

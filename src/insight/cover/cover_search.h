@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <atomic>
 #include <functional>
 #include <optional>
 
@@ -23,6 +24,12 @@ struct CoverQuestion {
     std::optional<std::int64_t> LeastTotal{};
 };
 
+/// What several searches of one question tell each other.
+struct SearchNews {
+    std::atomic<std::int64_t> LeastTotal = 0;  ///< that is asked for by now; where totals count
+    std::atomic<bool> Halt = false;            ///< nothing more is to be found
+};
+
 enum class SearchEnd {
     Exhausted,  ///< there are no other suites
     Stopped,    ///< by the visitor
@@ -31,14 +38,14 @@ enum class SearchEnd {
 
 class CoverSearch {
 public:
-    /// Both must outlive it.
-    CoverSearch(const CoverIndex& index, SearchBudget& budget);
+    /// All must outlive it.
+    CoverSearch(const CoverIndex& index, SearchBudget& budget, const SearchNews* news = nullptr);
 
     /// Is shown a suite, rising; false ends the search.
     using Visitor = std::function<bool(const Rows& suite)>;
     SearchEnd run(const CoverQuestion& question, const Visitor& visit);
-    /// For a visitor: from now on a total as high as this is asked for.
-    void raiseLeastTotal(std::int64_t total) { leastTotal_ = total; }
+    /// Adds questions to `shares` instead of searching below the first picks: where all of them are exhausted it is, too.
+    SearchEnd part(const CoverQuestion& question, const Visitor& visit, std::vector<CoverQuestion>& shares);
 
 private:
     struct Level {
@@ -46,11 +53,16 @@ private:
         Rows Branches;
     };
     void search(std::size_t depth);
+    bool spend();
+    void addShare(const CoverNode& node);
     void searchLast(const CoverNode& node);
     void searchWith(std::size_t depth, std::size_t species);
     bool mayHold(std::size_t depth, int rounds);
     void branch(std::size_t depth);
     void sortBranches(Rows& branches) const;
+    /// The bound that was looked at last.
+    const WeightBound& bound() const { return leastTotal_ ? total_ : size_; }
+    std::size_t tightestUnit(const CoverNode& node);
     std::size_t rarestUnit(const CoverNode& node) const;
     void dropDominated(Level& level);
     bool isRedundant() const;
@@ -58,11 +70,14 @@ private:
 
     const CoverIndex& index_;
     SearchBudget& budget_;
+    const SearchNews* news_;
     WeightBound size_;
     WeightBound total_;
+    std::vector<double> chances_;  ///< by unit
 
     const CoverQuestion* question_ = nullptr;
     const Visitor* visit_ = nullptr;
+    std::vector<CoverQuestion>* shares_ = nullptr;
     std::optional<std::int64_t> leastTotal_;
     std::int64_t pickedTotal_ = 0;
     Rows picked_;

@@ -54,7 +54,7 @@ MinimumAnswer findMinimum(const CoverIndex& index, const RunSuite& run, SearchBu
     budget.reached(known.Lower, known.upper());
     const Rows small = smallSuite(index, part, known.Lower, budget);
     if (small.size() < known.upper()) known.Suite = small;
-    CoverSearch search(index, budget);
+    SharedSearch search(index, budget);
     narrow(search, part, known, budget);
     if (known.isProven()) answer.BestIsProven = findBestTotal(search, index, all, known.Suite);
     prove(index, part, linear, budget, answer);

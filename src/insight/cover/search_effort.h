@@ -27,6 +27,7 @@ struct SearchEffort {
         nullptr;  ///< ends the search soon after it is set, by another thread or a signal
     /// Called some times a second at most, by the thread that searches.
     std::function<void(const SearchProgress&)> OnProgress{};
+    std::size_t Threads = 1;  ///< that may search; with Nodes one does
 };
 
 /// One effort being spent. Several questions in a row share it. The effort must outlive it.
@@ -42,6 +43,10 @@ public:
         if (++nodes_ >= next_) look();
         return !over_;
     }
+    /// Counts steps that others took.
+    void add(std::uint64_t steps) { nodes_ += steps; }
+    std::uint64_t steps() const { return nodes_; }
+    std::size_t threads() const { return effort_.Nodes ? 1 : effort_.Threads; }
     /// Looks at the limits without taking a step: between things that cost more than one.
     bool isOver() {
         look();

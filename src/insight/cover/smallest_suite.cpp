@@ -12,7 +12,7 @@ namespace {
 constexpr std::size_t MostTies = 1000;
 
 /// Goes through the suites that are as good as `suite` or better; of `ties` with the highest total up to MostTies.
-SearchEnd findHighestTotal(CoverSearch& search, const CoverIndex& index, const CoverPart& part, Rows& suite,
+SearchEnd findHighestTotal(SharedSearch& search, const CoverIndex& index, const CoverPart& part, Rows& suite,
                            std::size_t& ties) {
     std::int64_t highest = totalOf(index, suite);
     const CoverQuestion question = {
@@ -29,7 +29,7 @@ SearchEnd findHighestTotal(CoverSearch& search, const CoverIndex& index, const C
 }
 
 /// Candidate by candidate: whether a suite as good holds it beside those that are settled.
-bool findFirst(CoverSearch& search, const CoverIndex& index, const CoverPart& part, Rows& suite) {
+bool findFirst(SharedSearch& search, const CoverIndex& index, const CoverPart& part, Rows& suite) {
     CoverQuestion question = {.Part = part,
                               .MostPicks = suite.size(),
                               .Drop = Domination::NoLessTotal,
@@ -54,7 +54,7 @@ bool findFirst(CoverSearch& search, const CoverIndex& index, const CoverPart& pa
 
 }  // namespace
 
-void narrow(CoverSearch& search, const CoverPart& part, SmallestSuite& known, SearchBudget& budget) {
+void narrow(SharedSearch& search, const CoverPart& part, SmallestSuite& known, SearchBudget& budget) {
     while (!known.isProven()) {
         budget.reached(known.Lower, known.upper());
         const CoverQuestion question = {.Part = part, .MostPicks = known.Lower, .Drop = Domination::SameSize};
@@ -67,7 +67,7 @@ void narrow(CoverSearch& search, const CoverPart& part, SmallestSuite& known, Se
     }
 }
 
-bool findBestTotal(CoverSearch& search, const CoverIndex& index, const CoverPart& part, Rows& suite) {
+bool findBestTotal(SharedSearch& search, const CoverIndex& index, const CoverPart& part, Rows& suite) {
     const CoverPart best = reduced(index, part, Domination::BestThenFirst);
     std::size_t ties = 0;
     if (findHighestTotal(search, index, best, suite, ties) == SearchEnd::Cut) return false;

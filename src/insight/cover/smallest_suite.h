@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "insight/cover/cover_search.h"
+#include "insight/cover/shared_search.h"
 
 namespace insight {
 
@@ -17,11 +17,11 @@ struct SmallestSuite {
 
 /// Narrows what is known, size by size from below, until a suite of the lower size is found or the budget is spent.
 /// `known.Suite` must cover the part.
-void narrow(CoverSearch& search, const CoverPart& part, SmallestSuite& known, SearchBudget& budget);
+void narrow(SharedSearch& search, const CoverPart& part, SmallestSuite& known, SearchBudget& budget);
 
 /// Of the suites of the part that are as small as `suite`, the one with the highest total, of these the first in candidate
 /// order. REQUIRES: `suite` covers the part, and none is smaller. False where the budget was spent before; `suite` is then
 /// the best known.
-bool findBestTotal(CoverSearch& search, const CoverIndex& index, const CoverPart& part, Rows& suite);
+bool findBestTotal(SharedSearch& search, const CoverIndex& index, const CoverPart& part, Rows& suite);
 
 }  // namespace insight

@@ -122,7 +122,7 @@ private:
     const CoverIndex& index_;
     const MinimumAnswer& minimum_;
     SearchBudget& budget_;
-    CoverSearch search_;
+    SharedSearch search_;
     BitSet inAll_;          ///< species in all suites of minimal size that are known
     BitSet inSome_;         ///< in some of them
     BitSet surelyCovered_;  ///< units of the species that every suite needs

@@ -37,26 +37,44 @@ public:
     std::size_t required() const { return required_; }
     /// Sum of a species in the last round. REQUIRES: it was in the node then
     std::int64_t score(std::size_t species) const { return scores_[species]; }
+    /// How much of the room for worse suites is left with the species, after the last round: the more, the more is to be
+    /// searched; above 0, at most 1. REQUIRES: the last look was Open, and the species is still in its node
+    double chance(std::size_t species) const;
 
 private:
     struct Scored {
         std::int64_t Score;
         std::uint32_t Species;
     };
-    void scoreSpecies(CoverNode& node);
+    void follow(Bits units);
+    void addToScores(std::size_t unit, std::int64_t weight);
+    void setWeight(std::size_t openUnit, std::int64_t weight);
+    void rescale();
+    void listScores(CoverNode& node);
+    bool countsNothing(std::size_t species) const;
+    Finding lookAtAll(std::int64_t least);
     std::int64_t bestSum(std::size_t picks);
-    void sortOutBest(std::size_t picks);
-    void moveWeights(const CoverNode& node, std::size_t picks, std::int64_t excess);
-    void rescale(const CoverNode& node);
+    std::int64_t scoreAt(std::size_t place);
+    void dropHopeless(CoverNode& node) const;
+    bool findRequired();
+    void moveWeights(std::size_t picks);
+    void countTimes(std::size_t picks);
 
     const CoverIndex& index_;
     std::vector<std::int64_t> values_;
     std::vector<std::int64_t> weights_;  ///< by unit
-    std::vector<std::int64_t> scores_;   ///< by species
-    BitSet useful_;                      ///< species that cover a unit of the node
-    std::vector<Scored> ranked_;
-    std::vector<std::int32_t> times_;  ///< how often the best species cover each unit
-    std::int64_t sum_ = 0;             ///< of the live weights
+    std::int64_t highest_;               ///< of the weights that were moved last
+    BitSet open_;                        ///< units of the node of the last look
+    std::vector<std::int64_t> scores_;   ///< by species, of the open units
+    std::int64_t sum_ = 0;               ///< of the weights of the open units
+
+    std::vector<Scored> listed_;  ///< the first `count_`: species of the node
+    std::size_t count_ = 0;
+    std::vector<std::int64_t> competing_;  ///< scores being sorted
+    std::int64_t last_ = 0;                ///< lowest of the best scores
+    std::int64_t next_ = 0;                ///< highest of the others
+    std::int64_t excess_ = 0;              ///< of the best scores over what is asked for
+    std::vector<std::int32_t> times_;      ///< how often the best species cover each open unit, less one
     std::size_t required_ = 0;
 };
 

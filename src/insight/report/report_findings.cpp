@@ -62,7 +62,7 @@ void ReportFindings::search(const ReportWork& work) {
         work.Progress("between " + numberOf(now.Lower) + " and " + numberOf(now.Upper) + " species, " +
                       numberOf(now.Nodes) + " steps");
     };
-    SearchEffort effort{work.Seconds, work.Nodes, work.Stop, {}};
+    SearchEffort effort{work.Seconds, work.Nodes, work.Stop, {}, work.Threads};
     if (work.Progress) effort.OnProgress = tell;
     SearchBudget budget(effort);
     Minimum = findMinimum(Index, Suite, budget);

@@ -7,8 +7,8 @@
 #include <memory>
 #include <stdexcept>
 
-#include "batch/scripted_platform.h"
 #include "project/frmBrenica.h"
+#include "scripted/scripted_platform.h"
 
 namespace {
 

@@ -5,7 +5,7 @@
 #include <span>
 #include <string>
 
-#include "batch/scripted_platform.h"
+#include "scripted/scripted_platform.h"
 
 /// The boxes as JSON lines, in order: kind, title, text, and the answer of a question or an input box.
 std::string messageLines(std::span<const ShownBox> boxes);

@@ -5,12 +5,10 @@
 #include <ostream>
 
 #include "batch/usage_fault.h"
+#include "scripted/page_walk.h"
 #include "ui/text.h"
 
 namespace {
-
-constexpr int FirstPageOfWalk = 2;
-constexpr int LastPageOfWalk = 7;
 
 /// In one piece: standard error keeps nothing back.
 void printBox(std::ostream& err, const ShownBox& box) {
@@ -100,29 +98,14 @@ void ProjectRun::putLevel(ui::TextBox& box, const std::optional<std::string>& le
 }
 
 ExitCode ProjectRun::walkAndSelect() {
-    for (int page = FirstPageOfWalk; page <= LastPageOfWalk; ++page) {
-        form_.tabBrenica.UserSelectTab(page);
-        if (form_.CurrentMainTab == page) continue;
-        err_ << ProgramName << ": page " << form_.CurrentMainTab
+    const PageWalk walk = walkToSelection(form_);
+    if (walk.RefusedPage > 0)
+        err_ << ProgramName << ": page " << walk.RefusedPage
              << " may not be left before its rows are complete\n";
-        return ExitNothingToScore;
-    }
-    if (!form_.cmdComplement.Enabled()) {
-        sayWhatIsMissing();
-        return ExitNothingToScore;
-    }
+    for (const char* list : walk.EmptyLists)
+        err_ << ProgramName << ": nothing to score: the project has no " << list << '\n';
+    if (!walk.MaySelect) return ExitNothingToScore;
     answersLeft_.assign(platform_.Answers.begin(), platform_.Answers.end());
     form_.cmdComplement.UserClick();
     return ExitDone;
-}
-
-/// A gap in the grades has had its message from the form; an empty list has none.
-void ProjectRun::sayWhatIsMissing() {
-    const std::pair<int, const char*> lists[] = {{global_.TotalSpecies, "candidate species"},
-                                                 {global_.TotalHabitatTypes, "habitat types"},
-                                                 {global_.TotalJurisUnits, "management zones"},
-                                                 {global_.TotalLandUses, "human activities"}};
-    for (const auto& [count, name] : lists) {
-        if (count < 1) err_ << ProgramName << ": nothing to score: the project has no " << name << '\n';
-    }
 }

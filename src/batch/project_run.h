@@ -10,8 +10,8 @@
 
 #include "batch/batch_run.h"
 #include "batch/options.h"
-#include "batch/scripted_platform.h"
 #include "project/frmBrenica.h"
+#include "scripted/scripted_platform.h"
 
 /// A text with its CR and CR LF breaks replaced, but for those at its end, which go.
 std::string withBreaks(std::string_view text, std::string_view lineBreak);
@@ -41,7 +41,6 @@ private:
     bool sayUnreadable(const std::string& reason, int line = 0);
     void putLevel(ui::TextBox& box, const std::optional<std::string>& level);
     ExitCode walkAndSelect();
-    void sayWhatIsMissing();
 
     const RunOptions& options_;
     std::ostream& err_;

@@ -10,8 +10,8 @@
 #include <memory>
 #include <vector>
 
-#include "batch/scripted_platform.h"
 #include "desktop/view.h"
+#include "scripted/scripted_platform.h"
 #include "ui/form_window.h"
 #include "ui/simple_controls.h"
 

@@ -13,10 +13,10 @@
 #include <optional>
 #include <vector>
 
-#include "batch/scripted_platform.h"
 #include "entry/modErrorHandling.h"
 #include "project/frmBrenica.h"
 #include "project/project_file.h"
+#include "scripted/scripted_platform.h"
 #include "ui/text.h"
 
 namespace {

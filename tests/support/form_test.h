@@ -9,8 +9,8 @@
 #include <string>
 #include <vector>
 
-#include "batch/scripted_platform.h"
 #include "project/frmBrenica.h"
+#include "scripted/scripted_platform.h"
 #include "support/project_text.h"
 
 /// A folder of a test's own, gone after it.

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "batch/scripted_platform.h"
+#include "scripted/scripted_platform.h"
 #include "support/form_test.h"
 #include "ui/form_window.h"
 #include "ui/grid.h"

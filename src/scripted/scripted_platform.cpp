@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Brenica developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "batch/scripted_platform.h"
+#include "scripted/scripted_platform.h"
 
 #include <utility>
 

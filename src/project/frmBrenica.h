@@ -215,6 +215,8 @@ public:
     // selection/selection_run.cpp
     /// The selection on view; nothing where there is none.
     std::optional<SelectionRun> TakeSelectionRun() const;
+    /// What the selection on view came to.
+    const std::optional<SelectionOutcome>& Outcome() const { return outcome_; }
 
     // selection/results_display.cpp
     void optCompResults_Click(int index);

@@ -42,5 +42,6 @@ struct modGlobal {
 
     std::string ExcludedSpeciesList;  ///< names, each followed by "; "
     int ExcludedSpeciesCount = 0;
-    bool SelectionStarting = false;  ///< the next block is the first of a selection
+    std::vector<std::string> MarginAnswers;  ///< given to the questions of the current selection, in order
+    bool SelectionStarting = false;          ///< the next block is the first of a selection
 };

@@ -87,6 +87,7 @@ void frmBrenica::cmdComplement_Click() try {
     global_.SelectionStarting = true;
     global_.ExcludedSpeciesList.clear();
     global_.ExcludedSpeciesCount = 0;
+    global_.MarginAnswers.clear();
     runSelection(selection);
     for (ui::OptionButton& button : optCompResults) button.Enabled(true);
     optCompResults(0).Value(true);
@@ -104,9 +105,10 @@ void frmBrenica::runSelection(method::Selection& selection) try {
          flxSummary(summary::HabitatsBySpecies), flxSummary(summary::JurisUnitsBySpecies),
          flxSummary(summary::ThreatsBySpecies), flxSummary(summary::Vulnerability), flxCompResults(1),
          flxCompResults(2), flxCompResults(3)});
-    outcome_ = SelectionOutcome{selection.suite(), {}};
+    outcome_ = SelectionOutcome{selection.suite(), {}, global_.MarginAnswers};
 } catch (...) {
-    outcome_ = SelectionOutcome{selection.suite(), InternalDescription(CurrentError())};
+    outcome_ =
+        SelectionOutcome{selection.suite(), InternalDescription(CurrentError()), global_.MarginAnswers};
     throw;
 }
 

@@ -63,8 +63,9 @@ std::string firstPrompt(const BandTexts& texts) {
 /// The user, asked by dialogues.
 class MarginDialogues : public method::AskingChooser {
 public:
-    MarginDialogues(ui::Platform& platform, const ui::Grid& results, int blockStartRow)
-        : platform_(platform), results_(results), blockStartRow_(blockStartRow) {}
+    MarginDialogues(ui::Platform& platform, const ui::Grid& results, int blockStartRow,
+                    std::vector<std::string>& answers)
+        : platform_(platform), results_(results), blockStartRow_(blockStartRow), answers_(answers) {}
 
 private:
     std::optional<method::Rule> askRule(const MarginBand& band,
@@ -72,8 +73,8 @@ private:
         BandTexts texts;
         for (const std::size_t offset : listed)
             texts.append(nameAt(offset), band.Species[offset], offset == listed.front() ? "" : "; ");
-        const auto rule = ruleOf(platform_.askText(
-            firstPrompt(texts), "Species with aggregate score within the set margin of error", "a"));
+        const auto rule = ruleOf(
+            ask(firstPrompt(texts), "Species with aggregate score within the set margin of error", "a"));
         if (!rule)
             showInvalidAnswer(
                 "The option entered was invalid. The first species will be added to the suite.");
@@ -88,13 +89,16 @@ private:
         for (const std::size_t offset : listed)
             prompt += ui::toText(++shown) + ": " + std::string(nameAt(offset)) + "\r";
         const auto number =
-            speciesNumberOf(platform_.askText(prompt, "Select the species within the margin or error", "1"));
+            speciesNumberOf(ask(prompt, "Select the species within the margin or error", "1"));
         if (number && method::rowOfNumber(band, *number)) return number;
         showInvalidAnswer(
             "The species number entered was invalid. The first species will be added to the suite.");
         return std::nullopt;
     }
 
+    const std::string& ask(const std::string& prompt, const char* title, const char* proposed) {
+        return answers_.emplace_back(platform_.askText(prompt, title, proposed));
+    }
     std::string_view nameAt(std::size_t offset) const {
         return results_.TextMatrix(blockStartRow_ + static_cast<int>(offset), result::Name);
     }
@@ -105,6 +109,7 @@ private:
     ui::Platform& platform_;
     const ui::Grid& results_;
     int blockStartRow_;
+    std::vector<std::string>& answers_;
 };
 
 }  // namespace
@@ -116,10 +121,10 @@ void Check4ErrorMargin(const method::Failure& failure, const CellPlace& cell) tr
 }
 
 std::size_t SelectErrorMarginSpecies(ui::Platform& platform, const ui::Grid& results, int blockStartRow,
-                                     const MarginBand& band) try {
+                                     const MarginBand& band, std::vector<std::string>& answers) try {
     std::size_t pick = 0;
-    const auto failure =
-        failureOf([&] { pick = MarginDialogues(platform, results, blockStartRow).choose(band); });
+    MarginDialogues dialogues(platform, results, blockStartRow, answers);
+    const auto failure = failureOf([&] { pick = dialogues.choose(band); });
     if (failure) raiseFailure(*failure, resultCell(results, blockStartRow, *failure));
     return pick;
 } catch (...) {

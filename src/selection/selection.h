@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <span>
 #include <string>
+#include <vector>
 
 #include "method/selection.h"
 #include "project/modGlobal.h"
@@ -54,9 +55,9 @@ void HighlightThreatsEncountered(ui::Grid& unitGrid, int threatNumber, int pickN
 ui::Colour GetCellColor(int pickNumber);
 
 /// Lets the user decide between the species within the margin, whose block begins in the given row of the results.
-/// Returns the offset of the one to pick.
+/// Returns the offset of the one to pick; what was answered is appended to `answers`.
 std::size_t SelectErrorMarginSpecies(ui::Platform& platform, const ui::Grid& results, int blockStartRow,
-                                     const method::MarginBand& band);
+                                     const method::MarginBand& band, std::vector<std::string>& answers);
 
 /// The cell of the results at which the method failed in a block that begins in the given row.
 CellPlace resultCell(const ui::Grid& results, int blockStartRow, const method::Failure& failure);

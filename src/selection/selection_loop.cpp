@@ -174,7 +174,7 @@ void SelectionTables::withinMargin(std::size_t offset) {
 }
 
 std::size_t SelectionTables::choose(const method::MarginBand& band) {
-    return SelectErrorMarginSpecies(platform_, results_, blockStartRow_, band);
+    return SelectErrorMarginSpecies(platform_, results_, blockStartRow_, band, global_.MarginAnswers);
 }
 
 void SelectionTables::firstCovered(Unit kind, std::size_t unit, int pick) {

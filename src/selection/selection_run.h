@@ -13,7 +13,8 @@
 /// What a selection came to, or how far it came.
 struct SelectionOutcome {
     method::Suite Suite;
-    std::optional<std::string> Error;  ///< describes what ended it
+    std::optional<std::string> Error{};  ///< describes what ended it
+    std::vector<std::string> Answers{};  ///< given to its questions, in order
 };
 
 /// A selection with all that it was made of, as numbers and names: it can be explained without the form. Species and

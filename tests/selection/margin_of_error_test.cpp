@@ -58,10 +58,11 @@ protected:
         platform.Transcript.clear();
         const method::Block block(order_, rows_, removed_);
         return static_cast<int>(
-                   SelectErrorMarginSpecies(platform, results(), Start, {block, offset, count})) +
+                   SelectErrorMarginSpecies(platform, results(), Start, {block, offset, count}, given)) +
                1;
     }
 
+    std::vector<std::string> given;
     std::vector<std::uint32_t> order_;
     std::vector<method::BlockRow> rows_;
     std::vector<std::uint8_t> removed_;
@@ -262,4 +263,13 @@ TEST_F(MarginOfError, AsksForEachPassOnItsOwn) {
     EXPECT_THAT(prompts[0], testing::HasSubstr("{Species 1; Species 2; Species 3; Species 4}"));
     EXPECT_THAT(prompts[1], testing::HasSubstr("{Species 3; Species 4}"));
     EXPECT_THAT(prompts[2], testing::HasSubstr("{Species 3; Species 4}"));
+}
+
+TEST_F(MarginOfError, KeepsTheAnswersOfTheSelectionOnView) {
+    openForSelection(leaderAddsNothing());
+    type(form.txtErrorMargin, "100");
+    select({"a", " X", ""});
+    EXPECT_THAT(form.TakeSelectionRun()->Outcome.Answers, testing::ElementsAre("a", " X", ""));
+    select({"x"});
+    EXPECT_THAT(form.TakeSelectionRun()->Outcome.Answers, testing::ElementsAre("x", "a", "a"));
 }

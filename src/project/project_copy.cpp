@@ -106,6 +106,13 @@ void noteShown(ProjectCopy& copy, const ui::Grid& grid, int lastCol) {
 
 bool isListCell(const UncarriedCell& cell) { return !cell.Grid.starts_with("flxSummary"); }
 
+std::vector<UncarriedCell> inGrids(const std::vector<UncarriedCell>& cells) {
+    std::vector<UncarriedCell> found;
+    std::copy_if(cells.begin(), cells.end(), std::back_inserter(found),
+                 [](const UncarriedCell& cell) { return cell.Row > 0; });
+    return found;
+}
+
 }  // namespace
 
 std::vector<UncarriedCell> ProjectCopy::lostBySaving() const {
@@ -113,6 +120,11 @@ std::vector<UncarriedCell> ProjectCopy::lostBySaving() const {
     std::copy_if(Uncarried.begin(), Uncarried.end(), std::back_inserter(lost),
                  [](const UncarriedCell& cell) { return cell.LostBySaving; });
     return lost;
+}
+
+bool ProjectCopy::isSameProjectAs(const ProjectCopy& other) const {
+    return Text == other.Text && WithoutFunctions == other.WithoutFunctions &&
+           inGrids(Uncarried) == inGrids(other.Uncarried);
 }
 
 ProjectCopy frmBrenica::TakeCopy() const {

@@ -30,6 +30,8 @@ struct ProjectCopy {
 
     /// The texts that are lost when this is saved, without those that only opening may change.
     std::vector<UncarriedCell> lostBySaving() const;
+    /// Whether both are of one project, whatever the three levels are, which no file holds.
+    bool isSameProjectAs(const ProjectCopy& other) const;
 };
 
 /// A cell or box in words, as a planner knows it: "Habitat types", "3 Reed bed", "Area", "0,5". Row and Column are

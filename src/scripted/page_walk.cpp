@@ -23,12 +23,18 @@ std::vector<const char*> emptyLists(const modGlobal& global) {
     return empty;
 }
 
+PageWalk refusedBy(const frmBrenica& form) {
+    const int page = form.CurrentMainTab;
+    const auto& tabs = form.tabBrenica.Tabs();
+    return {.RefusedPage = page, .RefusedTab = tabs[static_cast<std::size_t>(page - 1)].Caption};
+}
+
 }  // namespace
 
 PageWalk walkToSelection(frmBrenica& form) {
     for (int page = FirstPageOfWalk; page <= LastPageOfWalk; ++page) {
         form.tabBrenica.UserSelectTab(page);
-        if (form.CurrentMainTab != page) return {.RefusedPage = form.CurrentMainTab};
+        if (form.CurrentMainTab != page) return refusedBy(form);
     }
     if (form.cmdComplement.Enabled()) return {.MaySelect = true};
     return {.EmptyLists = emptyLists(form.Global())};

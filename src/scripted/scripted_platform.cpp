@@ -24,7 +24,7 @@ void ScriptedPlatform::showMessage(const std::string& text, const std::string& t
 }
 
 bool ScriptedPlatform::askYesNo(const std::string& prompt, const std::string& title) {
-    const std::string answer = nextAnswer().value_or("yes");
+    const std::string answer = nextAnswer().value_or(Agrees ? "yes" : "no");
     const bool yes = !ui::equalsIgnoringCase(ui::trim(answer), "no");
     record({ShownBox::Kind::Question, title, prompt, yes ? "yes" : "no", ui::MessageIcon::Question});
     return yes;

@@ -21,11 +21,12 @@ struct ShownBox {
 };
 
 /// A platform without a desktop. Boxes are answered from a list and kept in a transcript, in order; when the list is
-/// used up every input box takes its default and every question Yes.
+/// used up every input box takes its default and every question Yes, or No where it does not agree.
 class ScriptedPlatform : public ui::Platform {
 public:
     /// Answers to questions ("no" in any case is No, all else Yes) and input boxes, in one order.
     std::deque<std::string> Answers;
+    bool Agrees = true;
     /// Paths for the file dialogues, in order; nothing, or no entry left, is Cancel.
     std::deque<std::optional<std::string>> Files;
     std::vector<ui::FileDialogRequest> FileDialogs;

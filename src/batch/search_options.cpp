@@ -5,17 +5,17 @@
 #include <limits>
 
 #include "batch/command_line.h"
+#include "insight/cover/search_effort.h"
 
 namespace {
 
-constexpr double UsualSeconds = 60;
 constexpr double MostSeconds = 1e9;
 
 }  // namespace
 
 std::optional<double> SearchOptions::limitInSeconds() const {
     if (Seconds || Nodes) return Seconds;
-    return UsualSeconds;
+    return insight::UsualSeconds;
 }
 
 void addSearchOptions(CLI::App& app, SearchOptions& options) {

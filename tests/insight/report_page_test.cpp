@@ -68,6 +68,18 @@ TEST(ReportPage, TellsWhereItComesFrom) {
     EXPECT_THAT(pageOf(run, origin), HasSubstr("none: the project was read from a pipe or device"));
 }
 
+TEST(ReportPage, OfAProjectThatWasNotSavedSaysSo) {
+    const SelectionRun run = selected(smallLandscape());
+    ReportOrigin origin{"p.brn", "", "1.2"};
+    origin.IsSaved = false;
+    const std::string page = pageOf(run, origin);
+    EXPECT_THAT(page, HasSubstr("none: the project was not saved as it is explained here"));
+    EXPECT_THAT(page, HasSubstr(" (not saved) at margin of error"));
+    EXPECT_THAT(page, HasSubstr("Save it and make the page again"));
+    EXPECT_THAT(page, Not(HasSubstr("brenica-batch report")));
+    EXPECT_THAT(page, Not(HasSubstr("Whoever has the same file")));
+}
+
 TEST(ReportPage, EscapesNames) {
     SelectionRun run = selected(smallLandscape());
     run.Species[1] = "<script>alert(\"1\")</script> & co";

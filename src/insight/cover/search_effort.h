@@ -19,6 +19,9 @@ struct SearchProgress {
     std::uint64_t Nodes;  ///< steps so far
 };
 
+/// Seconds that a search may take where nobody says otherwise.
+inline constexpr double UsualSeconds = 60;
+
 /// Without Seconds the clock decides nothing: the same nodes give the same answer on every machine.
 struct SearchEffort {
     std::optional<double> Seconds{};

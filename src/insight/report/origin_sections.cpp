@@ -52,6 +52,7 @@ std::string sweepsOf(const ReportFindings& found) {
 }
 
 std::string hashOf(const ReportOrigin& origin) {
+    if (!origin.IsSaved) return "none: the project was not saved as it is explained here";
     return origin.Hash.empty() ? "none: the project was read from a pipe or device" : origin.Hash;
 }
 
@@ -64,6 +65,7 @@ std::string quoted(const std::string& text) {
 
 /// What makes the page again.
 Markup commandOf(const ReportFindings& found, const ReportOrigin& origin) {
+    if (!origin.IsSaved) return escaped("only from the saved project");
     const method::Levels& levels = found.Run.Levels;
     std::string command = "brenica-batch report --error-margin " + fieldOf(levels.Margin) +
                           " --threat-representation " + fieldOf(levels.ThreatRepresentation) +
@@ -77,6 +79,7 @@ Markup commandOf(const ReportFindings& found, const ReportOrigin& origin) {
 Sentence citation(const ReportFindings& found, const ReportOrigin& origin) {
     Sentence sentence("The Brenica developers: Brenica, version " + origin.Program + ". Report on ");
     sentence.name(origin.Project);
+    if (!origin.IsSaved) sentence.say(" (not saved)");
     if (!origin.Hash.empty()) sentence.say(" (SHA-256 " + origin.Hash + ")");
     return sentence.say(" at " + levelsOf(found.Run.Levels) + ".");
 }
@@ -117,7 +120,10 @@ Markup originSection(const ReportFindings& findings, const ReportOrigin& origin)
         content += paragraph("The work was stopped before its end: the page tells what was known by then.");
     return content + element("h3", "How to cite") + paragraph(citation(findings, origin)) +
            paragraph(
-               "Whoever has the same file (its hash tells) gets the same numbers from the same version.");
+               origin.IsSaved
+                   ? "Whoever has the same file (its hash tells) gets the same numbers from the same version."
+                   : "No file holds the project as it is explained here. Save it and make the page again before "
+                     "others are to rely on it.");
 }
 
 }  // namespace insight

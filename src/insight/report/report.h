@@ -19,6 +19,7 @@ struct ReportOrigin {
     std::string Program;  ///< version of the program
     std::vector<std::string> Answers{};  ///< as they were given, to the questions of the run
     ReportWork Limits{};                 ///< of the searches
+    bool IsSaved = true;  ///< the file opens to the project that is explained; without it there is no hash
 };
 
 /// The same findings and origin give the same bytes.

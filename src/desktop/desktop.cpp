@@ -11,6 +11,7 @@
 #include "desktop/dialogues.h"
 #include "desktop/own/file_drop.h"
 #include "desktop/own/help_menu.h"
+#include "desktop/own/insight_menu.h"
 #include "desktop/texts.h"
 #include "ui/errors.h"
 
@@ -107,6 +108,8 @@ void Desktop::followStrip(bool programEnds) {
 void Desktop::furnishMainWindow() {
     strip_ = std::make_unique<WindowStrip>(*mainWindow_, *program_.MainForm(), program_.GetFiles(), copies_);
     grids_ = std::make_unique<WindowGrids>(*mainWindow_, *program_.MainForm());
+    report_ = std::make_unique<WindowReport>(*this, *program_.MainForm(), platform_, strip_->lines());
+    addMenu(*mainWindow_->menuBar(), insightMenu(*report_, *mainWindow_));
     addMenu(*mainWindow_->menuBar(),
             helpMenu({mainWindow_.get(), [this] { return program_.MainForm()->CurrentMainTab; },
                       [this](const QString& path) { openFile(path); }}));
@@ -144,6 +147,7 @@ void Desktop::handlePendingEvents() {
 void Desktop::end(int exitCode) {
     ended_ = true;
     if (strip_ != nullptr) strip_->lines().finishDrops();
+    if (report_ != nullptr) report_->end();
     copies_.finish();
     for (FormView* window : {splash_.get(), mainWindow_.get()}) {
         if (window != nullptr) window->retire();

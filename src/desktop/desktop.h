@@ -10,6 +10,7 @@
 #include "desktop/own/project_copies.h"
 #include "desktop/own/spent_keys.h"
 #include "desktop/own/window_grids.h"
+#include "desktop/own/window_report.h"
 #include "desktop/own/window_strip.h"
 #include "desktop/qt_platform.h"
 #include "desktop/scaled_link.h"
@@ -44,6 +45,7 @@ public:
 
     Program& program() { return program_; }
     ProjectCopies& copies() { return copies_; }
+    WindowReport& report() { return *report_; }
     /// The main form's window; null until the splash has handed over.
     FormView* mainWindow() const { return mainWindow_.get(); }
 
@@ -67,7 +69,8 @@ private:
     SpentKeys spentKeys_{*qApp};
     std::unique_ptr<WindowStrip> strip_;  // from the main window's beginning on
     std::unique_ptr<WindowGrids> grids_;  // just so
-    QString waitingFile_;                 // until the splash has handed over
+    std::unique_ptr<WindowReport> report_;
+    QString waitingFile_;  // until the splash has handed over
     bool busy_ = false;
     bool ended_ = false;
 };

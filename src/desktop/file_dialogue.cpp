@@ -17,9 +17,6 @@ namespace desktop {
 
 namespace {
 
-// Flags of a file dialogue.
-constexpr int AskBeforeOverwriting = 2;
-
 /// "Description|pattern|Description|pattern" as Qt's list of filters.
 QStringList filtersOf(const std::string& filter) {
     const QStringList fields = QString::fromStdString(filter).split('|');

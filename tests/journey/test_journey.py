@@ -106,13 +106,10 @@ class Journey(unittest.TestCase):
             self.assertEqual(second.read_bytes(), exported)
 
     def test_openedFromOutsideWithTheGuideBesideIt(self):
-        """A project as the command line and the file manager give it, and F1, with a browser that only notes what to show."""
+        """A project as the command line and the file manager give it, F1 and a report, with a browser that only notes what to
+        show."""
         with Session(pictures=OUTPUT / "outside") as session, diagnosed(session, "outside"):
-            tools, shown = session.home / "bin", session.home / "shown"
-            tools.mkdir()
-            (tools / "xdg-open").write_text(f'#!/bin/sh\necho "$1" >>{shown}\n')
-            (tools / "xdg-open").chmod(0o755)
-            session.environment["PATH"] = f"{tools}:{session.environment['PATH']}"
+            shown = session.standInForBrowser()
             other = session.home / "moor of the heron.brn"
             other.write_bytes(landscape.projectFile())
 
@@ -137,6 +134,14 @@ class Journey(unittest.TestCase):
                 session.keys("F1")
                 waitFor(lambda: shown.exists() and len(shown.read_text().split()) == number, "the guide")
                 self.assertTrue(shown.read_text().split()[-1].endswith(f"/page-{number}.html"), shown.read_text())
+
+            report = session.home / "report.html"
+            window.menu("Insight", "Report on the suite…")
+            window.chooseFile(report)
+            window.stripLine("The report on moor of the heron.brn is made: report.html.")
+            session.picture("report_made")
+            waitFor(lambda: shown.read_text().split()[-1].endswith("/report.html"), "the report in the browser")
+            self.assertIn("moor of the heron", report.read_text(encoding="utf-8"))
             session.keys("alt+F4")
             self.assertEqual(session.waitForEnd(), 0)
             self.assertEqual(session.programOutput(), "")

@@ -2,17 +2,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/own/help_menu.h"
 
+#include <glpk.h>
 #include <qcustomplot.h>
 
-#include <QDesktopServices>
 #include <QDir>
-#include <QUrl>
 #include <array>
 
-#include "desktop/dialogues.h"
+#include "desktop/own/guide.h"
 #include "desktop/own/own_texts.h"
 #include "desktop/program_files.h"
-#include "desktop/texts.h"
 #include "project/project_file.h"
 
 namespace desktop {
@@ -25,22 +23,10 @@ struct Library {
     const char* Licence;
 };
 
-void tell(QWidget* owner, const QString& text) {
-    showMessageBox(owner, utf8(text), ui::ApplicationTitle, ui::MessageIcon::None);
-}
-
-/// In the system's browser. A page is a file of its own, since what opens it may drop the name of a section.
-void showGuide(QWidget* owner, const QString& page) {
-    const QString folder = guideFolder();
-    if (folder.isEmpty()) return tell(owner, own_texts::NoGuide);
-    const QString path = QDir(folder).filePath(page);
-    if (!QDesktopServices::openUrl(QUrl::fromLocalFile(path)))
-        tell(owner, QString(own_texts::NoBrowser).arg(path));
-}
-
 QString aboutText() {
     const std::array libraries = {Library{"Qt", qVersion(), "LGPL-3.0"},
-                                  Library{"QCustomPlot", QCUSTOMPLOT_VERSION_STR, "GPL-3.0-or-later"}};
+                                  Library{"QCustomPlot", QCUSTOMPLOT_VERSION_STR, "GPL-3.0-or-later"},
+                                  Library{"GLPK", glp_version(), "GPL-3.0-or-later"}};
     QStringList used;
     for (const Library& library : libraries)
         used.append(QString(own_texts::AboutLibrary).arg(library.Name, library.Version, library.Licence));
@@ -70,7 +56,7 @@ OwnEntry helpMenu(const HelpLink& link) {
             {{"ownGuide", own_texts::Guide,
               [link] { showGuide(link.Owner, QString("page-%1.html").arg(link.Page())); }, Qt::Key_F1},
              {"ownExamples", own_texts::Examples, {}, {}, exampleEntries(link)},
-             {"ownAbout", own_texts::About, [link] { tell(link.Owner, aboutText()); }}}};
+             {"ownAbout", own_texts::About, [link] { tellInBox(link.Owner, aboutText()); }}}};
 }
 
 }  // namespace desktop

@@ -97,6 +97,32 @@ inline constexpr const char* NamelessProject = "The name of the project is empty
 inline constexpr const char* NoDisplay =
     "There is no display to open the window on. brenica-batch works without one.";
 
+// The menu of insight: the project and the file of its report, and why there is none.
+inline constexpr const char* Insight = "&Insight";
+inline constexpr const char* ReportOnSuite = "&Report on the suite…";
+inline constexpr const char* WhatReportSays = "&What a report says";
+inline constexpr const char* ReportFile = "%1 report.html";
+inline constexpr const char* ReportFilter = "Web pages (*.html)|*.html";
+inline constexpr const char* MakingReport = "The report on %1 is being made.";
+inline constexpr const char* SoFar = "So far: %1.";
+inline constexpr const char* ShowWhatIsKnown = "Show what is known so far";
+inline constexpr const char* Cancel = "Cancel";
+inline constexpr const char* ReportIsMade = "The report on %1 is made: %2.";
+inline constexpr const char* NoBrowserForReport = "There is no browser to show it in.";
+inline constexpr const char* SaveElsewhere = "Save it elsewhere";
+inline constexpr const char* ReportIsBeingMade =
+    "The report on %1 is being made; the line at the edge of the window tells how far it is. Cancel it there before you "
+    "begin another one.";
+inline constexpr const char* ChangedSinceSelection =
+    "The project has changed since the suite on view was selected. Make the report of the project as it is now?";
+inline constexpr const char* NotOverProject = "%1 is the project itself. Choose another name for the report.";
+inline constexpr const char* NoReport = "No report can be made. %1";
+inline constexpr const char* RowsNotComplete = "Rows on the page “%1” are not complete.";
+inline constexpr const char* ListsAreEmpty = "The project has no %1.";
+inline constexpr const char* LastOfList = "%1 or %2";
+inline constexpr const char* CalculationFails =
+    "The calculation ends in an error, as where a grade is blank or no number:\n%1";
+
 // The menu of help.
 inline constexpr const char* Help = "He&lp";
 inline constexpr const char* Guide = "&Guide";

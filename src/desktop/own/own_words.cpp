@@ -21,6 +21,13 @@ QString shortened(const QString& text, int longest) {
     return text.left(half) + QChar(0x2026) + text.right(half - 1);
 }
 
+QString clause(const QString& sentence) {
+    QString reason = sentence.simplified();
+    while (reason.endsWith('.')) reason.chop(1);
+    if (reason.size() > 1 && reason.at(1).isLower()) reason[0] = reason.at(0).toLower();
+    return reason;
+}
+
 QString cells(qsizetype count) {
     return count == 1 ? said(own_texts::OneCell) : said(own_texts::SeveralCells).arg(count);
 }

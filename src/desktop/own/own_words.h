@@ -12,6 +12,8 @@ namespace desktop::own_words {
 QString said(const char* text);
 /// The text with its middle left out where it is longer.
 QString shortened(const QString& text, int longest);
+/// A sentence as it stands within another one, without the stop at its end.
+QString clause(const QString& sentence);
 /// "1 cell", "12 cells".
 QString cells(qsizetype count);
 /// Where and why pasting a block has stopped.

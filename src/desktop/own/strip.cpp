@@ -61,7 +61,7 @@ void Strip::show(std::vector<StripLine> lines) {
     for (StripLine& line : lines) {
         StripRow* row = takeRow(line);
         if (row != nullptr) {
-            row->takeActions(std::move(line));
+            row->take(std::move(line));
         } else {
             row = new StripRow(std::move(line), contents_);
             for (QWidget* button : row->buttons()) button->installEventFilter(this);
@@ -70,7 +70,7 @@ void Strip::show(std::vector<StripLine> lines) {
         rows.push_back(row);
     }
     const std::vector<StripRow*> gone = std::exchange(rows_, std::move(rows));
-    if (rows_ == before) return;
+    if (rows_ == before) return emit heightChanged();  // the progress of one may take another line
     for (StripRow* row : rows_) {
         layout_->removeWidget(row);
         layout_->addWidget(row);

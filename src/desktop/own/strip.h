@@ -29,6 +29,7 @@ struct StripLine {
     std::vector<StripAction> Actions;
     std::function<void()> Close;  ///< nothing for a line that cannot be closed by itself
     bool Indented = false;        ///< belongs to the line above it
+    QString Progress{};           ///< follows the text and may change while the line stays the same
 };
 
 class StripRow;

@@ -34,10 +34,16 @@ void StripLines::finishDrops() {
     for (const QString& id : dropped) finishDrop(id);
 }
 
+void StripLines::tellOfReport(std::optional<StripLine> line) {
+    report_ = std::move(line);
+    follow();
+}
+
 void StripLines::follow() {
     std::vector<StripLine> lines;
     addFailures(lines);
     addKeeping(lines);
+    if (report_) lines.push_back(*report_);
     addOffers(lines);
     saysNoCopies_ = saysNoCopies_ && lines.empty();
     if (saysNoCopies_)

@@ -5,6 +5,7 @@
 #include <QHash>
 #include <QObject>
 #include <QSet>
+#include <optional>
 
 #include "desktop/own/safety_copies.h"
 #include "desktop/own/strip.h"
@@ -21,6 +22,8 @@ public:
     StripLines(Strip& strip, SafetyCopies& copies, FormWatch& watch);
     ~StripLines() override { finishDrops(); }
 
+    /// What is to be said of a report, in place of what was said before; nothing for no line.
+    void tellOfReport(std::optional<StripLine> line);
     /// Takes over what the watch has come to. To be called when it has looked.
     void follow();
     /// Carries out what was dropped and not taken back, as at the end of the program.
@@ -51,6 +54,7 @@ private:
     Strip& strip_;
     SafetyCopies& copies_;
     FormWatch& watch_;
+    std::optional<StripLine> report_;
     QSet<QString> closedOffers_;         // listed from then on, as those that nobody announced
     QHash<QString, int> droppedOffers_;  // still there until their time is over; by the number of the drop
     int drops_ = 0;

@@ -66,7 +66,7 @@ StripRow::StripRow(StripLine line, QWidget* parent)
     setToolTip(plainToolTip(utf8(line_.Details)));
     text_->setTextFormat(Qt::PlainText);
     text_->setWordWrap(true);
-    text_->setText(line_.Text);
+    showText();
     auto* row = new QHBoxLayout(this);
     const int gap = fontMetrics().height() / 3;
     row->setContentsMargins((line_.Indented ? 7 : 2) * gap, gap, gap, gap);
@@ -87,6 +87,16 @@ StripRow::StripRow(StripLine line, QWidget* parent)
         addButton(button, [](const StripLine& shown) { shown.Close(); });
     }
     followPalette();
+}
+
+void StripRow::take(StripLine line) {
+    line_ = std::move(line);
+    showText();
+}
+
+/// Progress is seen, and read by whoever goes there, but not announced.
+void StripRow::showText() {
+    text_->setText(line_.Progress.isEmpty() ? line_.Text : line_.Text + ' ' + line_.Progress);
 }
 
 /// The line may be replaced by what its button does.

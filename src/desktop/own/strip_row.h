@@ -17,8 +17,8 @@ public:
     StripRow(StripLine line, QWidget* parent);
 
     bool shows(const StripLine& line) const;
-    /// Takes over what the line runs; what it shows must be the same.
-    void takeActions(StripLine line) { line_ = std::move(line); }
+    /// Takes over what the line runs, and its progress; what else it shows must be the same.
+    void take(StripLine line);
     /// Those that can be pressed, from left to right.
     const std::vector<QWidget*>& buttons() const { return buttons_; }
     /// Tells screen readers that the line has come.
@@ -29,6 +29,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void showText();
     void addButton(QToolButton* button, std::function<void(const StripLine&)> run);
     QColor background() const;
 

@@ -19,6 +19,7 @@ constexpr int LongestText = 30;     // of a cell's
 constexpr int CellsByName = 2;      // in the strip itself
 constexpr int CellsInDetails = 25;  // in its tip
 
+using own_words::clause;
 using own_words::said;
 using own_words::shortened;
 
@@ -33,14 +34,6 @@ QString nameOfNone(const CopyOffer& offer) {
 
 QString projectOf(const CopyOffer& offer) {
     return offer.ProjectPath.isEmpty() ? nameOfNone(offer) : nameOf(offer.ProjectPath);
-}
-
-/// In the middle of a sentence, without the stop at its end.
-QString clause(const QString& sentence) {
-    QString reason = sentence.simplified();
-    while (reason.endsWith('.')) reason.chop(1);
-    if (reason.size() > 1 && reason.at(1).isLower()) reason[0] = reason.at(0).toLower();
-    return reason;
 }
 
 QString reasonOf(const FailedCommand& failed) { return clause(shownText(failed.Reason)); }

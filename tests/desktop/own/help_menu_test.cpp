@@ -2,29 +2,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/own/help_menu.h"
 
-#include <QDesktopServices>
 #include <QMenuBar>
 
+#include "desktop/own/browser.h"
 #include "desktop/own/windowed_program.h"
 
 using desktop_test::Boxes;
+using desktop_test::Browser;
 using desktop_test::WindowedProgram;
 
 namespace {
-
-/// Takes the place of the system's browser.
-class Browser : public QObject {
-    Q_OBJECT
-
-public:
-    Browser() { QDesktopServices::setUrlHandler("file", this, "open"); }
-    ~Browser() override { QDesktopServices::unsetUrlHandler("file"); }
-
-    QList<QUrl> Opened;
-
-public slots:
-    void open(const QUrl& url) { Opened.append(url); }
-};
 
 QAction& entry(WindowedProgram& program, const char* name) {
     return *program.desktop().mainWindow()->findChild<QAction*>(name);
@@ -44,7 +31,7 @@ private slots:
     void itStandsBehindTheFormsOwnMenus() {
         WindowedProgram program;
         const QList<QAction*> menus = program.desktop().mainWindow()->menuBar()->actions();
-        QCOMPARE(menus.size(), 4);
+        QCOMPARE(menus.size(), 5);
         QCOMPARE(menus.last()->text(), QString("He&lp"));
     }
 
@@ -119,7 +106,8 @@ private slots:
         WindowedProgram program;
         const Boxes boxes;
         entry(program, "ownAbout").trigger();
-        for (const char* text : {"Brenica 2.0.0", "GNU General Public License", "Qt 6", "QCustomPlot 2"})
+        for (const char* text :
+             {"Brenica 2.0.0", "GNU General Public License", "Qt 6", "QCustomPlot 2", "GLPK "})
             QVERIFY2(boxes.Texts.value(0).contains(text), text);
     }
 };

@@ -2,10 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QAbstractButton>
-#include <QLabel>
-
 #include "desktop/main_window.h"
+#include "desktop/own/strip_reader.h"
 #include "desktop/own/window_strip.h"
 
 namespace desktop_test {
@@ -88,25 +86,9 @@ struct StripWindow : MainWindow {
     }
 
     desktop::Strip& strip() { return own.strip(); }
-    /// The lines on view, from the top.
-    QStringList lines() {
-        QCoreApplication::sendPostedEvents();  // to see them where they are laid out
-        QMap<int, QString> texts;
-        for (const QLabel* label : strip().findChildren<QLabel*>()) {
-            if (!label->text().isEmpty() && label->isVisible())
-                texts[label->mapTo(&strip(), QPoint()).y()] = label->text();
-        }
-        return texts.values();
-    }
-    /// The button of a caption, or of a name for screen readers, in the line whose text begins so; null for none.
+    QStringList lines() { return linesOf(strip()); }
     QAbstractButton* button(const QString& line, const QString& caption) {
-        for (const QLabel* label : strip().findChildren<QLabel*>()) {
-            if (!label->isVisible() || !label->text().startsWith(line)) continue;
-            for (auto* button : label->parentWidget()->findChildren<QAbstractButton*>()) {
-                if (button->text() == caption || button->accessibleName() == caption) return button;
-            }
-        }
-        return nullptr;
+        return buttonOf(strip(), line, caption);
     }
     void click(const QString& line, const QString& caption) {
         QAbstractButton* found = button(line, caption);

@@ -366,6 +366,25 @@ private slots:
         QCOMPARE(announced.size(), 2);
     }
 
+    void progressShowsInItsLineAndIsNotAnnounced() {
+        StripWindow w;
+        desktop::StripLine line{"At work.", {}, desktop::StripTone::Note, {{"Stop", [] {}}}, {}};
+        w.own.lines().tellOfReport(line);
+        const QSignalSpy announced(&w.strip(), &desktop::Strip::announced);
+        w.key(Qt::Key_F6);
+        line.Progress = "Half done.";
+        w.own.lines().tellOfReport(line);
+        QCOMPARE(w.lines(), QStringList("At work. Half done."));
+        QVERIFY(w.button("At work.", "Stop")->hasFocus());
+        QCOMPARE(announced.size(), 0);
+        const int height = w.strip().height();
+        line.Progress = QString("word ").repeated(100);
+        w.own.lines().tellOfReport(line);
+        QVERIFY(w.strip().height() > height);
+        w.own.lines().tellOfReport({});
+        QVERIFY(!w.strip().isVisible());
+    }
+
     void screenReadersFindAndPressItsButtons() {
         StripWindow w;
         w.copies.give({copyOf("/a/landscape.brn", "4")});

@@ -1,0 +1,55 @@
+// SPDX-FileCopyrightText: 2026 The Brenica developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/own/report_words.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QStringList>
+
+#include "desktop/own/own_texts.h"
+#include "desktop/own/own_words.h"
+#include "desktop/own/strip_words.h"
+#include "desktop/texts.h"
+
+namespace desktop::report_words {
+
+namespace {
+
+using own_words::said;
+
+QString listed(const std::vector<const char*>& names) {
+    QStringList list;
+    for (const char* name : names) list << said(name);
+    const QString last = list.takeLast();
+    return list.isEmpty() ? last : said(own_texts::LastOfList).arg(list.join(", "), last);
+}
+
+QString reasonIn(const SelectionAside& aside) {
+    if (aside.Walk.RefusedPage > 0)
+        return said(own_texts::RowsNotComplete).arg(shownText(aside.Walk.RefusedTab));
+    if (!aside.Walk.EmptyLists.empty())
+        return said(own_texts::ListsAreEmpty).arg(listed(aside.Walk.EmptyLists));
+    if (aside.Obstacle) return strip_words::notSelected(*aside.Obstacle);
+    if (!aside.Error.empty()) return said(own_texts::CalculationFails).arg(shownText(aside.Error));
+    return shownText(aside.Told);
+}
+
+}  // namespace
+
+QString whyNone(const SelectionAside& aside) { return whyNone(reasonIn(aside)); }
+
+QString whyNone(const QString& reason) { return said(own_texts::NoReport).arg(reason); }
+
+QString projectName(const QString& path) {
+    return path.isEmpty() ? said(own_texts::NewProject) : QFileInfo(path).fileName();
+}
+
+QString proposedFile(const QString& projectPath) {
+    const QFileInfo project(projectPath);
+    const QString name = projectPath.isEmpty() ? said(own_texts::NewProject) : project.completeBaseName();
+    const QString file = said(own_texts::ReportFile).arg(name);
+    const bool beside = !projectPath.isEmpty() && QFileInfo(project.absolutePath()).isWritable();
+    return beside ? project.absoluteDir().filePath(file) : file;
+}
+
+}  // namespace desktop::report_words

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/own/report_maker.h"
 
+#include <algorithm>
 #include <exception>
 #include <string>
 #include <thread>

@@ -92,6 +92,7 @@ StripRow::StripRow(StripLine line, QWidget* parent)
 void StripRow::take(StripLine line) {
     line_ = std::move(line);
     showText();
+    updateGeometry();  // at once, as the strip is about to ask for the height
 }
 
 /// Progress is seen, and read by whoever goes there, but not announced.

@@ -16,9 +16,9 @@ namespace {
 using svg::Anchor;
 
 constexpr double CellSize = 20;
-constexpr double NameRoom = 210;
+constexpr double NameRoom = 230;
 constexpr double NoteRoom = 90;
-constexpr double SpeciesRoom = 130;
+constexpr double SpeciesRoom = 190;
 constexpr std::size_t RowsOfPart = 40;
 constexpr std::size_t RowsOfDrawing = 44;  // as many as a page has room for
 constexpr std::array KindHeadings = {"Habitats", "Zones", "Threats"};

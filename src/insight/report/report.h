@@ -19,6 +19,11 @@ struct ReportOrigin {
     std::string Program;  ///< version of the program
     std::vector<std::string> Answers{};  ///< as they were given, to the questions of the run
     ReportWork Limits{};                 ///< of the searches
+    /// Values were filled in as the file was opened: it is of version 1, which lacks them.
+    bool HasDefaults = false;
+    std::string Title{};   ///< in the place of the file's name
+    std::string Author{};  ///< of the report or the data; may be empty, as may be the date
+    std::string Date{};    ///< as it was given: no clock is read
 };
 
 /// The same findings and origin give the same bytes.

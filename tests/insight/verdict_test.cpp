@@ -58,7 +58,7 @@ TEST(Verdict, SaysWhatWouldBeEnoughAndWhatCouldGo) {
     EXPECT_THAT(verdictOf(selected(smallLandscape())),
                 ElementsAre("Four species; three would be enough.",
                             "All 10 units (habitats, zones and threats) are covered.",
-                            "Nine of these 10 hang on one species of the suite alone.",
+                            "5 of these 10 hang on one species of the suite alone.",
                             "All that Eurasian Otter covers is covered by others of the suite, too; it has "
                             "rank 1 of 7 by score.",
                             "Two suites of three species cover all that can be covered.",
@@ -87,7 +87,7 @@ TEST(Verdict, SaysWhatWasMissed) {
 TEST(Verdict, SpeaksOfOneInTheSingular) {
     EXPECT_THAT(verdictOf(twoSpecies()), ElementsAre("One species; at these levels no fewer cover as much.",
                                                      "All 4 units (habitats, zones and threats) are covered.",
-                                                     "4 of these 4 hang on one species of the suite alone.",
+                                                     "Each hangs on one species of the suite alone.",
                                                      "It is the only suite of that size that does."));
 }
 

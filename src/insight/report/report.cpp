@@ -59,12 +59,9 @@ Markup figuresOf(const ReportFindings& findings) {
 Markup verdictOf(const ReportFindings& findings) {
     const std::vector<Sentence> sentences = verdict(findings);
     Markup rest;
-    for (std::size_t i = 1; i < sentences.size(); ++i) {
-        if (i > 1) rest += escaped(" ");
-        rest += sentences[i].markup();
-    }
+    for (std::size_t i = 1; i < sentences.size(); ++i) rest += element("li", sentences[i].markup());
     return element("p", {{"class", "verdict"}}, sentences.front().markup()) +
-           element("p", {{"class", "lede"}}, rest);
+           element("ul", {{"class", "lede"}}, rest);
 }
 
 /// Who made it and when, as far as that was told.
@@ -82,10 +79,10 @@ Markup warning(const ReportOrigin& origin) {
     return element(
         "p", {{"class", "warning"}, {"role", "note"}},
         "This file comes from version 1 and lacks data that the method takes. Default values stand "
-        "in their place: a conservation status of 1 for each species, a level of use of 2 asked for "
-        "by each habitat and zone, and the proportion of the landscape that the areas give. "
-        "They were not entered by anybody, and all that follows rests on them. Enter the true "
-        "values before this page is shown.");
+        "in their place: a conservation status of 1 for each species, a level of use of 2 wherever a "
+        "species uses a habitat or zone and asked for by each of these, and the proportion of the "
+        "landscape that the areas give. They were not entered by anybody, and all that follows rests "
+        "on them. Enter the true values before this page is shown.");
 }
 
 Markup contents() {

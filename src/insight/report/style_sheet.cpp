@@ -33,7 +33,8 @@ h3 { font-size: 1rem; font-weight: 600; margin: 1.75rem 0 .5rem; }
 p { margin: 0 0 .9rem; max-width: 44rem; }
 .kicker { color: var(--quiet); font-size: .85rem; letter-spacing: .06em; margin: 0 0 .4rem; }
 .verdict { font-size: 1.6rem; line-height: 1.3; color: var(--accent); margin-bottom: .6rem; }
-.lede { font-size: 1.08rem; }
+.lede { font-size: 1.05rem; max-width: 46rem; margin: 0 0 .9rem; padding-left: 1.1rem; }
+.lede li { margin-bottom: .25rem; }
 .byline { color: var(--quiet); margin: -1rem 0 1.5rem; }
 .warning { border-left: 4px solid var(--alarm); background: var(--wash); color: var(--alarm); padding: .7rem 1rem; }
 .note { color: var(--quiet); font-size: .92rem; }
@@ -65,6 +66,7 @@ thead th { overflow-wrap: normal; }
 .text { min-width: 10rem; max-width: 20rem; }
 .rest { display: inline-block; color: var(--quiet); font-size: .875rem; margin-top: 1rem; }
 .rest + .scroll { margin-top: .25rem; }
+details:not([open]) > :not(summary) { display: none; }
 summary { color: var(--accent); font-size: .92rem; cursor: pointer; }
 .references { padding-left: 1.1rem; font-size: .92rem; max-width: 44rem; }
 dl.words dt { font-weight: 600; margin-top: .8rem; }

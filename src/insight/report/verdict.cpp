@@ -85,6 +85,7 @@ Sentence hanging(const ReportFindings& found) {
     const std::size_t units = hangingUnits(found);
     if (covered == 0) return {};
     if (units == 0) return Sentence("Each is covered by two or more species of the suite.");
+    if (units == covered) return Sentence("Each hangs on one species of the suite alone.");
     return Sentence(withThousands(units) + " of these " + withThousands(covered) +
                     (units == 1 ? " hangs" : " hang") + " on one species of the suite alone.");
 }
@@ -117,7 +118,7 @@ Sentence bestRemedy(const ReportFindings& found) {
     if (open >= unitsOf(found) - coveredBy(found)) return {};
     Sentence sentence("With " + changeInWords(found, best->Made) + " a run has " +
                       speciesInWords(best->Run.Species.size()) + " and leaves " +
-                      countedInWords(open, "unit", "units") + " uncovered");
+                      countedInWords(open, "unit", open == 0 ? "unit" : "units") + " uncovered");
     if (best->Run.Smallest && best->Run.Smallest->isProven())
         sentence.say("; the smallest suite then has " + sizeInWords(*best->Run.Smallest));
     return sentence.say(".");

@@ -125,7 +125,7 @@ TEST(ReportPage, SaysThatDefaultsWereFilledIn) {
     const std::string page = pageOf(run, origin);
     EXPECT_THAT(page, HasSubstr("class=\"warning\""));
     EXPECT_THAT(page, Not(HasSubstr("All grades are taken as they were entered.")));
-    EXPECT_THAT(page, HasSubstr("runs selected no species, as where none is eligible; shares are those of"));
+    EXPECT_THAT(page, HasSubstr("runs selected no species, as where none is eligible; shares of species"));
 }
 
 TEST(ReportPage, BearsTheGivenTitleAuthorAndDate) {

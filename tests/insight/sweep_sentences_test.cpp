@@ -44,7 +44,7 @@ TEST(SweepSentences, SetRunsApartThatAdmitNobody) {
     const auto levels = sentencesOn(findings, 0);
     EXPECT_THAT(levels.front(),
                 AllOf(HasSubstr(" of 2,500 runs selected no species, as where none is eligible"),
-                      HasSubstr("shares are those of the other ")));
+                      HasSubstr("shares of species are those of the other ")));
     EXPECT_THAT(levels, Not(Contains(HasSubstr("(2 %)"))));
     EXPECT_TRUE(answersByPosition(findings).isEmpty()) << "none was given";
 }

@@ -39,9 +39,11 @@ Sentence& nameWithShares(Sentence& sentence, const std::vector<std::string>& nam
 /// Runs without a suite tell nothing of the species; where they are many they would hide the others.
 Sentence runsWithoutSuite(const ReportSweep& sweep) {
     if (sweep.emptyRuns() == 0) return {};
-    return Sentence(withThousands(sweep.emptyRuns()) + " of " + withThousands(sweep.Counts.Runs) +
-                    " runs selected no species, as where none is eligible; shares are those of the other " +
-                    withThousands(sweep.runsWithSuite()) + ".");
+    return Sentence(
+        withThousands(sweep.emptyRuns()) + " of " + withThousands(sweep.Counts.Runs) +
+        " runs selected no species, as where none is eligible; shares of species are those of the "
+        "other " +
+        withThousands(sweep.runsWithSuite()) + ", while units and sizes count all runs.");
 }
 
 Sentence alwaysSelected(const ReportFindings& found, const ReportSweep& sweep) {

@@ -4,6 +4,8 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
+
 #include "insight/names.h"
 #include "selected_run.h"
 #include "selection/margin_answers.h"

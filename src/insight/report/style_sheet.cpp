@@ -116,7 +116,7 @@ svg .own { fill: none; stroke: var(--alarm); stroke-width: 2.5; }
   thead { break-inside: avoid; break-after: avoid; }
   tbody tr:first-child, tbody tr:nth-child(2) { break-before: avoid; }
   p, li, dt { orphans: 3; widows: 3; }
-  tr, svg, figcaption { break-inside: avoid; }
+  p, li, tr, svg, figcaption { break-inside: avoid; }
   .scroll { overflow: visible; }
   table { font-size: 7.5pt; width: 100%; }
   th, td { padding: .15rem .35rem .15rem 0; }

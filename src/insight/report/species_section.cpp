@@ -70,7 +70,9 @@ std::string suiteWithout(const ReportFindings& found, std::uint32_t row) {
     });
     if (suite != suites.end() && found.Minimum.Known.isProven())
         return "no. " + std::to_string(suite - suites.begin() + 1);
-    return found.Roles[row].Class == SpeciesClass::All ? "none" : "";
+    const std::optional<SpeciesClass> known = found.Roles[row].Class;
+    if (!known) return "";
+    return known == SpeciesClass::All ? "none" : "not among those listed";
 }
 
 /// The verb's cells in words.

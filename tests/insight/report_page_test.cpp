@@ -58,9 +58,10 @@ TEST(ReportPage, TellsWhereItComesFrom) {
     EXPECT_THAT(page, HasSubstr("<title>p: the suite explained</title>"));
     EXPECT_THAT(
         page,
-        HasSubstr("Brenica, version 1.2. Report on <bdi>p.brn</bdi> (SHA-256 0123456789abcdef) at margin of "
-                  "error 6 %, threat representation 0.4, conservation status 0.8; <bdi>answers b, d, b, "
-                  "2</bdi>; searches at most 5,000 steps; sweeps three, of 2,500 runs each; seed 1; p 0.1."));
+        HasSubstr(
+            "Brenica, version 1.2. Report on <bdi>p.brn</bdi> (SHA-256 0123456789abcdef) at margin of "
+            "error 6 %, threat representation 0.4, conservation status 0.8; <bdi>answers b, d, b, "
+            "2</bdi>; limit of the searches: at most 5,000 steps; sweeps: three, of 2,500 runs each; seed 1; p 0.1."));
     EXPECT_THAT(page,
                 HasSubstr("“<bdi>b</bdi>”, “<bdi>d</bdi>”, “<bdi>b</bdi>”, “<bdi>2</bdi>”, in this order"));
     EXPECT_THAT(page, HasSubstr("at most 5,000 steps"));

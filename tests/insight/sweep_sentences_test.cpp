@@ -34,7 +34,7 @@ TEST(SweepSentences, NameTheWeakAndWhatIsMissed) {
                          "the run stopped short."));
     EXPECT_THAT(levels, Not(Contains(HasSubstr("error"))));
     EXPECT_THAT(sentencesOn(findings, 1),
-                Contains("The suite has ten species in 50 %, nine species in 50 % (this one has nine)."));
+                Contains("The suite has nine species in 50 %, ten species in 50 % (this one has nine)."));
     EXPECT_THAT(answersByPosition(findings).text(), HasSubstr("are taken by position"));
 }
 

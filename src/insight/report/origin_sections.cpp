@@ -97,7 +97,8 @@ Sentence citation(const ReportFindings& found, const ReportOrigin& origin) {
     sentence.name(origin.Project);
     if (!origin.Hash.empty()) sentence.say(" (SHA-256 " + origin.Hash + ")");
     sentence.say(" at " + levelsOf(found.Run.Levels) + "; ").name(answersInWords(origin));
-    return sentence.say("; searches " + limitsOf(origin) + "; sweeps " + sweepsOf(found) + ".");
+    return sentence.say("; limit of the searches: " + limitsOf(origin) + "; sweeps: " + sweepsOf(found) +
+                        ".");
 }
 
 /// Where the clock ends a search its answer depends on the machine.

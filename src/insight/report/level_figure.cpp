@@ -119,8 +119,8 @@ Markup levelFigure(const ReportFindings& findings) {
     return figure(
         "The suite at other levels", LevelDrawing(findings).draw(),
         escaped(
-            "In each cell above the species of the suite that a run at these levels selects, below the "
-            "units that it leaves uncovered, of all the share that the shade tells. The frame marks the levels "
+            "In each cell stand above the species of the suite that a run at these levels selects, and below the "
+            "units that it leaves uncovered; the shade tells their share of all units. The frame marks the levels "
             "of this report. “!” marks a run that ended early, as a rule since none of the species left added "
             "a unit. Where no species is eligible there is no row."));
 }

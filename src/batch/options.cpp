@@ -15,7 +15,8 @@ ParsedOptions parseOptions(int argc, const char* const* argv, std::ostream& out,
     app.add_option("--messages", options.Messages, "write every box shown, in order, as JSON lines")
         ->type_name("FILE");
     app.footer(
-        "brenica-batch VERB explains a suite: units, minimum, suites, species, sweep, merge, verify.\n\n"
+        "brenica-batch VERB explains a suite: report (all of it, on one page), units, minimum, suites, species, "
+        "sweep, merge, verify. brenica-batch VERB --help tells more.\n\n"
         "Exit code: 0 done, 1 wrong usage, 2 the project cannot be read, 3 nothing to score, 4 unexpected error.");
     const std::span arguments(argv, static_cast<std::size_t>(argc));
     if (const auto code = parseArguments(app, arguments.subspan(1), out, err)) return {std::nullopt, *code};

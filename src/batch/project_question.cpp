@@ -51,7 +51,7 @@ int explainProject(const VerbCall& call, const ProjectQuestion& question) {
         return code == ExitDone ? ExitNothingToScore : code;
     }
     if (question.AboutRun) sayEndOfRun(call.Err, run->Outcome);
-    const Answer answer = question.Ask({*run, options, project.answersLeft()});
+    const Answer answer = question.Ask({*run, options, project.answersLeft(), project.hasDefaults()});
     for (const std::string& note : answer.Notes) sayLine(call.Err, note);
     call.Out << (commandLine.Json
                      ? jsonText({options.Project, run->Levels, question.AboutRun ? code : ExitDone}, answer)

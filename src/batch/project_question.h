@@ -26,6 +26,7 @@ struct ExplainedProject {
     const SelectionRun& Run;
     const RunOptions& Options;
     const std::vector<std::string>& AnswersLeft;  ///< when the selection began
+    bool HasDefaults;                             ///< put in for what the file lacks
 };
 
 /// What a verb asks of a project.

@@ -75,6 +75,7 @@ ExitCode ProjectRun::select() {
 bool ProjectRun::openProject() {
     platform_.Files.push_back(options_.Project);
     form_.mnuOpenProject.UserClick();
+    hasDefaults_ = !platform_.Transcript.empty();
     const auto& fault = files_.LastFault();
     const bool wasRead = !fault || fault->Line > 0;
     if (wasRead && files_.LinesEnded() == 0)

@@ -27,6 +27,8 @@ public:
     ExitCode select();
     /// The answers that were left when the selection began.
     const std::vector<std::string>& answersLeft() const { return answersLeft_; }
+    /// Whether opening the file showed a message: default values were put in for what a file of version 1 lacks.
+    bool hasDefaults() const { return hasDefaults_; }
     /// The report of an unexpected error, as the form gives it.
     const std::string& error() const { return error_; }
 
@@ -49,5 +51,6 @@ private:
     modGlobal global_;
     frmBrenica form_;
     std::vector<std::string> answersLeft_;
+    bool hasDefaults_ = false;
     std::string error_;
 };

@@ -25,6 +25,9 @@ namespace {
 struct ReportOptions {
     SearchOptions Search;
     std::string Path;
+    std::string Title;
+    std::string Author;
+    std::string Date;
     std::optional<OutputFile> Page;
     std::string ProjectHash;  ///< before it was opened; empty where it is no file
 };
@@ -32,6 +35,10 @@ struct ReportOptions {
 void addOptions(CLI::App& app, ReportOptions& options) {
     addSearchOptions(app, options.Search);
     app.add_option("--out", options.Path, "the page")->type_name("X.html")->required();
+    app.add_option("--title", options.Title, "title of the page, in the place of the file's name")
+        ->type_name("TEXT");
+    app.add_option("--author", options.Author, "who made it, below the title")->type_name("TEXT");
+    app.add_option("--date", options.Date, "date below the title, as given")->type_name("TEXT");
 }
 
 /// A pipe can be read but once.
@@ -87,8 +94,11 @@ Answer ask(ReportOptions& options, const ExplainedProject& project) {
                              [&](const std::string& text) { progress.tell(text); }};
     const insight::ReportFindings findings(project.Run, marginAnswers(project.AnswersLeft), work);
     const std::string name = std::filesystem::path(project.Options.Project).filename().string();
-    const insight::ReportOrigin origin{name, options.ProjectHash, BRENICA_VERSION, project.Options.Answers,
-                                       work};
+    insight::ReportOrigin origin{name, options.ProjectHash, BRENICA_VERSION, project.Options.Answers, work};
+    origin.HasDefaults = project.HasDefaults;
+    origin.Title = options.Title;
+    origin.Author = options.Author;
+    origin.Date = options.Date;
     Answer answer{verdictTable(findings)};
     if (findings.Stopped) answer.Notes.emplace_back("stopped: what is known so far is on the page");
     if (const auto fault =

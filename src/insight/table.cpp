@@ -44,6 +44,11 @@ struct Field {
 
 }  // namespace
 
+std::size_t columnOf(const ResultTable& table, std::string_view name) {
+    return static_cast<std::size_t>(std::find(table.Columns.begin(), table.Columns.end(), name) -
+                                    table.Columns.begin());
+}
+
 std::string oneLine(std::string text) {
     std::replace_if(
         text.begin(), text.end(), [](char c) { return c == '\t' || c == '\n' || c == '\r'; }, ' ');

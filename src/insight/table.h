@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <variant>
 #include <vector>
 
@@ -27,6 +28,9 @@ struct ResultTable {
     std::vector<std::string> Columns;
     std::vector<std::vector<Cell>> Rows;  ///< each has a cell for every column
 };
+
+/// The place of a column. REQUIRES: the table has it
+std::size_t columnOf(const ResultTable& table, std::string_view name);
 
 /// A text with its tabs and line breaks as blanks.
 std::string oneLine(std::string text);

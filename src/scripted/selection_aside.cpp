@@ -40,9 +40,10 @@ std::unique_ptr<FormAside> opened(const std::string& path, ui::DecimalSeparator 
 
 /// The same for a file that anything may stand in.
 std::unique_ptr<FormAside> openedIfItIs(const ProjectCopy& project, const std::string& path,
-                                        ui::DecimalSeparator separator) try {
+                                        ui::DecimalSeparator separator, SelectionAside& told) try {
     if (path.empty()) return nullptr;
     auto aside = opened(path, separator);
+    told.HasDefaults = aside != nullptr && !aside->Platform.Transcript.empty();
     const bool isSame = aside != nullptr && aside->Form.TakeCopy().isSameProjectAs(project);
     return isSame ? std::move(aside) : nullptr;
 } catch (const std::exception&) {
@@ -113,7 +114,7 @@ bool showTheSameSelection(const frmBrenica& one, const frmBrenica& other) {
 SelectionAside selectAside(const frmBrenica& form, const AsideFiles& files) {
     const ProjectCopy project = form.TakeCopy();
     SelectionAside told;
-    auto aside = openedIfItIs(project, files.Saved, form.Separator());
+    auto aside = openedIfItIs(project, files.Saved, form.Separator(), told);
     told.IsSaved = aside != nullptr;
     if (aside == nullptr) aside = openedCopy(project, files.Copy, form.Separator());
     aside->Form.RestoreCopy(project, "");

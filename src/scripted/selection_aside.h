@@ -13,9 +13,10 @@
 /// The suite of a project on view, selected in a form of its own, so that the form on view stays as it is.
 struct SelectionAside {
     std::optional<SelectionRun>
-        Run{};              ///< nothing where no selection can be run, or it failed before its first pass
-    bool IsOnView = false;  ///< the tables of the selection on view say the same, text for text
-    bool IsSaved = false;   ///< the saved file opens to this project
+        Run{};                 ///< nothing where no selection can be run, or it failed before its first pass
+    bool IsOnView = false;     ///< the tables of the selection on view say the same, text for text
+    bool IsSaved = false;      ///< the saved file opens to this project
+    bool HasDefaults = false;  ///< values were put in for what the saved file lacks
 
     // Why there is no run.
     PageWalk Walk{};

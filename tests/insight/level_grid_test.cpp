@@ -59,3 +59,17 @@ TEST(LevelGrid, EndsEarlyWhereItIsStopped) {
     EXPECT_TRUE(grid.Runs.empty());
     EXPECT_FALSE(grid.isComplete());
 }
+
+TEST(LevelGrid, KnowsTheNearestLevelsThatLeaveNothing) {
+    const method::Levels own{5, 0.5, 0.8};
+    LevelGrid grid;
+    grid.Representations = {0, 0.3, 0.5};
+    grid.Statuses = {1, 0.8};
+    grid.Runs = {{{3, 0}, {4, 0}, {5, 0}}, {{3, 0}, {4, 0}, {5, 1}}};
+    const auto nearest = nearestCovering(grid, own);
+    ASSERT_TRUE(nearest);
+    EXPECT_EQ(nearest->Status, 0U) << "as near as a lower threat representation, and asks for more";
+    EXPECT_EQ(nearest->Representation, 2U);
+    grid.Runs = {{{3, 0}, {4, 1}, {5, 1}}, {{3, 0}, {4, 1}, {5, 1}}};
+    EXPECT_FALSE(nearestCovering(grid, own)) << "at 0 any species counts";
+}

@@ -25,7 +25,7 @@ TEST(Markup, WritesElementsThatReadTheSameAsHtmlAndAsXml) {
     EXPECT_EQ(element("p", {{"title", "\"<"}}, element("b", "x")).text(),
               "<p title=\"&quot;&lt;\"><b>x</b></p>");
     EXPECT_EQ(element("td", Markup()).text(), "<td></td>");
-    EXPECT_EQ(meta({{"charset", "utf-8"}}).text(), "<meta charset=\"utf-8\"/>");
+    EXPECT_EQ(voidElement("meta", {{"charset", "utf-8"}}).text(), "<meta charset=\"utf-8\"/>");
 }
 
 TEST(Sentences, SetNamesApart) {

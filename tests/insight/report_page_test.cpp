@@ -18,7 +18,7 @@ constexpr const char* Hash = "0123456789abcdef";
 
 std::string pageOf(const SelectionRun& run, const ReportOrigin& origin,
                    const ReportWork& work = {.Threads = 2}) {
-    return reportPage(ReportFindings(run, {}, work), origin);
+    return reportPage(ReportFindings(run, marginAnswers(origin.Answers), work), origin);
 }
 std::string pageOf(const SelectionRun& run) { return pageOf(run, {"p.brn", Hash, "1.2"}); }
 std::string pageOf(const ProjectText& project, const RunOptions& options = {}, const ReportWork& work = {}) {
@@ -58,8 +58,10 @@ TEST(ReportPage, TellsWhereItComesFrom) {
     EXPECT_THAT(page, HasSubstr("<title>p: the suite explained</title>"));
     EXPECT_THAT(
         page,
-        HasSubstr("Brenica, version 1.2. Report on <bdi>p.brn</bdi> (SHA-256 0123456789abcdef) at margin of "
-                  "error 6 %, threat representation 0.4, conservation status 0.8."));
+        HasSubstr(
+            "Brenica, version 1.2. Report on <bdi>p.brn</bdi> (SHA-256 0123456789abcdef) at margin of "
+            "error 6 %, threat representation 0.4, conservation status 0.8; <bdi>answers b, d, b, "
+            "2</bdi>; limit of the searches: at most 5,000 steps; sweeps: three, of 2,500 runs each; seed 1; p 0.1."));
     EXPECT_THAT(page,
                 HasSubstr("“<bdi>b</bdi>”, “<bdi>d</bdi>”, “<bdi>b</bdi>”, “<bdi>2</bdi>”, in this order"));
     EXPECT_THAT(page, HasSubstr("at most 5,000 steps"));
@@ -106,10 +108,10 @@ TEST(ReportPage, IsMadeForProjectsWhereNothingCanBeSaid) {
                 HasSubstr("Nothing can be covered: the empty suite is the smallest."));
     EXPECT_THAT(pageOf(twoSpecies().set("HeteroHabitat Population", "2,1,1,1")),
                 HasSubstr("ended in an error"));
-    EXPECT_THAT(pageOf(ProjectText(1, 1, 1, 1)), HasSubstr("smaller suite"));
-    EXPECT_THAT(pageOf(coverProject({{1, 1}, {1, 1}})), HasSubstr("no smaller suite exists"));
+    EXPECT_THAT(pageOf(ProjectText(1, 1, 1, 1)), HasSubstr("at these levels"));
+    EXPECT_THAT(pageOf(coverProject({{1, 1}, {1, 1}})), HasSubstr("no fewer cover as much"));
     EXPECT_THAT(pageOf(twoSpecies().set("Habitat UseLevel", "0,0").set("MZone UseLevel", "0")),
-                HasSubstr("no smaller suite exists"));
+                HasSubstr("no fewer cover as much"));
 }
 
 TEST(ReportPage, ProvesWhatItSays) {
@@ -117,17 +119,53 @@ TEST(ReportPage, ProvesWhatItSays) {
     EXPECT_THAT(pageOf(selected(smallLandscape())),
                 HasSubstr("No eligible species covers two of the units below"));
     EXPECT_THAT(pageOf(twoRings()),
-                HasSubstr("Every suite of fewer than six species was ruled out by a search"));
+                HasSubstr("Every suite of fewer than six species was ruled out, in groups"));
 }
 
-TEST(ReportPage, NamesTheLevelsThatLeaveLeast) {
-    EXPECT_THAT(
-        pageOf(selected(fullLandscape())),
-        HasSubstr(
-            "Of the 110 pairs 10 leave no unit uncovered; the smallest suite of these has eight species, "
-            "at threat representation 0.3 and conservation status 1."));
+TEST(ReportPage, NamesTheNearestLevelsThatLeaveNothing) {
+    EXPECT_THAT(pageOf(selected(fullLandscape()), {"p.brn", Hash, "1.2", fullLandscape().Answers}),
+                HasSubstr("Nearest to the levels of this report: threat representation 0.4, conservation "
+                          "status 1, where the run has nine species and the smallest suite eight."));
     EXPECT_THAT(pageOf(twoSpecies().set("HeteroHabitat Population", "2,1,1,1")),
-                HasSubstr(" leave one unit uncovered, none fewer;"));
+                HasSubstr("At no pair of these levels is every unit covered"));
+}
+
+TEST(ReportPage, SaysThatDefaultsWereFilledIn) {
+    const SelectionRun run = selected(example("version1_landscape.brn"));
+    ReportOrigin origin{"p.brn", Hash, "1.2"};
+    EXPECT_THAT(pageOf(run, origin), HasSubstr("All grades are taken as they were entered."));
+    origin.HasDefaults = true;
+    const std::string page = pageOf(run, origin);
+    EXPECT_THAT(page, HasSubstr("class=\"warning\""));
+    EXPECT_THAT(page, Not(HasSubstr("All grades are taken as they were entered.")));
+    EXPECT_THAT(page, HasSubstr("runs selected no species, as where none is eligible; shares of species"));
+}
+
+TEST(ReportPage, BearsTheGivenTitleAuthorAndDate) {
+    const SelectionRun run = selected(smallLandscape());
+    ReportOrigin origin{"p.brn", Hash, "1.2"};
+    EXPECT_THAT(pageOf(run, origin), Not(HasSubstr("class=\"byline\"")));
+    origin.Title = "Aldermere";
+    origin.Author = "A. Planner";
+    origin.Date = "2026-11-22";
+    const std::string page = pageOf(run, origin);
+    EXPECT_THAT(page, HasSubstr("<h1><bdi>Aldermere</bdi></h1>"));
+    EXPECT_THAT(page, HasSubstr("<bdi>A. Planner</bdi>, <bdi>2026-11-22</bdi>"));
+    EXPECT_THAT(page, HasSubstr("--title='Aldermere' --author='A. Planner' --date='2026-11-22' --out"));
+}
+
+TEST(ReportPage, SaysWhereTheSameNumbersAreSure) {
+    const SelectionRun run = selected(fullLandscape());
+    EXPECT_THAT(pageOf(run, {"p.brn", Hash, "1.2", {}, {.Nodes = 5000}}), HasSubstr(", on every machine."));
+    EXPECT_THAT(pageOf(run, {"p.brn", Hash, "1.2", {}, {.Seconds = 60}}), HasSubstr("; here they did."));
+}
+
+TEST(ReportPage, ClaimsNothingOfSuitesThatALimitedSearchDidNotLookFor) {
+    const SelectionRun run = selected(fullLandscape());
+    const std::string page = pageOf(run, {"p.brn", Hash, "1.2", {}, {.Nodes = 1}}, {.Nodes = 1});
+    EXPECT_THAT(page, Not(HasSubstr("There are more suites")));
+    EXPECT_THAT(page,
+                HasSubstr("whether there are more, and whether another has a higher total, is not settled"));
 }
 
 TEST(ReportPage, TellsOfWorkThatWasStopped) {
@@ -137,7 +175,7 @@ TEST(ReportPage, TellsOfWorkThatWasStopped) {
     EXPECT_THAT(page, HasSubstr("It was stopped after 0 runs."));
     EXPECT_THAT(page, HasSubstr("Not all is proven"));
     EXPECT_THAT(page, HasSubstr("The search ended before the size was settled: it lies between "));
-    EXPECT_THAT(page, Not(HasSubstr("no smaller suite exists")));
+    EXPECT_THAT(page, Not(HasSubstr("no fewer cover as much")));
 }
 
 TEST(ReportFindings, TellHowFarTheyCame) {
@@ -149,19 +187,31 @@ TEST(ReportFindings, TellHowFarTheyCame) {
     EXPECT_FALSE(findings.Stopped);
 }
 
-TEST(OpenUnits, SayWhatWouldHelp) {
+TEST(OpenUnits, SayWhyAndWhichChangeHelps) {
     const SelectionRun run = selected(fullLandscape());
-    const std::string table = tabSeparated(openUnitTable(ReportFindings(run, {}, {})));
-    EXPECT_THAT(
-        table,
-        HasSubstr(
-            "Farm mosaic\tuncoverable\t0\t3\t2\tOnly excluded species reach it: Crab-eating "
-            "Fox.\t\tA conservation status level of 0.95 would admit Crab-eating Fox. A needed level of 2 "
-            "would be reached.\n"));
-    EXPECT_THAT(table, HasSubstr("A threat representation of 0.33 would be reached.\n"));
+    const std::string table =
+        tabSeparated(openUnitTable(ReportFindings(run, marginAnswers(fullLandscape().Answers), {})));
+    EXPECT_THAT(table, HasSubstr("Farm mosaic\tuncoverable\t0\t3\t2\tOnly excluded species reach it: "
+                                 "Crab-eating Fox.\t\tChange 1 or 2, below.\n"));
+    EXPECT_THAT(table,
+                HasSubstr("It counts all the same for what is needed: 12.96 is 0.4 × 32.4, the score of "
+                          "Crab-eating Fox; by the eligible species alone it would be 4.32.\t\tChange 1 "
+                          "or 3, below.\n"));
 }
 
-TEST(OpenUnits, FindTheHighestRepresentationThatIsReached) {
+TEST(OpenUnits, TellWhichAnswersMadeTheRunMiss) {
+    RunOptions options = example("missed_unit.brn");
+    options.ErrorMargin = "30";
+    options.Answers = {"c", "c", "c"};
+    const SelectionRun run = selected(options);
+    const ReportFindings findings(run, marginAnswers(options.Answers), {});
+    EXPECT_THAT(
+        tabSeparated(openUnitTable(findings)),
+        HasSubstr("The run ended while Wood Sandpiper and Silver-spotted Skipper could still have covered "
+                  "it: answers took what had been omitted before (Golden Plover and Purple Heron)"));
+}
+
+TEST(Remedies, FindTheHighestRepresentationThatIsReached) {
     EXPECT_EQ(representationFor(10.8, 32.4), 0.33);
     EXPECT_EQ(representationFor(16.2, 32.4), 0.5);
     EXPECT_EQ(representationFor(0.1, 32.4), std::nullopt) << "less than a hundredth";

@@ -63,6 +63,21 @@ class ReportsInTheBrowser(unittest.TestCase):
         self.open("small_landscape", 800, dark=True)
         self.assertNotEqual(self.browser.evaluate(ground), light)
 
+    def testLongTablesFoldOnTheScreenAlone(self):
+        rows = ("[...document.querySelectorAll('#candidates tbody tr')]"
+                ".filter((row) => row.getClientRects().length > 0).length")
+        self.open("full_landscape", 800)
+        self.assertEqual(self.browser.evaluate(rows), 10)
+        self.browser.evaluate("document.querySelector('#candidates input').click()")
+        self.assertEqual(self.browser.evaluate(rows), 25)
+        self.browser.open(self.pages["full_landscape"], 680, media="print")
+        self.assertEqual(self.browser.evaluate(rows), 25)
+
+    def testFiguresAreWholeOnANarrowScreen(self):
+        self.open("full_landscape", 800)
+        boxes = "[...document.querySelectorAll('figure .scroll')].map((box) => box.scrollWidth - box.clientWidth)"
+        self.assertEqual(set(self.browser.evaluate(boxes)), {0})
+
     def testPrintsOnA4(self):
         for name in self.pages:
             with self.subTest(page=name):

@@ -105,7 +105,7 @@ class Reports(unittest.TestCase):
     @ofEachProject
     def testUnitsAreThoseOfTheVerb(self, page, project, options):
         columns = {"Kind": "kind", "No.": "number", "Unit": "unit", "State": "state", "Needed": "needed", "Best": "best",
-                   "Species that cover it": "species", "Covered first by no.": "covered_by"}
+                   "Eligible species cover it": "species", "First covered by no.": "covered_by"}
         units = pages.table("units", project, options)
         self.compare(page.table("Habitats, zones and threats"), units, columns)
         openUnits = [unit for unit in units if unit["state"] != "covered"]
@@ -114,17 +114,45 @@ class Reports(unittest.TestCase):
                          {"Unit": "unit", "Kind": "kind", "State": "state", "Needed": "needed", "Best": "best"})
 
     @ofEachProject
+    def testUnitsNameWhoCoversThem(self, page, project, options):
+        rows = page.table("Habitats, zones and threats")
+        names = {row["Species"] for row in page.table("All candidates")}
+        for row in rows:
+            listed = row["Namely"].split(", ") if row["Namely"] else []
+            if page is not self.pages["large"] and page is not self.pages["strange_names"]:
+                self.assertEqual(len(listed), int(row["Eligible species cover it"]))
+                self.assertLessEqual(set(listed), names)
+            self.assertLessEqual(int(row["Of the suite cover it"]), int(row["Eligible species cover it"]))
+        hanging = sum(row["Of the suite cover it"] == "1" for row in rows)
+        figures = {item.findtext("dt"): item.findtext("dd") for item in page.root.find(".//dl")}
+        self.assertEqual(figures["covered by one species alone"], str(hanging))
+
+    @ofEachProject
     def testSpeciesAreThoseOfTheVerb(self, page, project, options):
-        columns = {"No.": "number", "Species": "species", "Rank": "rank", "Place in the suite": "pick",
-                   "Class": "class", "Cost": "cost", "Rarity": "rarity", "Only one for": "only_for"}
-        losses = {"Place": "pick", "Without": "species", "Lost": "lost", "Units lost": "lost_units",
-                  "Would make up for it alone": "substitutes"}
+        columns = {"No.": "number", "Species": "species", "Place in the suite": "pick", "Class": "class", "Rarity": "rarity"}
+        losses = {"Place": "pick", "Without": "species", "Lost": "lost", "Units lost": "lost_units"}
         species = pages.table("species", project, [*options, *pages.LIMITS])
+        rows = page.table("All candidates")
         if page is not self.pages["large"]:
-            self.compare(page.table("All candidates"), species, {**columns, "Share": "share"})
+            self.compare(rows, species, columns)
+            for row, other in zip(rows, species):
+                self.assertEqual(row["Cost"], "irreplaceable" if other["cost"] == "inf" else other["cost"])
+                onlyFor = re.sub(r" \(excluded, but would: [^)]*\)", "", row["Only one for"])
+                self.assertEqual(onlyFor, shown(other["only_for"]))
+                self.assertEqual(row["Share"] == "", other["share"] == "")
+                if row["Share"]:
+                    held, of = (int(number.replace(",", "")) for number in row["Share"].split(" of "))
+                    self.assertAlmostEqual(held / of, float(other["share"]), delta=0.00006)
+        ranks = {row["Species"]: row["Rank"] for row in page.table("Candidates by rank")}
+        self.assertEqual(ranks, {shown(row["species"]): row["rank"] for row in species})
         picked = sorted((row for row in species if row["pick"]), key=lambda row: int(row["pick"]))
-        if picked:
-            self.compare(page.table("The suite without one species"), picked, losses)
+        if not picked:
+            return
+        rows = page.table("The suite without one species")
+        self.compare(rows, picked, losses)
+        for row, other in zip(rows, picked):
+            none = "nobody alone" if row["Lost"] != "0" else "nothing is lost"
+            self.assertEqual(row["Would make up for it alone"], shown(other["substitutes"]) or none)
 
     @ofEachProject
     def testSuitesAreThoseOfTheVerb(self, page, project, options):
@@ -132,13 +160,22 @@ class Reports(unittest.TestCase):
         if page is self.pages["nobody_admitted"]:
             self.assertEqual(suites[0]["size"], "0")
             return
-        rows = page.table("Suites of the smallest size")
-        self.compare(rows, suites, {"No.": "suite", "Size": "size", "Total": "total"})
-        everywhere = set.intersection(*(set(shown(suite["species"]).split("; ")) for suite in suites))
+        rows = page.table("Suites of the smallest size, against that of the run")
+        self.compare(rows, suites, {"No.": "suite", "Total": "total"})
+        own = {row["Species"] for row in page.table("The suite in the order of selection")}
         for row, suite in zip(rows, suites):
-            rest = set(row["Besides those in all"].split("; ")) - {""}
-            self.assertLessEqual(rest, set(shown(suite["species"]).split("; ")))
-            self.assertLessEqual(set(shown(suite["species"]).split("; ")) - rest, everywhere)
+            comesIn, goesOut = ({*row[heading].split("; ")} - {""} for heading in ("Comes in", "Goes out"))
+            self.assertEqual((own - goesOut) | comesIn, set(shown(suite["species"]).split("; ")))
+
+    @ofEachProject
+    def testASuiteWithoutASpeciesIsOneThatDoesWithoutIt(self, page, project, options):
+        if page is self.pages["nobody_admitted"]:
+            return
+        suites = {f"no. {row['No.']}": row for row in page.table("Suites of the smallest size, against that of the run")}
+        for row in page.table("The suite without one species"):
+            suite = suites.get(row["As small a suite without it"])
+            if suite:
+                self.assertIn(row["Without"], suite["Goes out"].split("; "))
 
     @ofEachProject
     def testTheMinimumIsThatOfTheVerb(self, page, project, options):
@@ -152,22 +189,61 @@ class Reports(unittest.TestCase):
             self.assertIn(shown(re.sub("^[0-9]+ ", "", part) if minimum["proof"] == "weights" else part),
                           page.text())
 
-    def testFrequenciesAreThoseOfTheVerb(self):
+    def assertShare(self, text, row):
+        """A share and its interval, in whole percent, against those of the verb."""
+        if not text.startswith(("<", ">")):
+            numbers = [float(row[column]) for column in ("frequency", "low", "high")]
+            for shownNumber, number in zip(re.findall("[0-9]+", text), numbers):
+                self.assertLessEqual(abs(int(shownNumber) - 100 * number), 0.51, (text, row))
+        self.assertEqual(text == "0 %" or text.startswith("0 % "), row["count"] == "0")
+        self.assertEqual(text == "100 %" or text.startswith("100 % "), row["count"] == row["runs"])
+
+    def testSharesAreThoseOfTheVerb(self):
         for name in ("small_landscape", "full_landscape", "missed_unit"):
             project, options = self.projects[name]
-            selected = self.pages[name].table("Share of the runs that select each species")
+            page = self.pages[name]
             for what in ("levels", "answers", "grades"):
                 rows = pages.table("sweep", project, [*options, "--vary", what])
-                heading = what.capitalize()
-                self.compare(selected, [row for row in rows if row["what"] == "species"],
-                             {"No.": "number", "Species": "name", heading: "frequency", f"{heading}, low": "low",
-                              f"{heading}, high": "high"})
-                uncovered = {(row["kind"], row["name"]): row for row in rows if row["what"] == "uncovered"}
-                for row in self.pages[name].table("Share of the runs that leave a unit uncovered"):
-                    self.assertEqual(row[heading], uncovered[row["Kind"], row["Unit"]]["frequency"])
-                sizes = {row["name"]: row["frequency"] for row in rows if row["what"] == "size"}
-                for row in self.pages[name].table("Share of the runs by size of the suite"):
-                    self.assertEqual(row[heading], sizes.get(row["Species in the suite"], "0.0000"))
+                of = {kind: {(row["kind"], row["name"]): row for row in rows if row["what"] == kind}
+                      for kind in ("species", "uncovered", "missed", "size")}
+                heading = f"Other {what}"
+                for row in page.table("Share of the runs that select each species"):
+                    counted = of["species"]["", row["Species"]]
+                    if row[heading] or what == "levels":
+                        self.assertShare(row[heading], counted)
+                    else:
+                        self.assertEqual(counted["count"], "0")
+                for row in page.table("Share of the runs that leave a unit uncovered"):
+                    unit = row["Kind"], row["Unit"]
+                    self.assertShare(row[heading], of["uncovered"][unit])
+                    self.assertShare(row[f"{heading}: missed"], of["missed"][unit])
+                for row in page.table("Share of the runs by size of the suite"):
+                    size = "", row["Species in the suite"]
+                    if size in of["size"]:
+                        self.assertShare(row[heading], of["size"][size])
+                    else:
+                        self.assertTrue(row[heading].startswith("0 %"))
+
+    def testRemediesAreRunsOfTheirOwn(self):
+        project, options = self.projects["full_landscape"]
+        rows = self.pages["full_landscape"].table("Changes and what they come to")
+        changes = [["--conservation-status", "0.95"], None, ["--threat-representation", "0.33"]]
+        for row, change in zip(rows, changes, strict=True):
+            if change is None:
+                continue
+            place = options.index(change[0])
+            changed = [*options[:place], *change, *options[place + 2:]]
+            minimum = {line["measure"]: line["value"] for line in pages.table("minimum", project, changed)}
+            units = pages.table("units", project, changed)
+            self.assertEqual(row["Species selected"], minimum["greedy_size"])
+            self.assertEqual(row["Smallest suite"], minimum["upper"])
+            openUnits = [unit["unit"] for unit in units if unit["state"] != "covered"]
+            self.assertEqual(row["Open then"], "; ".join(openUnits) or "nothing")
+
+    def testAProjectOfVersion1HasAWarningBelowTheVerdict(self):
+        for name, page in self.pages.items():
+            warnings = [item for item in page.root.iter("p") if item.get("class") == "warning"]
+            self.assertEqual(len(warnings), 1 if name == "version1_landscape" else 0, name)
 
     def testTheRunIsInTheMiddleOfTheLevels(self):
         project, options = self.projects["full_landscape"]
@@ -199,7 +275,7 @@ class InterruptedReport(unittest.TestCase):
             self.assertIn("brenica-batch: stopped: what is known so far is on the page\n", notes)
             text = Page(page).text()
             self.assertIn("The work was stopped before its end", text)
-            self.assertNotIn("no smaller suite exists", text)
+            self.assertNotIn("no fewer cover as much", text)
 
 
 if __name__ == "__main__":

@@ -61,6 +61,7 @@ insight::ReportOrigin originOf(const SelectionAside& aside, const QString& proje
     origin.Project = utf8(report_words::projectName(project));
     origin.IsSaved = aside.IsSaved;
     if (aside.IsSaved) origin.Hash = hashOf(saved);
+    origin.HasDefaults = aside.HasDefaults;
     origin.Program = BRENICA_VERSION;
     origin.Answers = aside.Run->Outcome.Answers;
     origin.Limits.Seconds = insight::UsualSeconds;

@@ -31,7 +31,7 @@ std::size_t tickStep(std::size_t most) {
 class CoverageDrawing {
 public:
     CoverageDrawing(const ReportFindings& found, const CoverageCurve& curve)
-        : found_(found), curve_(curve), species_(curve.size() - 1), units_(found.Index.units()) {}
+        : curve_(curve), species_(curve.size() - 1), units_(found.Index.units()) {}
 
     Markup draw() {
         axes();
@@ -51,11 +51,11 @@ private:
         return Left + Width * static_cast<double>(species) / static_cast<double>(species_);
     }
     double y(std::size_t units) const {
-        return Top + Height - Height * static_cast<double>(units) / static_cast<double>(units_);
+        return Top + Height - Height * static_cast<double>(units) / static_cast<double>(top());
     }
 
     void axes() {
-        for (std::size_t u = 0; u <= units_; u += tickStep(units_)) {
+        for (std::size_t u = 0; u <= top(); u += tickStep(units_)) {
             content_ += svg::line(u == 0 ? "axis" : "grid", Left, y(u), Left + Width, y(u));
             content_ += svg::text("tick", Left - 8, y(u) + 4, Anchor::End, std::to_string(u));
         }
@@ -96,7 +96,12 @@ private:
                               std::to_string(units_) + " units can be covered");
     }
 
-    const ReportFindings& found_;
+    /// The axis ends at a tick, at or above the last point.
+    std::size_t top() const {
+        const std::size_t step = tickStep(units_);
+        return (units_ + step - 1) / step * step;
+    }
+
     const CoverageCurve& curve_;
     std::size_t species_;
     std::size_t units_;

@@ -62,10 +62,13 @@ ResultTable coverageTable(const ReportFindings& findings) {
 }
 
 ResultTable pickTable(const ReportFindings& findings) {
-    ResultTable table = {{"pick", "species", "habitats", "zones", "threats"}, {}};
+    ResultTable table = {{"pick", "species", "rank", "aggregate", "habitats", "zones", "threats"}, {}};
     const std::vector<method::Pick>& picks = findings.Run.Outcome.Suite.Picks;
     for (std::size_t i = 0; i < picks.size(); ++i) {
-        std::vector<Cell> row = {numberCell(i + 1), findings.Run.Species[picks[i].Species]};
+        const std::size_t s = picks[i].Species;
+        const std::optional<double>& aggregate = findings.Watched.Fates[s].Aggregate;
+        std::vector<Cell> row = {numberCell(i + 1), findings.Run.Species[s],
+                                 std::int64_t{findings.Run.Ranks[s]}, aggregate ? Cell(*aggregate) : Cell()};
         for (const method::Unit kind : method::UnitKinds) row.emplace_back(firstCoveredBy(findings, i, kind));
         table.Rows.push_back(std::move(row));
     }

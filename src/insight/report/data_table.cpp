@@ -11,11 +11,6 @@ namespace insight {
 
 namespace {
 
-std::size_t placeOf(const ResultTable& table, std::string_view key) {
-    return static_cast<std::size_t>(std::find(table.Columns.begin(), table.Columns.end(), key) -
-                                    table.Columns.begin());
-}
-
 Markup contentOf(const Cell& cell, ColumnKind kind) {
     const auto* text = std::get_if<std::string>(&cell);
     if (text && kind == ColumnKind::Name) return nameMarkup(*text);
@@ -48,11 +43,19 @@ Markup headingRow(std::span<const ShownColumn> columns) {
     return element("thead", element("tr", cells));
 }
 
+/// Shows the rest of a long table; it works without a script.
+Markup switchForRest(std::size_t rows) {
+    if (rows <= MostRows) return {};
+    return element(
+        "label", {{"class", "rest"}},
+        voidElement("input", {{"type", "checkbox"}}) + escaped(" all " + withThousands(rows) + " rows"));
+}
+
 }  // namespace
 
 Markup dataTable(std::string_view caption, const ResultTable& table, std::span<const ShownColumn> columns) {
     std::vector<std::size_t> places;
-    for (const ShownColumn& column : columns) places.push_back(placeOf(table, column.Key));
+    for (const ShownColumn& column : columns) places.push_back(columnOf(table, column.Key));
     const std::size_t head = headOf(columns);
     Markup rows;
     for (const std::vector<Cell>& row : table.Rows) {
@@ -66,7 +69,8 @@ Markup dataTable(std::string_view caption, const ResultTable& table, std::span<c
         rows += element("tr", cells);
     }
     const Markup body = headingRow(columns) + element("tbody", rows);
-    return scrollBox(caption, element("table", element("caption", caption) + body));
+    return switchForRest(table.Rows.size()) +
+           scrollBox(caption, element("table", element("caption", caption) + body));
 }
 
 Markup scrollBox(std::string_view label, const Markup& content) {

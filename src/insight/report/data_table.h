@@ -21,8 +21,11 @@ struct ShownColumn {
 };
 
 /// The cells as the verbs print them, names cut where they are very long. The first column of names heads its row, or the
-/// first of all.
+/// first of all. On a screen a long table shows its first rows, and all when it is asked to; on paper it is whole.
 Markup dataTable(std::string_view caption, const ResultTable& table, std::span<const ShownColumn> columns);
+
+/// Longer tables show their first ten rows (see the style sheet).
+inline constexpr std::size_t MostRows = 12;
 
 /// A box that scrolls sideways by itself where its content is wider than the page; `label` names it.
 Markup scrollBox(std::string_view label, const Markup& content);

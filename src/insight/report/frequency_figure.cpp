@@ -13,9 +13,9 @@ namespace {
 
 using svg::Anchor;
 
-constexpr double NameRoom = 180;
-constexpr double PanelWidth = 150;
-constexpr double PanelGap = 56;
+constexpr double NameRoom = 200;
+constexpr double PanelWidth = 140;
+constexpr double PanelGap = 44;
 constexpr double Top = 44;
 constexpr double RowHeight = 19;
 constexpr double Radius = 4;
@@ -23,8 +23,8 @@ constexpr std::size_t MostRows = 40;
 constexpr double Rare = 0.01;
 
 double share(const ReportSweep& sweep, std::size_t species) {
-    if (sweep.Counts.Runs == 0) return 0;
-    return static_cast<double>(sweep.Counts.Species[species]) / static_cast<double>(sweep.Counts.Runs);
+    if (sweep.runsWithSuite() == 0) return 0;
+    return static_cast<double>(sweep.Counts.Species[species]) / static_cast<double>(sweep.runsWithSuite());
 }
 
 /// The suite in its order, then the others by how often they stand in for one of it.
@@ -65,9 +65,10 @@ Markup panel(const ReportSweep& sweep, std::size_t place, double bottom) {
 
 Markup mark(const ReportFindings& found, const ReportSweep& sweep, std::size_t place, std::size_t species,
             double y) {
-    if (sweep.Counts.Runs == 0) return {};
+    const bool mayBe = found.Units.eligible(species) || sweep.Settings.Vary.Levels;
+    if (sweep.runsWithSuite() == 0 || !mayBe) return {};
     const double x = panelX(place);
-    const Interval interval = wilsonInterval(sweep.Counts.Species[species], sweep.Counts.Runs);
+    const Interval interval = wilsonInterval(sweep.Counts.Species[species], sweep.runsWithSuite());
     const char* look = found.placeOf(species) ? "run" : "best";
     return svg::line("interval", x + PanelWidth * interval.Low, y, x + PanelWidth * interval.High, y) +
            svg::circle(look, x + PanelWidth * share(sweep, species), y, Radius);
@@ -98,7 +99,8 @@ Markup frequencyFigure(const ReportFindings& findings) {
             "Dots: species of the suite, in the order of selection. Rings: others that were selected in at "
             "least 1 % of the runs of a column, " +
             std::to_string(MostRows) +
-            " rows at most; the table has all. A bar is the 95 % interval where it is wider than its mark."));
+            " rows at most; the table has all. A bar is the 95 % interval where it is wider than its mark. "
+            "Species that none of the runs admits have no mark."));
 }
 
 }  // namespace insight

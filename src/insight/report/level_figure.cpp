@@ -19,6 +19,11 @@ constexpr double CellWidth = 50;
 constexpr double CellHeight = 38;
 constexpr std::array Shades = {"heat0", "heat1", "heat2", "heat3", "heat4", "heat5"};
 
+constexpr std::array LegendTexts = {"none", "to 5 %", "to 10 %", "to 20 %", "to 50 %", "more"};
+constexpr double LegendStep = 78;
+constexpr double LegendSwatch = 14;
+constexpr double LegendHeight = 34;
+
 /// The share of units not covered, in percent, up to which each shade goes: finer where little is missing.
 constexpr std::array Percents = {0, 5, 10, 20, 50, 100};
 
@@ -39,11 +44,12 @@ public:
             for (std::size_t column = 0; column < grid_.Representations.size(); ++column) cell(row, column);
         }
         ownCell();
+        legend();
         return svg::drawing(
             {"level-drawing", "The suite at other levels",
              "A row for each conservation status, a column for each threat representation; in each cell "
              "the species of the suite and the units not covered. The tables below say the same."},
-            x(grid_.Representations.size()) + 4, y(grid_.Runs.size()) + 4, content_);
+            x(grid_.Representations.size()) + 4, y(grid_.Runs.size()) + LegendHeight, content_);
     }
 
 private:
@@ -77,6 +83,18 @@ private:
             svg::text(small, middle, y(row) + 31, Anchor::Middle, std::to_string(run.Uncovered) + " open");
     }
 
+    /// What the shades stand for.
+    void legend() {
+        const double top = y(grid_.Runs.size()) + 14;
+        content_ += svg::text("tick", 0, top + 11, Anchor::Start, "units left open");
+        double at = Left;
+        for (std::size_t shade = 0; shade < Shades.size(); ++shade) {
+            content_ += svg::rectangle(Shades[shade], {at, top, LegendSwatch, LegendSwatch}) +
+                        svg::text("tick", at + LegendSwatch + 5, top + 11, Anchor::Start, LegendTexts[shade]);
+            at += LegendStep;
+        }
+    }
+
     /// The cell of the run itself.
     void ownCell() {
         const auto column = std::find(grid_.Representations.begin(), grid_.Representations.end(),
@@ -101,10 +119,10 @@ Markup levelFigure(const ReportFindings& findings) {
     return figure(
         "The suite at other levels", LevelDrawing(findings).draw(),
         escaped(
-            "In each cell above the species of the suite that a run at these levels selects, below the "
-            "units that it leaves uncovered: none, up to 5, 10, 20 and 50 % of all, or more, by shade. The "
-            "frame marks the levels of this report. “!” marks a run that ended in an error, with its suite "
-            "so far. Where no eligible species is left there is no row."));
+            "In each cell stand above the species of the suite that a run at these levels selects, and below the "
+            "units that it leaves uncovered; the shade tells their share of all units. The frame marks the levels "
+            "of this report. “!” marks a run that ended early, as a rule since none of the species left added "
+            "a unit. Where no species is eligible there is no row."));
 }
 
 }  // namespace insight

@@ -3,11 +3,10 @@
 #include "insight/report/level_grid.h"
 
 #include <algorithm>
+#include <cmath>
+#include <tuple>
 
-#include "method/assessment.h"
-#include "method/coverage.h"
-#include "method/failure.h"
-#include "method/selection.h"
+#include "insight/report/rerun.h"
 
 namespace insight {
 
@@ -28,32 +27,35 @@ std::size_t admitted(const SelectionRun& run, double status) {
     return static_cast<std::size_t>(std::count(eligible.begin(), eligible.end(), true));
 }
 
-std::size_t uncovered(const method::Suite& suite) {
-    std::size_t units = 0;
-    for (const method::Unit kind : method::UnitKinds) {
-        const std::vector<int>& coveredBy = suite.CoveredBy[kind];
-        units += static_cast<std::size_t>(std::count(coveredBy.begin(), coveredBy.end(), 0));
-    }
-    return units;
-}
-
-LevelRun runAt(method::Selection& selection, const method::Levels& levels,
-               const std::vector<method::Answer>& answers) {
-    bool failed = false;
-    try {
-        selection.start(levels);
-        method::ScriptedAnswers chooser(answers);
-        selection.run(chooser);
-    } catch (const method::Failure&) {
-        failed = true;
-    }
-    const method::Suite& suite = selection.suite();
-    return {suite.Picks.size(), uncovered(suite), failed};
+LevelRun runAt(Rerun& rerun, const method::Levels& levels, const std::vector<method::Answer>& answers) {
+    method::ScriptedAnswers chooser(answers);
+    const method::Suite& suite = rerun.select(levels, chooser);
+    return {suite.Picks.size(), uncoveredUnits(suite), rerun.failed()};
 }
 
 bool isWanted(const std::atomic<bool>* stop) { return stop && *stop; }
 
 }  // namespace
+
+std::optional<LevelPair> nearestCovering(const LevelGrid& grid, const method::Levels& own) {
+    using Nearness = std::tuple<double, double>;
+    std::optional<LevelPair> nearest;
+    Nearness least;
+    for (std::size_t row = 0; row < grid.Runs.size(); ++row) {
+        for (std::size_t column = 0; column < grid.Representations.size(); ++column) {
+            const double fromRepresentation =
+                std::abs(grid.Representations[column] - own.ThreatRepresentation);
+            const double distance =
+                fromRepresentation + std::abs(grid.Statuses[row] - own.ConservationStatus);
+            const Nearness nearness = {std::round(distance * 1000), fromRepresentation};
+            const bool isLeft = grid.Runs[row][column].Uncovered > 0 || grid.Representations[column] == 0;
+            if (isLeft || (nearest && nearness >= least)) continue;
+            nearest = LevelPair{row, column};
+            least = nearness;
+        }
+    }
+    return nearest;
+}
 
 LevelGrid levelGrid(const SelectionRun& run, const std::vector<method::Answer>& answers,
                     const std::atomic<bool>* stop) {
@@ -63,15 +65,12 @@ LevelGrid levelGrid(const SelectionRun& run, const std::vector<method::Answer>& 
     std::reverse(grid.Statuses.begin(), grid.Statuses.end());
     std::erase_if(grid.Statuses, [&](double status) { return admitted(run, status) == 0; });
     for (const double status : grid.Statuses) grid.Admitted.push_back(admitted(run, status));
-    method::Assessment assessment;
-    method::assess(run.Landscape, assessment);
-    method::Selection selection;
-    selection.load(run.Landscape, assessment);
+    Rerun rerun(run.Landscape);
     for (const double status : grid.Statuses) {
         std::vector<LevelRun> runs;
         for (const double representation : grid.Representations) {
             if (isWanted(stop)) return grid;
-            runs.push_back(runAt(selection, {run.Levels.Margin, representation, status}, answers));
+            runs.push_back(runAt(rerun, {run.Levels.Margin, representation, status}, answers));
         }
         grid.Runs.push_back(std::move(runs));
     }

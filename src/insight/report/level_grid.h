@@ -3,6 +3,7 @@
 #pragma once
 
 #include <atomic>
+#include <optional>
 #include <vector>
 
 #include "method/margin.h"
@@ -26,6 +27,17 @@ struct LevelGrid {
 
     bool isComplete() const { return Runs.size() == Statuses.size(); }
 };
+
+/// A place in the grid.
+struct LevelPair {
+    std::size_t Status;
+    std::size_t Representation;
+};
+
+/// The pair of levels nearest to `own` among those that leave no unit uncovered; of equally near ones the one that keeps
+/// more of threat representation. None where there is none. At a threat representation of 0 any species covers each
+/// threat, so that it does not count.
+std::optional<LevelPair> nearestCovering(const LevelGrid& grid, const method::Levels& own);
 
 /// One selection for each pair of levels, at the run's margin of error. Each takes `answers` in order, then the defaults.
 /// `stop` may be null. REQUIRES: a run that came as far as its selection.

@@ -69,9 +69,9 @@ Markup element(const char* name, std::initializer_list<Attribute> attributes, st
 
 Markup element(const char* name, std::string_view text) { return element(name, {}, escaped(text)); }
 
-Markup meta(std::initializer_list<Attribute> attributes) {
+Markup voidElement(const char* name, std::initializer_list<Attribute> attributes) {
     // HTML takes the slash for nothing, XML for the end of the element.
-    Markup tag = startTag("meta", attributes);
+    Markup tag = startTag(name, attributes);
     tag.text_.insert(tag.text_.size() - 1, "/");
     return tag;
 }

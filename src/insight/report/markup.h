@@ -23,7 +23,7 @@ private:
     friend Markup escaped(std::string_view text);
     friend Markup styleSheet(std::string_view css);
     friend Markup document(const Markup& root);
-    friend Markup meta(std::initializer_list<struct Attribute> attributes);
+    friend Markup voidElement(const char* name, std::initializer_list<struct Attribute> attributes);
     friend Markup startTag(const char* name, std::initializer_list<struct Attribute> attributes);
     friend Markup endTag(const char* name);
 
@@ -45,8 +45,8 @@ Markup element(const char* name, const Markup& content);
 /// With text in it.
 Markup element(const char* name, std::initializer_list<Attribute> attributes, std::string_view text);
 Markup element(const char* name, std::string_view text);
-/// A meta element, which has no end tag.
-Markup meta(std::initializer_list<Attribute> attributes);
+/// An element that has no end tag, as a meta element.
+Markup voidElement(const char* name, std::initializer_list<Attribute> attributes);
 
 /// REQUIRES: neither "<" nor "&" in it
 Markup styleSheet(std::string_view css);

@@ -16,9 +16,9 @@ namespace {
 using svg::Anchor;
 
 constexpr double CellSize = 20;
-constexpr double NameRoom = 210;
+constexpr double NameRoom = 230;
 constexpr double NoteRoom = 90;
-constexpr double SpeciesRoom = 130;
+constexpr double SpeciesRoom = 170;
 constexpr std::size_t RowsOfPart = 40;
 constexpr std::size_t RowsOfDrawing = 44;  // as many as a page has room for
 constexpr std::array KindHeadings = {"Habitats", "Zones", "Threats"};
@@ -75,7 +75,7 @@ public:
             }
             y += CellSize;
         }
-        const double width = std::max(right(), columnX(picks_.size()) + riseOf() * 0.85) + 4;
+        const double width = std::max(right(), columnX(picks_.size()) + riseOf() * 0.85 + 10) + 4;
         return svg::drawing(title, width, y + 4, content_);
     }
 

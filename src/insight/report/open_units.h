@@ -10,8 +10,9 @@ namespace insight {
 /// Units that the run leaves uncovered, for who would change that. Columns unit, kind, state, needed, best, reason, help.
 ResultTable openUnitTable(const ReportFindings& findings);
 
-/// The highest threat representation, to 2 decimals, at which a species with this score covers the threat; none where
-/// only 0 would do.
-std::optional<double> representationFor(double score, double highest);
+/// The changes that were tried, numbered. Columns number, change, species, open, smallest, in, out.
+ResultTable remedyTable(const ReportFindings& findings);
+/// What the change is: "conservation status 0.95".
+std::string changeInWords(const ReportFindings& findings, const Change& change);
 
 }  // namespace insight

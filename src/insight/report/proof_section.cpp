@@ -16,9 +16,11 @@ std::string fewest(const ReportFindings& found) {
     return countedInWords(found.Minimum.Known.Lower, "species", "species");
 }
 
-/// Where there are many the first few.
-std::string coveringSpecies(const ReportFindings& found, std::size_t unit) {
-    return Sentence().names(speciesNames(found.Run, found.Index, found.Index.speciesList(unit))).text();
+std::string speciesCovering(const ReportFindings& found, std::size_t unit) {
+    std::vector<std::size_t> species;
+    for (const std::uint32_t row : found.Index.speciesList(unit))
+        species.push_back(found.Problem.Species[row]);
+    return coveringInWords(found, species);
 }
 
 Markup witnessProof(const ReportFindings& found) {
@@ -27,11 +29,11 @@ Markup witnessProof(const ReportFindings& found) {
         ShownColumn{"species", "Eligible species that cover it", ColumnKind::Text}};
     ResultTable table = {{"unit", "species"}, {}};
     for (const std::uint32_t unit : found.Minimum.Witness)
-        table.Rows.push_back({unitName(found.Run, found.Index, unit), coveringSpecies(found, unit)});
+        table.Rows.push_back({unitName(found.Run, found.Index, unit), speciesCovering(found, unit)});
     return paragraph(
                "No eligible species covers two of the units below, so that each of them wants a species of "
                "its own: " +
-               fewest(found) + " at least. Each line can be checked with the grades.") +
+               fewest(found) + " at least. Each line can be checked in the table of all units.") +
            dataTable("Units no two of which share an eligible species", table, Columns);
 }
 
@@ -53,7 +55,7 @@ Markup weightProof(const ReportFindings& found) {
     for (std::size_t u = 0; u < weights.size(); ++u) {
         if (weights[u] > 0)
             table.Rows.push_back(
-                {weights[u], unitName(found.Run, found.Index, u), coveringSpecies(found, u)});
+                {weights[u], unitName(found.Run, found.Index, u), speciesCovering(found, u)});
     }
     return paragraph("Give the units the weights below. Together they weigh " + std::to_string(sum) +
                      ", and the units that one eligible species covers weigh " + std::to_string(most) +
@@ -66,8 +68,8 @@ Markup weightProof(const ReportFindings& found) {
 Markup searchProof(const ReportFindings& found) {
     return paragraph(
         "Every suite of fewer than " + fewest(found) +
-        " was ruled out by a search through all of them, in whole numbers. There is no shorter account of "
-        "it; the same search comes to the same end on any machine.");
+        " was ruled out, in groups, by branch and bound in whole numbers. There is no shorter account of it; "
+        "the same search comes to the same end on any machine.");
 }
 
 Markup proofOf(const ReportFindings& found) {
@@ -94,6 +96,15 @@ Sentence bestSuite(const ReportFindings& found) {
 
 }  // namespace
 
+std::string coveringInWords(const ReportFindings& findings, const std::vector<std::size_t>& species) {
+    constexpr std::size_t FewCandidates = 60;
+    const std::vector<std::string> names = speciesNames(findings.Run, species);
+    if (findings.Run.Species.size() > FewCandidates) return Sentence().names(names).text();
+    std::string list;
+    for (const std::string& name : names) list += (list.empty() ? "" : ", ") + shownName(name);
+    return list;
+}
+
 Markup proofSection(const ReportFindings& findings, const ReportOrigin&) {
     const SmallestSuite& known = findings.Minimum.Known;
     if (findings.Index.units() == 0)
@@ -104,7 +115,11 @@ Markup proofSection(const ReportFindings& findings, const ReportOrigin&) {
         content += paragraph("The search ended before the size was settled: it lies between " +
                              std::to_string(known.Lower) + " and " + std::to_string(known.upper()) +
                              ". What follows proves the lower of the two.");
-    return content + proofOf(findings);
+    return content + proofOf(findings) +
+           paragraph(
+               "This proves that none is smaller, at these levels and grades. How many suites there are, which "
+               "total is the highest and what each species costs was found by complete search, where it "
+               "is said to be so; that cannot be checked with a pencil.");
 }
 
 }  // namespace insight

@@ -20,6 +20,11 @@ struct ReportOrigin {
     std::vector<std::string> Answers{};  ///< as they were given, to the questions of the run
     ReportWork Limits{};                 ///< of the searches
     bool IsSaved = true;  ///< the file opens to the project that is explained; without it there is no hash
+    /// Values were filled in as the file was opened: it is of version 1, which lacks them.
+    bool HasDefaults = false;
+    std::string Title{};   ///< in the place of the file's name
+    std::string Author{};  ///< of the report or the data; may be empty, as may be the date
+    std::string Date{};    ///< as it was given: no clock is read
 };
 
 /// The same findings and origin give the same bytes.

@@ -45,7 +45,7 @@ ReportFindings::ReportFindings(const SelectionRun& run, const std::vector<method
       Suite(runSuite(run, Index)) {
     search(work);
     sweepAll(answers, work);
-    Levels = levelGrid(run, answers, work.Stop);
+    select(answers, work);
     Stopped = work.Stop && *work.Stop;
 }
 
@@ -55,6 +55,13 @@ std::optional<std::size_t> ReportFindings::placeOf(std::size_t species) const {
                                     [&](const method::Pick& pick) { return pick.Species == species; });
     if (place == picks.end()) return std::nullopt;
     return static_cast<std::size_t>(place - picks.begin()) + 1;
+}
+
+std::size_t ReportFindings::coveringInSuite(std::size_t unit) const {
+    const std::vector<method::Pick>& picks = Run.Outcome.Suite.Picks;
+    return static_cast<std::size_t>(std::count_if(picks.begin(), picks.end(), [&](const method::Pick& pick) {
+        return Units.covers(pick.Species, unit);
+    }));
 }
 
 void ReportFindings::search(const ReportWork& work) {
@@ -82,6 +89,20 @@ void ReportFindings::sweepAll(const std::vector<method::Answer>& answers, const 
             };
         Sweeps.push_back({kind.Name, settings, sweep(Run, settings, sweepWork)});
     }
+}
+
+/// The run once more, and runs that differ by little.
+void ReportFindings::select(const std::vector<method::Answer>& answers, const ReportWork& work) {
+    Rerun rerun(Run.Landscape);
+    Scores = rerun.scores();
+    Watched = watch(Run, answers, rerun);
+    Remedies = findRemedies(Run, Units, States, answers, work.Stop);
+    Levels = levelGrid(Run, answers, work.Stop);
+    Nearest = nearestCovering(Levels, Run.Levels);
+    if (!Nearest) return;
+    const method::Levels levels = {Run.Levels.Margin, Levels.Representations[Nearest->Representation],
+                                   Levels.Statuses[Nearest->Status]};
+    AtNearest = tryChange(Run, {levels}, answers, work.Stop);
 }
 
 }  // namespace insight

@@ -11,7 +11,9 @@
 
 #include "insight/cover/best_coverage.h"
 #include "insight/cover/species_roles.h"
+#include "insight/report/decisions.h"
 #include "insight/report/level_grid.h"
+#include "insight/report/remedies.h"
 #include "insight/sweep/sweep_counts.h"
 #include "insight/sweep/sweep_settings.h"
 #include "insight/unit_states.h"
@@ -37,6 +39,9 @@ struct ReportSweep {
     SweepCounts Counts;  ///< of fewer runs than the settings say where the work was stopped
 
     bool isWhole() const { return Counts.Runs == Settings.Runs; }
+    /// Runs that selected nobody, as where nobody is eligible.
+    Count emptyRuns() const { return Counts.Sizes.front(); }
+    Count runsWithSuite() const { return Counts.Runs - emptyRuns(); }
 };
 
 /// They refer to the run, which must outlive them, and to each other: they stay where they are made.
@@ -51,6 +56,8 @@ public:
 
     /// The place of a candidate in the suite, from 1.
     std::optional<std::size_t> placeOf(std::size_t species) const;
+    /// How many species of the suite cover a unit.
+    std::size_t coveringInSuite(std::size_t unit) const;
 
     const SelectionRun& Run;
     Representation Units;
@@ -64,10 +71,16 @@ public:
     std::vector<BestCoverage> Best;
     std::vector<ReportSweep> Sweeps;
     LevelGrid Levels;
+    std::optional<LevelPair> Nearest;  ///< of the grid, where some levels leave nothing uncovered
+    TriedRun AtNearest;                ///< what it comes to there
+    method::Scores Scores;             ///< of the first pass
+    WatchedRun Watched;
+    std::vector<Remedy> Remedies;
     bool Stopped = false;
 
 private:
     void search(const ReportWork& work);
+    void select(const std::vector<method::Answer>& answers, const ReportWork& work);
     void sweepAll(const std::vector<method::Answer>& answers, const ReportWork& work);
 };
 

@@ -16,6 +16,8 @@ struct Section {
 
 Markup uncoveredSection(const ReportFindings& findings, const ReportOrigin& origin);
 Markup suiteSection(const ReportFindings& findings, const ReportOrigin& origin);
+Markup decisionSection(const ReportFindings& findings, const ReportOrigin& origin);
+Markup candidateSection(const ReportFindings& findings, const ReportOrigin& origin);
 Markup coverageSection(const ReportFindings& findings, const ReportOrigin& origin);
 Markup speciesSection(const ReportFindings& findings, const ReportOrigin& origin);
 Markup alternativesSection(const ReportFindings& findings, const ReportOrigin& origin);
@@ -24,8 +26,12 @@ Markup levelSection(const ReportFindings& findings, const ReportOrigin& origin);
 Markup proofSection(const ReportFindings& findings, const ReportOrigin& origin);
 Markup unitSection(const ReportFindings& findings, const ReportOrigin& origin);
 Markup wordSection(const ReportFindings& findings, const ReportOrigin& origin);
+Markup referenceSection(const ReportFindings& findings, const ReportOrigin& origin);
 Markup originSection(const ReportFindings& findings, const ReportOrigin& origin);
 
+/// The names of species that cover a unit: all where there are few candidates, so that the page can be checked from
+/// itself, else the first few.
+std::string coveringInWords(const ReportFindings& findings, const std::vector<std::size_t>& species);
 /// A paragraph; nothing for an empty sentence.
 Markup paragraph(const Sentence& sentence);
 Markup paragraph(std::string_view words);

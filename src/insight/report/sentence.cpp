@@ -64,10 +64,11 @@ std::string countWord(std::size_t count) {
     return count < Words.size() ? Words[count] : withThousands(count);
 }
 
-std::string capitalCountWord(std::size_t count) {
-    std::string word = countWord(count);
-    word[0] = static_cast<char>(std::toupper(static_cast<unsigned char>(word[0])));
-    return word;
+std::string capitalCountWord(std::size_t count) { return capitalised(countWord(count)); }
+
+std::string capitalised(std::string words) {
+    if (!words.empty()) words[0] = static_cast<char>(std::toupper(static_cast<unsigned char>(words[0])));
+    return words;
 }
 
 std::string counted(std::size_t count, std::string_view singular, std::string_view plural) {
@@ -76,6 +77,13 @@ std::string counted(std::size_t count, std::string_view singular, std::string_vi
 
 std::string countedInWords(std::size_t count, std::string_view singular, std::string_view plural) {
     return countWord(count) + " " + std::string(count == 1 ? singular : plural);
+}
+
+std::string percent(std::uint64_t count, std::uint64_t of) {
+    const double share = 100 * static_cast<double>(count) / static_cast<double>(of);
+    if (count > 0 && share < 1) return "< 1 %";
+    if (count < of && share > 99) return "> 99 %";
+    return fieldOf(Fixed{share, 0}) + " %";
 }
 
 std::string withThousands(std::uint64_t number) {

@@ -44,10 +44,14 @@ Markup nameMarkup(std::string_view name);
 /// "one" to "twelve", then digits with thousands set apart; at the begin of a sentence with a capital.
 std::string countWord(std::size_t count);
 std::string capitalCountWord(std::size_t count);
+/// Words as they begin a sentence.
+std::string capitalised(std::string words);
 /// "1 unit", "30 units": digits.
 std::string counted(std::size_t count, std::string_view singular, std::string_view plural);
 /// "one unit", "three units": words.
 std::string countedInWords(std::size_t count, std::string_view singular, std::string_view plural);
+/// The share of `count` in `of` as "32 %"; "< 1 %" and "> 99 %" where it is not quite none or all. REQUIRES: of > 0
+std::string percent(std::uint64_t count, std::uint64_t of);
 /// "100,000".
 std::string withThousands(std::uint64_t number);
 

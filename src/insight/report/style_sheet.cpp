@@ -33,7 +33,10 @@ h3 { font-size: 1rem; font-weight: 600; margin: 1.75rem 0 .5rem; }
 p { margin: 0 0 .9rem; max-width: 44rem; }
 .kicker { color: var(--quiet); font-size: .85rem; letter-spacing: .06em; margin: 0 0 .4rem; }
 .verdict { font-size: 1.6rem; line-height: 1.3; color: var(--accent); margin-bottom: .6rem; }
-.lede { font-size: 1.08rem; }
+.lede { font-size: 1.05rem; max-width: 46rem; margin: 0 0 .9rem; padding-left: 1.1rem; }
+.lede li { margin-bottom: .25rem; }
+.byline { color: var(--quiet); margin: -1rem 0 1.5rem; }
+.warning { border-left: 4px solid var(--alarm); background: var(--wash); color: var(--alarm); padding: .7rem 1rem; }
 .note { color: var(--quiet); font-size: .92rem; }
 .figures { display: flex; flex-wrap: wrap; gap: 1rem 2.75rem; margin: 1.5rem 0; padding: 1rem 0;
   border-top: 1px solid var(--rule); border-bottom: 1px solid var(--rule); }
@@ -61,12 +64,18 @@ thead th { overflow-wrap: normal; }
 .name { min-width: 8rem; max-width: 15rem; }
 .names { min-width: 9rem; max-width: 24rem; }
 .text { min-width: 10rem; max-width: 20rem; }
+.rest { display: inline-block; color: var(--quiet); font-size: .875rem; margin-top: 1rem; }
+.rest + .scroll { margin-top: .25rem; }
+details:not([open]) > :not(summary) { display: none; }
+summary { color: var(--accent); font-size: .92rem; cursor: pointer; }
+.references { padding-left: 1.1rem; font-size: .92rem; max-width: 44rem; }
 dl.words dt { font-weight: 600; margin-top: .8rem; }
 dl.words dd { margin: 0; max-width: 44rem; }
 
 figure { margin: 1.25rem 0; }
 figcaption { color: var(--quiet); font-size: .92rem; max-width: 44rem; }
 svg { display: block; margin-bottom: 1rem; }
+@media screen and (min-width: 46rem) { svg { max-width: 100%; height: auto; } }
 svg text { font: 12px system-ui, "Segoe UI", "Noto Sans", "DejaVu Sans", sans-serif; fill: var(--ink);
   direction: ltr; unicode-bidi: isolate; }
 svg .tick { font-size: 11px; fill: var(--quiet); }
@@ -93,15 +102,21 @@ svg .under { font-size: 10.5px; fill: var(--on-light); }
 svg .on-dark { fill: var(--on-dark); }
 svg .own { fill: none; stroke: var(--alarm); stroke-width: 2.5; }
 
+@media screen {
+  .rest:has(input:not(:checked)) + .scroll tbody tr:nth-child(n + 11) { display: none; }
+}
 @page { size: A4; margin: 16mm 15mm 18mm; }
 @media print {
   html { font-size: 9.5pt; background: none; }
   body { max-width: none; padding: 0; --paper: #ffffff; }
-  nav { display: none; }
+  nav, .rest, details { display: none; }
   section { margin-top: 1.5rem; padding-top: .9rem; }
-  h2, h3, caption { break-after: avoid; }
+  h2, h3, caption, p:has(+ figure), p:has(+ .scroll), label:has(+ .scroll) { break-after: avoid; }
+  section > h2 + p { break-after: avoid; }
+  thead { break-inside: avoid; break-after: avoid; }
+  tbody tr:first-child, tbody tr:nth-child(2) { break-before: avoid; }
   p, li, dt { orphans: 3; widows: 3; }
-  tr, svg, figcaption { break-inside: avoid; }
+  p, li, tr, svg, figcaption { break-inside: avoid; }
   .scroll { overflow: visible; }
   table { font-size: 7.5pt; width: 100%; }
   th, td { padding: .15rem .35rem .15rem 0; }

@@ -43,7 +43,7 @@ std::string fitted(std::string_view name, double room) {
         const std::string_view character = ui::firstCharacters(left, 1);
         width += widthOf(character);
         if (width > room) return std::string(fits) + "…";
-        if (width + LetterWidth <= room)
+        if (width + WideLetter <= room)  // as wide as "…"
             fits = std::string_view(whole).substr(0, fits.size() + character.size());
         left.remove_prefix(character.size());
     }

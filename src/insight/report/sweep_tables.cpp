@@ -3,38 +3,35 @@
 #include "insight/report/sweep_tables.h"
 
 #include <algorithm>
+#include <cctype>
 #include <string>
 
 #include "insight/names.h"
+#include "insight/report/sentence.h"
 
 namespace insight {
 
 namespace {
 
-constexpr int Places = 4;
-
-/// A table that begins with `columns`.
-ResultTable begin(const ReportFindings& found, std::vector<std::string> columns) {
+/// A table that begins with `columns`; each sweep has those of its name with `parts` behind it.
+ResultTable begin(const ReportFindings& found, std::vector<std::string> columns,
+                  std::initializer_list<const char*> parts = {""}) {
     for (const ReportSweep& sweep : found.Sweeps)
-        for (const char* part : {"", "_low", "_high"}) columns.push_back(std::string(sweep.Name) + part);
+        for (const char* part : parts) columns.push_back(std::string(sweep.Name) + part);
     return {std::move(columns), {}};
 }
 
-/// `countOf` gives what was counted in the counts of a sweep.
-template <class CountOf>
-void addFrequencies(const ReportFindings& found, std::vector<Cell>& row, CountOf countOf) {
-    for (const ReportSweep& sweep : found.Sweeps) {
-        const Count runs = sweep.Counts.Runs;
-        if (runs == 0) {
-            row.resize(row.size() + 3);
-            continue;
-        }
-        const Count count = countOf(sweep.Counts);
-        const Interval interval = wilsonInterval(count, runs);
-        row.emplace_back(Fixed{static_cast<double>(count) / static_cast<double>(runs), Places});
-        row.emplace_back(Fixed{interval.Low, Places});
-        row.emplace_back(Fixed{interval.High, Places});
-    }
+std::string wholePercent(double share) { return fieldOf(Fixed{100 * share, 0}); }
+
+/// With its interval, where that is told apart from the share.
+Cell shareCell(Count count, Count runs) {
+    if (runs == 0) return {};
+    const std::string share = percent(count, runs);
+    const Interval interval = wilsonInterval(count, runs);
+    const std::string low = wholePercent(interval.Low);
+    const std::string high = wholePercent(interval.High);
+    if (low == high || !std::isdigit(static_cast<unsigned char>(share.front()))) return share;
+    return share + " (" + low + "–" + high + ")";
 }
 
 template <class CountOf>
@@ -51,14 +48,17 @@ ResultTable selectedTable(const ReportFindings& findings) {
         const auto place = findings.placeOf(s);
         std::vector<Cell> row = {numberCell(s + 1), findings.Run.Species[s],
                                  place ? numberCell(*place) : Cell()};
-        addFrequencies(findings, row, [&](const SweepCounts& counts) { return counts.Species[s]; });
+        for (const ReportSweep& sweep : findings.Sweeps) {
+            const bool mayBe = findings.Units.eligible(s) || sweep.Settings.Vary.Levels;
+            row.push_back(mayBe ? shareCell(sweep.Counts.Species[s], sweep.runsWithSuite()) : Cell());
+        }
         table.Rows.push_back(std::move(row));
     }
     return table;
 }
 
 ResultTable uncoveredTable(const ReportFindings& findings) {
-    ResultTable table = begin(findings, {"unit", "kind"});
+    ResultTable table = begin(findings, {"unit", "kind"}, {"", "_missed"});
     for (std::size_t u = 0; u < findings.Units.units(); ++u) {
         const UnitNumber& unit = findings.Units.unit(u);
         const auto countOf = [&](const SweepCounts& counts) {
@@ -66,7 +66,10 @@ ResultTable uncoveredTable(const ReportFindings& findings) {
         };
         if (!occurs(findings, countOf)) continue;
         std::vector<Cell> row = {unitName(findings.Run, unit), std::string(nameOf(unit.Kind))};
-        addFrequencies(findings, row, countOf);
+        for (const ReportSweep& sweep : findings.Sweeps) {
+            row.push_back(shareCell(countOf(sweep.Counts), sweep.Counts.Runs));
+            row.push_back(shareCell(sweep.Counts.Missed[unit.Kind][unit.Number], sweep.Counts.Runs));
+        }
         table.Rows.push_back(std::move(row));
     }
     return table;
@@ -78,7 +81,8 @@ ResultTable sizeTable(const ReportFindings& findings) {
         const auto countOf = [&](const SweepCounts& counts) { return counts.Sizes[size]; };
         if (!occurs(findings, countOf)) continue;
         std::vector<Cell> row = {numberCell(size)};
-        addFrequencies(findings, row, countOf);
+        for (const ReportSweep& sweep : findings.Sweeps)
+            row.push_back(shareCell(countOf(sweep.Counts), sweep.Counts.Runs));
         table.Rows.push_back(std::move(row));
     }
     return table;

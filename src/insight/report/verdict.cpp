@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "insight/names.h"
+#include "insight/report/open_units.h"
 #include "insight/table.h"
 
 namespace insight {
@@ -37,11 +38,11 @@ std::string leastInWords(const SmallestSuite& known) {
 
 /// Of a suite that covers all that can be covered.
 Sentence sizeOfCompleteSuite(std::size_t size, const SmallestSuite& known) {
-    const std::string have = capitalSpecies(size) + "; ";
+    const std::string have = capitalSpecies(size);
     if (size > known.upper())
-        return Sentence(have + countWord(known.upper()) + " would be enough" + leastInWords(known));
-    return Sentence(have + (known.isProven() ? "no smaller suite exists" : "no smaller suite is known") +
-                    leastInWords(known));
+        return Sentence(have + "; " + countWord(known.upper()) + " would be enough" + leastInWords(known));
+    if (!known.isProven()) return Sentence(have + "; no smaller suite is known" + leastInWords(known));
+    return Sentence(have + "; at these levels no fewer cover as much.");
 }
 
 Sentence sizeOfSuite(const ReportFindings& found) {
@@ -72,6 +73,57 @@ Sentence coverage(const ReportFindings& found) {
                     " covered.");
 }
 
+/// How many covered units only one species of the suite covers.
+std::size_t hangingUnits(const ReportFindings& found) {
+    std::size_t units = 0;
+    for (std::size_t u = 0; u < found.States.size(); ++u) units += found.coveringInSuite(u) == 1 ? 1 : 0;
+    return units;
+}
+
+Sentence hanging(const ReportFindings& found) {
+    const std::size_t covered = coveredBy(found);
+    const std::size_t units = hangingUnits(found);
+    if (covered == 0) return {};
+    if (units == 0) return Sentence("Each is covered by two or more species of the suite.");
+    if (units == covered) return Sentence("Each hangs on one species of the suite alone.");
+    return Sentence(withThousands(units) + " of these " + withThousands(covered) +
+                    (units == 1 ? " hangs" : " hang") + " on one species of the suite alone.");
+}
+
+Sentence leftOut(const ReportFindings& found) {
+    std::vector<std::string> excluded;
+    for (std::size_t s = 0; s < found.Run.Species.size(); ++s) {
+        if (found.Units.eligible(s)) continue;
+        excluded.push_back(shownName(found.Run.Species[s]) + " (" + fieldOf(found.Run.Landscape.Status[s]) +
+                           ")");
+    }
+    if (excluded.empty()) return {};
+    const bool isOne = excluded.size() == 1;
+    return Sentence(capitalCountWord(excluded.size()) + " of " +
+                    countedInWords(found.Run.Species.size(), "candidate", "candidates") +
+                    (isOne ? " is left out, since its" : " are left out, since their") +
+                    " conservation status is above " + fieldOf(found.Run.Levels.ConservationStatus) +
+                    " (the higher, the safer): ")
+        .names(excluded)
+        .say(".");
+}
+
+/// The change that leaves fewest units, where one leaves fewer than the run.
+Sentence bestRemedy(const ReportFindings& found) {
+    const auto best = std::min_element(
+        found.Remedies.begin(), found.Remedies.end(),
+        [](const Remedy& a, const Remedy& b) { return a.Run.Open.size() < b.Run.Open.size(); });
+    if (best == found.Remedies.end()) return {};
+    const std::size_t open = best->Run.Open.size();
+    if (open >= unitsOf(found) - coveredBy(found)) return {};
+    Sentence sentence("With " + changeInWords(found, best->Made) + " a run has " +
+                      speciesInWords(best->Run.Species.size()) + " and leaves " +
+                      countedInWords(open, "unit", open == 0 ? "unit" : "units") + " uncovered");
+    if (best->Run.Smallest && best->Run.Smallest->isProven())
+        sentence.say("; the smallest suite then has " + sizeInWords(*best->Run.Smallest));
+    return sentence.say(".");
+}
+
 Sentence missed(const ReportFindings& found) {
     const std::vector<std::string> names = unitsWith(found, UnitFate::Missed);
     if (names.empty()) return {};
@@ -96,19 +148,29 @@ Sentence uncoverable(const ReportFindings& found, bool forExclusion) {
     std::sort(excluded.begin(), excluded.end());
     excluded.erase(std::unique(excluded.begin(), excluded.end()), excluded.end());
     Sentence sentence(capitalCountWord(units.size()) + (units.size() == 1 ? " unit" : " units") +
-                      " cannot be covered: ");
+                      " cannot be covered at these levels: ");
     sentence.names(units);
-    if (!forExclusion) return sentence.say("; no candidate reaches the level.");
-    return sentence.say(", since ")
+    if (!forExclusion) return sentence.say("; no candidate reaches what is needed.");
+    return sentence
+        .say(units.size() == 1 ? ". Only excluded species would cover it: "
+                               : ". Only excluded species would cover them: ")
         .names(speciesNames(found.Run, excluded))
-        .say(excluded.size() == 1 ? " is excluded." : " are excluded.");
+        .say(".");
 }
 
 Sentence redundant(const ReportFindings& found) {
-    const std::vector<std::string> names = speciesNames(found.Run, found.Index, found.Suite.Redundant);
-    if (names.empty()) return {};
-    if (names.size() == 1) return Sentence().names(names).say(" could go without a loss.");
-    return Sentence("Each of ").names(names).say(" could go alone without a loss.");
+    const Rows& rows = found.Suite.Redundant;
+    if (rows.empty()) return {};
+    const std::vector<std::string> names = speciesNames(found.Run, found.Index, rows);
+    if (names.size() > 1)
+        return Sentence("Each of ")
+            .names(names)
+            .say(" could go alone: others of the suite cover all that it covers.");
+    const int rank = found.Run.Ranks[found.Problem.Species[rows.front()]];
+    return Sentence("All that ")
+        .names(names)
+        .say(" covers is covered by others of the suite, too; it has rank " + std::to_string(rank) + " of " +
+             std::to_string(found.Run.Species.size()) + " by score.");
 }
 
 /// Whether the suite of the run covers all that can be covered with as few species as are known to.
@@ -122,20 +184,32 @@ Sentence alternatives(const ReportFindings& found) {
     const bool isOne = isSmallestKnown(found);
     const std::size_t others = smallest.Count - (isOne ? 1 : 0);
     if (others == 0)
-        return Sentence(smallest.IsExact ? "It is the only suite of that size."
+        return Sentence(smallest.IsExact ? "It is the only suite of that size that does."
                                          : "Whether other suites are as small is not settled.");
     const std::string count = smallest.IsExact ? capitalCountWord(others) : "At least " + countWord(others);
-    const std::string size = speciesInWords(found.Minimum.Known.upper());
-    if (isOne)
-        return Sentence(count + (others == 1 ? " other suite has " : " other suites have ") + size +
-                        ", too.");
-    return Sentence(count + (others == 1 ? " suite covers" : " suites cover") +
-                    " as much as can be covered with " + size + ".");
+    const std::string suites =
+        (isOne ? " other" : "") + std::string(others == 1 ? " suite of " : " suites of ") +
+        speciesInWords(found.Minimum.Known.upper()) + (others == 1 ? " covers " : " cover ");
+    return Sentence(count + suites + (isOne ? "the same units." : "all that can be covered."));
+}
+
+/// Whether the suite of the run is one of the smallest once its redundant species are gone.
+Sentence prunedInstead(const ReportFindings& found) {
+    const RunSuite& suite = found.Suite;
+    const bool isSmallest = suite.Complete && suite.Pruned.size() == found.Minimum.Known.upper();
+    if (suite.Redundant.empty() || !isSmallest || !found.Minimum.Known.isProven()) return {};
+    Rows gone;
+    for (const std::uint32_t row : suite.Picks) {
+        if (!std::binary_search(suite.Pruned.begin(), suite.Pruned.end(), row)) gone.push_back(row);
+    }
+    return Sentence("The suite of the run without ")
+        .names(speciesNames(found.Run, found.Index, gone))
+        .say(" is such a one.");
 }
 
 Sentence bestInstead(const ReportFindings& found) {
     if (isSmallestKnown(found) || found.Index.units() == 0) return {};
-    const char* what = found.Minimum.isProven()         ? "With the highest total: "
+    const char* what = found.Minimum.isProven()         ? "Of these the one with the highest total: "
                        : found.Minimum.Known.isProven() ? "One of that size: "
                                                         : "The smallest known: ";
     return Sentence(what).names(speciesNames(found.Run, found.Index, found.Minimum.Known.Suite)).say(".");
@@ -144,45 +218,10 @@ Sentence bestInstead(const ReportFindings& found) {
 Sentence inAll(const ReportFindings& found) {
     const std::vector<std::string> names = speciesInAll(found);
     if (names.empty() || (found.Smallest.IsExact && found.Smallest.Count == 1)) return {};
-    return Sentence().names(names).say(names.size() == 1 ? " is in every one of the smallest suites."
-                                                         : " are in every one of the smallest suites.");
-}
-
-std::string percent(Count count, Count runs) {
-    return fieldOf(Fixed{100 * static_cast<double>(count) / static_cast<double>(runs), 0}) + " %";
-}
-
-/// How often the species of the suite are selected in the runs of a sweep.
-Sentence selectedAgain(const ReportFindings& found, const SweepCounts& counts) {
-    const std::vector<method::Pick>& picks = found.Run.Outcome.Suite.Picks;
-    std::size_t always = 0;
-    std::vector<std::string> rarely;
-    for (const method::Pick& pick : picks) {
-        const Count held = counts.Species[pick.Species];
-        if (held == counts.Runs) ++always;
-        if (2 * held < counts.Runs) rarely.push_back(found.Run.Species[pick.Species]);
-    }
-    if (picks.empty()) return Sentence("there is no suite to compare with.");
-    if (always == picks.size()) return Sentence("every species of the suite is in all of the runs.");
-    Sentence sentence((always == 0 ? "none" : countWord(always)) + " of the suite's species" +
-                      (always <= 1 ? " is" : " are") + " in all of the runs");
-    if (rarely.empty())
-        return sentence.say(always == 0 ? ", but each in at least half of them."
-                                        : ", the others in at least half of them.");
-    return sentence.say("; in fewer than half of them ")
-        .say(rarely.size() == 1 ? "is " : "are ")
-        .names(rarely)
-        .say(".");
-}
-
-/// The species from outside the suite that is selected most often; none where each is in fewer than 1 % of the runs.
-std::optional<std::size_t> mostFrequentOther(const ReportFindings& found, const SweepCounts& counts) {
-    std::optional<std::size_t> other;
-    for (std::size_t s = 0; s < counts.Species.size(); ++s) {
-        if (found.placeOf(s) || 100 * counts.Species[s] < counts.Runs) continue;
-        if (!other || counts.Species[s] > counts.Species[*other]) other = s;
-    }
-    return other;
+    return Sentence("At these levels ")
+        .names(names)
+        .say(names.size() == 1 ? " is in every one of the smallest suites."
+                               : " are in every one of the smallest suites.");
 }
 
 }  // namespace
@@ -204,11 +243,20 @@ std::vector<std::string> speciesInAll(const ReportFindings& findings) {
 }
 
 std::vector<Sentence> verdict(const ReportFindings& findings) {
-    std::vector<Sentence> sentences = {sizeOfSuite(findings),       endOfRun(findings),
-                                       coverage(findings),          missed(findings),
-                                       uncoverable(findings, true), uncoverable(findings, false),
-                                       redundant(findings),         alternatives(findings),
-                                       bestInstead(findings),       inAll(findings)};
+    std::vector<Sentence> sentences = {sizeOfSuite(findings),
+                                       endOfRun(findings),
+                                       coverage(findings),
+                                       hanging(findings),
+                                       missed(findings),
+                                       uncoverable(findings, true),
+                                       uncoverable(findings, false),
+                                       bestRemedy(findings),
+                                       leftOut(findings),
+                                       redundant(findings),
+                                       alternatives(findings),
+                                       prunedInstead(findings),
+                                       bestInstead(findings),
+                                       inAll(findings)};
     std::erase_if(sentences, [](const Sentence& sentence) { return sentence.isEmpty(); });
     return sentences;
 }
@@ -220,8 +268,9 @@ std::vector<KeyFigure> keyFigures(const ReportFindings& findings) {
     const SuiteList& suites = findings.Smallest;
     std::vector<KeyFigure> figures = {
         {withThousands(findings.Suite.Picks.size()), "species selected"},
-        {bounds, known.isProven() ? "fewest that do, proven" : "fewest that do, not settled"},
-        {withThousands(coveredBy(findings)) + " / " + withThousands(unitsOf(findings)), "units covered"}};
+        {bounds, known.isProven() ? "fewest possible, proven" : "fewest possible, not settled"},
+        {withThousands(coveredBy(findings)) + " / " + withThousands(unitsOf(findings)), "units covered"},
+        {withThousands(hangingUnits(findings)), "covered by one species alone"}};
     if (known.isProven())
         figures.push_back({(suites.IsExact ? "" : "≥ ") + withThousands(suites.Count),
                            suites.Count == 1 ? "smallest suite" : "smallest suites"});
@@ -237,18 +286,6 @@ Sentence coverageSentence(const ReportFindings& findings) {
                     counted(findings.Index.units(), "unit", "units") + " that can be covered at all" +
                     (best.isProven() ? "" : ", as far as known") + "; to cover them all takes " +
                     sizeInWords(findings.Minimum.Known) + ".");
-}
-
-Sentence sweepSentence(const ReportFindings& findings, const ReportSweep& sweep) {
-    const SweepCounts& counts = sweep.Counts;
-    if (counts.Runs == 0) return Sentence("no run was made.");
-    Sentence sentence = selectedAgain(findings, counts);
-    if (const auto other = mostFrequentOther(findings, counts)) {
-        sentence.say(" Of the others ").name(findings.Run.Species[*other]);
-        sentence.say(" comes in most often, in " + percent(counts.Species[*other], counts.Runs) +
-                     " of them.");
-    }
-    return sentence;
 }
 
 }  // namespace insight

@@ -22,8 +22,6 @@ std::vector<KeyFigure> keyFigures(const ReportFindings& findings);
 
 /// What few species achieve; empty where there is nothing to compare.
 Sentence coverageSentence(const ReportFindings& findings);
-/// How far the suite depends on what was drawn anew.
-Sentence sweepSentence(const ReportFindings& findings, const ReportSweep& sweep);
 
 /// Names of the units with this fate.
 std::vector<std::string> unitsWith(const ReportFindings& findings, UnitFate fate);

@@ -57,6 +57,17 @@ TEST_F(AsideTest, SelectsFromAProjectWhoseFormWasOnlyOpened) {
     EXPECT_TRUE(told.IsSaved);
 }
 
+TEST_F(AsideTest, TellsWhereTheFileLacksValues) {
+    openFile(BRENICA_SOURCE_DIR "/examples/version1_landscape.brn");
+    EXPECT_TRUE(aside().HasDefaults);
+    form.flxCandidateSpecies.TextMatrix(1, list::Name, "Wolf");
+    const SelectionAside changed = aside();
+    EXPECT_FALSE(changed.IsSaved);
+    EXPECT_TRUE(changed.HasDefaults);
+    openFile(SmallExample);
+    EXPECT_FALSE(aside().HasDefaults);
+}
+
 TEST_F(AsideTest, LeavesTheFormAsItIs) {
     openFile(SmallExample);
     const unsigned revision = form.Revision();

@@ -75,6 +75,8 @@ ChartNumbersTable::ChartNumbersTable(ChartNumbersModel* model, QWidget* parent) 
     setSelectionMode(ContiguousSelection);
     setTabKeyNavigation(false);
     setWordWrap(false);
+    verticalHeader()->setHighlightSections(false);
+    horizontalHeader()->setHighlightSections(false);
     verticalHeader()->setMinimumSectionSize(1);
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + CellPadding);
     horizontalHeader()->setResizeContentsPrecision(RowsMeasured);

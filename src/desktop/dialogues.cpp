@@ -86,7 +86,6 @@ void Box::setIcon(ui::MessageIcon icon) {
 
 void Box::addNote(const QString& note) {
     auto* label = new QLabel(note, this);
-    label->setForegroundRole(QPalette::PlaceholderText);
     column_->addSpacing(fontMetrics().height() / 2);
     column_->addWidget(label);
     setAccessibleDescription(accessibleDescription() + '\n' + note);

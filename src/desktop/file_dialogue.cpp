@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QScreen>
 #include <QStandardPaths>
 
 #include "desktop/dialogues.h"
@@ -66,6 +67,15 @@ void takeAwayHarm(QFileDialog& dialogue) {
         files->setEditTriggers(QAbstractItemView::NoEditTriggers);
 }
 
+/// Wide enough for a name, a size, a type and a date beside the places.
+void giveRoom(QFileDialog& dialogue) {
+    constexpr int Characters = 110;
+    constexpr int Lines = 30;
+    const QFontMetrics font = dialogue.fontMetrics();
+    const QSize wanted(font.averageCharWidth() * Characters, font.lineSpacing() * Lines);
+    dialogue.resize(wanted.boundedTo(dialogue.screen()->availableSize() * 9 / 10));
+}
+
 }  // namespace
 
 /// What is chosen is looked at here, since dialogues of the desktop's own complete names after they have asked.
@@ -85,6 +95,7 @@ std::optional<std::string> showFileDialogue(QWidget* parent, const ui::FileDialo
     dialogue.setNameFilters(filtersOf(request.Filter));
     dialogue.setDefaultSuffix(extension);
     openWhereProposed(dialogue, request, lastFolder);
+    giveRoom(dialogue);
     while (dialogue.exec() == QDialog::Accepted) {
         const QString chosen = dialogue.selectedFiles().value(0);
         const QString path = saves ? completed(chosen, extension) : chosen;

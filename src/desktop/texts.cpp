@@ -34,11 +34,27 @@ QString captionWithAccessKey(const ui::Control& control) {
     return caption.left(place).replace('&', "&&") + '&' + caption.mid(place).replace('&', "&&");
 }
 
+/// The line in lines of at most `width` characters, where its words allow that.
+QString broken(const QString& line, qsizetype width) {
+    QString text;
+    qsizetype column = 0;
+    for (const QString& word : line.split(' ')) {
+        const bool fits = text.isEmpty() || column + 1 + word.size() <= width;
+        if (!text.isEmpty()) text += fits ? ' ' : '\n';
+        column = fits && !text.isEmpty() ? column + 1 + word.size() : word.size();
+        text += word;
+    }
+    return text;
+}
+
+/// Qt would break the lines of marked-up text only, and those at a width of its own.
 QString plainToolTip(std::string_view text) {
-    constexpr int WidestTip = 80;  // characters; Qt breaks lines of marked-up text only
-    const QString tip = shortText(text);
-    if (tip.size() <= WidestTip && !Qt::mightBeRichText(tip)) return tip;
-    return "<p>" + tip.toHtmlEscaped().replace('\n', "<br>") + "</p>";
+    constexpr qsizetype WidestTip = 80;  // characters
+    QStringList lines = shortText(text).split('\n');
+    for (QString& line : lines) line = broken(line, WidestTip);
+    const QString tip = lines.join('\n');
+    if (!Qt::mightBeRichText(tip)) return tip;
+    return "<p style='white-space:pre'>" + tip.toHtmlEscaped() + "</p>";
 }
 
 std::string utf8(const QString& text) { return text.toStdString(); }

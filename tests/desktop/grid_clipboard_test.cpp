@@ -98,7 +98,7 @@ private slots:
     void aLongTextThatIsRefusedIsShortenedAndPlain() {
         PasteWindow w;
         w.paste("no <b>" + QString(500, 'x'));
-        QVERIFY(QToolTip::text().size() < 120);
+        QVERIFY(QToolTip::text().size() < 150);
         QVERIFY(!QToolTip::text().contains("<b>"));
     }
 

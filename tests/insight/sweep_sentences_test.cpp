@@ -57,3 +57,12 @@ TEST(SweepSentences, SayThatLargerSuitesAreTheRule) {
     const ReportFindings findings(run, marginAnswers(options.Answers), {});
     EXPECT_THAT(sentencesOn(findings, 1), Contains(HasSubstr("(this one has two).")));
 }
+
+TEST(SweepSentences, SayWhereNoQuestionWasAsked) {
+    RunOptions options = example("small_landscape.brn");
+    options.ErrorMargin = "0";
+    const SelectionRun run = selected(options);
+    const ReportFindings findings(run, {}, {});
+    EXPECT_THAT(sentencesOn(findings, 1),
+                testing::ElementsAre("No question was asked, so that no answer could be another one."));
+}

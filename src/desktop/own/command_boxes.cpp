@@ -89,7 +89,6 @@ void CommandBoxes::showTaken(QWidget* owner) {
     text->setReadOnly(true);
     text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     text->setTabChangesFocus(true);
-    text->setLineWrapMode(QPlainTextEdit::NoWrap);
     text->setAccessibleName(heading->text());
     text->setMinimumSize(sizeFor(*text).boundedTo(list.screen()->availableSize() * 7 / 10));
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);

@@ -41,6 +41,7 @@ std::vector<OwnEntry> exampleEntries(const HelpLink& link) {
         entries.push_back({"ownExample_" + file, QString(file).replace('&', "&&"),
                            [link, path = folder.filePath(file)] { link.OpenProject(path); }});
     }
+    entries.push_back({});
     entries.push_back(
         {"ownExamplesPage", own_texts::AboutExamples, [link] { showGuide(link.Owner, "examples.html"); }});
     return entries;

@@ -15,6 +15,10 @@ void addEntries(QMenu& menu, const OwnEntry& described) {
             addEntries(*menu.addMenu(entry.Caption), entry);
             continue;
         }
+        if (entry.Caption.isEmpty()) {
+            menu.addSeparator();
+            continue;
+        }
         QAction* action = menu.addAction(entry.Caption, entry.Keys, &menu, entry.Run);
         action->setObjectName(entry.Name);
     }

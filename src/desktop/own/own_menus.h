@@ -11,7 +11,7 @@ class QMenuBar;
 
 namespace desktop {
 
-/// A menu of the window's own, or an entry of one.
+/// A menu of the window's own, or an entry of one; without a caption, a line between entries.
 struct OwnEntry {
     QString Name;
     QString Caption;              ///< with an ampersand before the letter of its access key

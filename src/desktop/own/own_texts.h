@@ -14,6 +14,8 @@ inline constexpr const char* DropIt = "Drop it";
 inline constexpr const char* TakeBack = "Take it back";
 inline constexpr const char* ShowCopies = "Show them";
 inline constexpr const char* HideCopies = "Hide them";
+inline constexpr const char* ShowCopy = "Show it";
+inline constexpr const char* HideCopy = "Hide it";
 
 // The menu of a table, and the tip where pasting stops: the refused text, and how many cells are left.
 inline constexpr const char* Undo = "Undo";
@@ -77,7 +79,7 @@ inline constexpr const char* SeveralCells = "%1 cells";
 inline constexpr const char* Cell = "%1, %2, %3 (“%4”)";
 inline constexpr const char* Box = "%1 (“%2”)";
 inline constexpr const char* MoreCells = "%1 and %2 more";
-inline constexpr const char* NotCarriedKept = "They stand in the window and in the safety copy.";
+inline constexpr const char* NotCarriedKept = "All is kept in the window and in the safety copy.";
 inline constexpr const char* ScoresFirst = "Go to Aggregate Scores first.";
 inline constexpr const char* StatusFirst = "A species has no conservation status (CCS). Enter it first.";
 inline constexpr const char* SpeciesFirst = "There is no species to select from.";

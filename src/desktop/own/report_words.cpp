@@ -9,6 +9,7 @@
 #include "desktop/own/own_texts.h"
 #include "desktop/own/own_words.h"
 #include "desktop/own/strip_words.h"
+#include "desktop/program_files.h"
 #include "desktop/texts.h"
 
 namespace desktop::report_words {
@@ -48,7 +49,9 @@ QString proposedFile(const QString& projectPath) {
     const QFileInfo project(projectPath);
     const QString name = projectPath.isEmpty() ? said(own_texts::NewProject) : project.completeBaseName();
     const QString file = said(own_texts::ReportFile).arg(name);
-    const bool beside = !projectPath.isEmpty() && QFileInfo(project.absolutePath()).isWritable();
+    // The examples lie among what was installed.
+    const bool ofUser = !projectPath.isEmpty() && project.absoluteDir() != QDir(examplesFolder());
+    const bool beside = ofUser && QFileInfo(project.absolutePath()).isWritable();
     return beside ? project.absoluteDir().filePath(file) : file;
 }
 

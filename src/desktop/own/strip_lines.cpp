@@ -11,6 +11,15 @@
 
 namespace desktop {
 
+namespace {
+
+const char* foldingText(qsizetype copies, bool unfolded) {
+    if (copies == 1) return unfolded ? own_texts::HideCopy : own_texts::ShowCopy;
+    return unfolded ? own_texts::HideCopies : own_texts::ShowCopies;
+}
+
+}  // namespace
+
 StripLines::StripLines(Strip& strip, SafetyCopies& copies, FormWatch& watch)
     : strip_(strip), copies_(copies), watch_(watch) {
     connect(&copies_, &SafetyCopies::offersChanged, this, &StripLines::follow);
@@ -159,11 +168,7 @@ void StripLines::addGroup(std::vector<StripLine>& lines, const QList<CopyOffer>&
         unfolded = !unfolded;
         follow();
     };
-    lines.push_back({heading,
-                     {},
-                     StripTone::Offer,
-                     {{unfolded ? own_texts::HideCopies : own_texts::ShowCopies, fold}},
-                     close});
+    lines.push_back({heading, {}, StripTone::Offer, {{foldingText(offers.size(), unfolded), fold}}, close});
     if (!unfolded) return;
     for (const CopyOffer& offer : offers) {
         StripLine line = lineOf(offer);

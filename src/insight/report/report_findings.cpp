@@ -66,8 +66,8 @@ std::size_t ReportFindings::coveringInSuite(std::size_t unit) const {
 
 void ReportFindings::search(const ReportWork& work) {
     const auto tell = [&](const SearchProgress& now) {
-        work.Progress("between " + numberOf(now.Lower) + " and " + numberOf(now.Upper) + " species, " +
-                      numberOf(now.Nodes) + " steps");
+        work.Progress("the smallest suite has " + numberOf(now.Lower) + " to " + numberOf(now.Upper) +
+                      " species; " + numberOf(now.Nodes) + " steps");
     };
     SearchEffort effort{work.Seconds, work.Nodes, work.Stop, {}, work.Threads};
     if (work.Progress) effort.OnProgress = tell;

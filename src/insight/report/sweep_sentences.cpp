@@ -3,6 +3,7 @@
 #include "insight/report/sweep_sentences.h"
 
 #include <algorithm>
+#include <string_view>
 
 #include "insight/names.h"
 
@@ -136,9 +137,16 @@ Sentence stopped(const ReportSweep& sweep) {
     return Sentence("It was stopped after " + counted(sweep.Counts.Runs, "run", "runs") + ".");
 }
 
+/// Only answers are drawn anew, and there was no question.
+bool changesNothing(const ReportFindings& found, const ReportSweep& sweep) {
+    return sweep.Name == std::string_view("answers") && found.Watched.Decisions.empty();
+}
+
 }  // namespace
 
 std::vector<Sentence> sweepSentences(const ReportFindings& findings, const ReportSweep& sweep) {
+    if (changesNothing(findings, sweep))
+        return {Sentence("No question was asked, so that no answer could be another one.")};
     std::vector<Sentence> sentences = {runsWithoutSuite(sweep)};
     if (sweep.runsWithSuite() > 0) {
         sentences.insert(sentences.end(), {alwaysSelected(findings, sweep), leastSelected(findings, sweep),

@@ -38,7 +38,7 @@ QByteArray textOf(const ProjectText& project) { return QByteArray::fromStdString
 
 /// Too large for a report within the time of a test.
 ProjectText longWork() {
-    constexpr int Species = 60;
+    constexpr int Species = 240;
     constexpr int Units = 40;
     ProjectText project(Species, Units, Units, Units);
     std::string grades;

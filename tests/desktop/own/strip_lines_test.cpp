@@ -275,7 +275,7 @@ private slots:
         w.copies.give({leftCopyOf("/a/left.brn", "1")});
         w.key(Qt::Key_F6);
         QCOMPARE(w.lines().size(), 2);
-        QVERIFY(w.button("1 other", "Hide them")->hasFocus());
+        QVERIFY(w.button("1 other", "Hide it")->hasFocus());
         w.key(Qt::Key_Tab);
         w.key(Qt::Key_Tab);
         QVERIFY(w.button("left.brn", "Open it")->hasFocus());
@@ -290,7 +290,7 @@ private slots:
         QCOMPARE(w.lines().size(), 1);
         w.key(Qt::Key_F6);
         QCOMPARE(w.lines().size(), 2);
-        QVERIFY(w.button("1 other", "Show them") != nullptr);
+        QVERIFY(w.button("1 other", "Show it") != nullptr);
     }
 
     void theKeySaysThatThereIsNothing() {
@@ -404,7 +404,7 @@ private slots:
         w.copies.give({leftCopyOf("/a/left.brn", "1")});
         w.openFile("missing.brn");
         QCOMPARE(w.lines().size(), 2);
-        QVERIFY(w.button("1 other", "Show them") != nullptr);
+        QVERIFY(w.button("1 other", "Show it") != nullptr);
     }
 
     void noCopyIsToBeOpenedWhileNoFileCanBe() {
@@ -514,13 +514,13 @@ private slots:
         w.copies.lose({one});
         QCOMPARE(w.lines(),
                  QStringList("The saved file cannot hold 1 cell as entered: Habitat types, 3 Reed bed, Area "
-                             "(“0,5”). They stand in the window and in the safety copy."));
+                             "(“0,5”). All is kept in the window and in the safety copy."));
         w.copies.lose({one, {"Margin of Error:", "", "", "6,5"}, one, one});
         QCOMPARE(
             w.lines(),
             QStringList(
                 "The saved file cannot hold 4 cells as entered: Habitat types, 3 Reed bed, Area (“0,5”); "
-                "Margin of Error: (“6,5”) and 2 more. They stand in the window and in the safety copy."));
+                "Margin of Error: (“6,5”) and 2 more. All is kept in the window and in the safety copy."));
         const QWidget* row = w.button("The saved", "Close this message")->parentWidget();
         QCOMPARE(row->accessibleDescription().count("Habitat types"), 3);
         w.click("The saved", "Close this message");

@@ -18,6 +18,33 @@ from window import Window
 
 TOP = HERE.parents[1]
 SCREENS = {"1366x768": {}, "1920x1080": {}, "3840x2160": {"QT_FONT_DPI": "192"}}
+POINTS = 9
+# A desktop whose colours and font Qt itself reads from the settings in the home folder.
+THEME = {"XDG_CURRENT_DESKTOP": "KDE", "KDE_SESSION_VERSION": "5", "QT_QPA_PLATFORMTHEME": "kde"}
+FONTS = ("font", "menuFont", "toolBarFont", "smallestReadableFont")
+INK, PAPER = "35,38,41", "252,252,252"
+LIGHT = {"Window": ("239,240,241", INK), "View": ("255,255,255", INK), "Button": (PAPER, INK),
+         "Selection": ("61,174,233", PAPER), "Tooltip": ("247,247,247", INK)}  # background and text
+DARK = {"Window": ("42,46,50", PAPER), "View": ("27,30,32", PAPER), "Button": ("49,54,59", PAPER),
+        "Selection": ("61,174,233", PAPER), "Tooltip": ("49,54,59", PAPER)}
+
+
+def desktopSettings(dark, points):
+    lines = ["[KDE]", "widgetStyle=Fusion", "[General]"]
+    lines += [f"{name}=DejaVu Sans,{points},-1,5,50,0,0,0,0,0" for name in FONTS]
+    for group, (back, text) in (DARK if dark else LIGHT).items():
+        lines += [f"[Colors:{group}]", f"ForegroundNormal={text}"]
+        lines += [f"Background{kind}={back}" for kind in ("Normal", "Alternate")]
+    return "\n".join([*lines, ""])
+
+
+def dressed(size, pictures, dark=False, points=POINTS, **environment):
+    """A session whose desktop has dark or light colours and a font of this size."""
+    isPlain = not dark and points == POINTS
+    session = Session(size, pictures, **environment, **({} if isPlain else THEME))
+    if not isPlain:
+        (session.home / ".config/kdeglobals").write_text(desktopSettings(dark, points))
+    return session
 
 
 def start(session, program, byKey, *arguments):
@@ -76,11 +103,15 @@ def main():
     parser.add_argument("--program", type=Path, default=TOP / "build/release/src/desktop/brenica")
     parser.add_argument("--project", type=Path, default=TOP / "examples/full_landscape.brn")
     parser.add_argument("--screen", choices=SCREENS, action="append", help="default: all")
+    parser.add_argument("--dark", action="store_true", help="a desktop with dark colours")
+    parser.add_argument("--points", type=int, default=POINTS, help="of the desktop's font; default: %(default)s")
     parser.add_argument("--output", type=Path, default=TOP / "build/journey")
     options = parser.parse_args()
     for screen in options.screen or SCREENS:
         size = tuple(int(part) for part in screen.split("x"))
-        with Session(size, options.output / screen, **SCREENS[screen]) as session:
+        look = f"{'dark' if options.dark else 'light'}_{options.points}"
+        pictures = options.output / f"{screen}_{look}"
+        with dressed(size, pictures, options.dark, options.points, **SCREENS[screen]) as session:
             window = start(session, options.program.resolve(), byKey=True)
             KeyboardRoad(window).open(options.project.resolve())
             walkPages(window)

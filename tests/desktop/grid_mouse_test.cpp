@@ -185,7 +185,8 @@ private slots:
         GridWindow w;
         w.grid.MouseMove = [&] { w.grid.ToolTipText(w.grid.MouseRow() == 0 ? "<b>share</b> of area" : ""); };
         w.hover(w.middle(0, 2));
-        QCOMPARE(w.tipAt(w.middle(0, 2)), QString("<p style='white-space:pre'>&lt;b&gt;share&lt;/b&gt; of area</p>"));
+        QCOMPARE(w.tipAt(w.middle(0, 2)),
+                 QString("<p style='white-space:pre'>&lt;b&gt;share&lt;/b&gt; of area</p>"));
         w.hover(w.middle(2, 2));
         QCOMPARE(w.tipAt(w.middle(2, 2)), QString());
     }

@@ -271,10 +271,12 @@ QSize FormView::sizeOfContents(QSize room) const {
     const QSize border = borderOfForm();
     const QSize least(link_.scale().pixels(form_.LeastSize.Width - border.width()),
                       link_.scale().pixels(form_.LeastSize.Height - border.height()));
+    const bool isTooWide = least.width() > room.width();
+    const bool isTooHigh = least.height() > room.height();
+    // What a bar of one direction takes is no reason for one of the other.
     const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
-    const QSize before = room;
-    if (least.width() > before.width()) room.rheight() -= bar;
-    if (least.height() > before.height()) room.rwidth() -= bar;
+    if (isTooWide && !isTooHigh) return {least.width(), room.height() - bar};
+    if (isTooHigh && !isTooWide) return {room.width() - bar, least.height()};
     return room.expandedTo(least);
 }
 

@@ -174,6 +174,24 @@ private slots:
         QCOMPARE(area.verticalScrollBar()->maximum(), 0);
     }
 
+    void aScrollBarOfOneDirectionMakesNoneOfTheOther() {
+        InMainWindow program;
+        auto& area = *program.window().findChild<QScrollArea*>();
+        const desktop::Scale& scale = program.desktop.scale();
+        const auto twips = [&](int pixels) {
+            return scale.twipsWithin(pixels) + ui::FormWindow::BorderWidth;
+        };
+        program.form().LeastSize = {twips(area.width()), twips(area.height() + 300)};
+        QResizeEvent resized(program.window().size(), program.window().size());
+        QApplication::sendEvent(&program.window(), &resized);
+        QVERIFY(area.verticalScrollBar()->maximum() > 0);
+        QCOMPARE(area.horizontalScrollBar()->maximum(), 0);
+        program.form().LeastSize = {twips(area.width() + 300), twips(area.height() - 60)};
+        QApplication::sendEvent(&program.window(), &resized);
+        QVERIFY(area.horizontalScrollBar()->maximum() > 0);
+        QCOMPARE(area.verticalScrollBar()->maximum(), 0);
+    }
+
     void minimisingChangesNothing() {
         InMainWindow program;
         const int width = program.form().tabBrenica.Width();

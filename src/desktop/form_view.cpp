@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QContextMenuEvent>
 #include <QLabel>
 #include <QScreen>
 #include <QShortcut>
@@ -52,6 +53,15 @@ const ui::Control* boxBeside(const ui::Control& label, const Controls& controls)
         if (label.Top() < middle && middle < label.Top() + label.Height()) return control;
     }
     return nullptr;
+}
+
+/// As the key for it does, which not every keyboard has.
+void openContextMenu() {
+    QWidget* focus = QApplication::focusWidget();
+    if (focus == nullptr) return;
+    const QPoint place = focus->rect().center();
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, place, focus->mapToGlobal(place));
+    QApplication::sendEvent(focus, &event);
 }
 
 }  // namespace
@@ -112,7 +122,7 @@ void FormView::retire() {
 }
 
 /// The keys that turn pages wherever the focus is, those of the outermost strip on view and of the innermost, and the
-/// key of the menu.
+/// keys of the menus.
 void FormView::addKeys() {
     const auto add = [this](const QKeySequence& keys, const std::function<void()>& action) {
         connect(new QShortcut(keys, this), &QShortcut::activated, this, action);
@@ -122,6 +132,7 @@ void FormView::addKeys() {
     add(Qt::CTRL | Qt::Key_Tab, [this] { turnPage(true, 1); });
     add(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab, [this] { turnPage(true, -1); });
     if (menu_ != nullptr) add(Qt::Key_F10, [this] { menu_->setActiveAction(menu_->actions().first()); });
+    add(Qt::SHIFT | Qt::Key_F10, openContextMenu);
 }
 
 void FormView::turnPage(bool innermost, int by) {

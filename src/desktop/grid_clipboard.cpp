@@ -53,7 +53,9 @@ void GridView::contextMenuEvent(QContextMenuEvent* event) {
     } else {
         offerForCells(*menu);
     }
-    menu->popup(event->globalPos());
+    const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
+    const QPoint current = cellPlace(grid_.Row(), grid_.Col()).center();
+    menu->popup(byKey ? viewport()->mapToGlobal(current) : event->globalPos());
 }
 
 bool GridView::canPaste() const {

@@ -370,6 +370,19 @@ private slots:
         QTest::keyClick(menu, Qt::Key_Escape);
     }
 
+    void shiftF10OpensTheMenuOfWhatHasTheFocus() {
+        MainWindow w;
+        w.view->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(w.view.get()));
+        QWidget& grid = w.widgetOf(w.form->flxCandidateSpecies);
+        grid.setFocus();
+        QTest::keyClick(w.view.get(), Qt::Key_F10, Qt::ShiftModifier);
+        QWidget* menu = QApplication::activePopupWidget();
+        QVERIFY(menu != nullptr);
+        QCOMPARE(menu->parentWidget(), &grid);
+        QTest::keyClick(menu, Qt::Key_Escape);
+    }
+
     void whatAControlDoesIsItsTip() {
         MainWindow w;
         for (const ui::CommandButton& button : w.form->cmdSpeciesMove) {

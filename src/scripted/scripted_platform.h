@@ -38,8 +38,8 @@ public:
     int PendingEventPasses = 0;
     std::vector<std::string> CopiedPictures;  ///< names of the charts
     std::vector<std::string> SavedPictures;   ///< paths
-    /// Measures a text in the place of the rule of thumb.
     bool Draws = true;
+    /// Measures a text in the place of the rule of thumb.
     std::function<int(std::string_view text, const ui::Font& font)> TextWidth;
     /// Called before a picture is saved; it may raise.
     std::function<void()> BeforeSavePicture;

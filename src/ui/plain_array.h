@@ -47,6 +47,7 @@ private:
         memory_.reset(static_cast<T*>(memory));
         capacity_ = capacity;
     }
+
     std::unique_ptr<T, Release> memory_;
     std::size_t size_ = 0;
     std::size_t capacity_ = 0;

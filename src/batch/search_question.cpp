@@ -2,12 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "batch/search_question.h"
 
-#include <algorithm>
-#include <thread>
-
 #include "batch/interruption.h"
 #include "batch/progress_line.h"
 #include "batch/search_options.h"
+#include "insight/cores.h"
 
 namespace {
 
@@ -20,7 +18,7 @@ Answer searchProject(const ExplainedProject& project, const SearchOptions& optio
                       " species, " + std::to_string(now.Nodes) + " steps");
     };
     const insight::SearchEffort effort{options.limitInSeconds(), options.Nodes, &interruption.wanted(), tell,
-                                       std::max(1U, std::thread::hardware_concurrency())};
+                                       insight::coresOfMachine()};
     insight::SearchBudget budget(effort);
     const insight::Representation representation(project.Run);
     const insight::CoverProblem problem = coverProblem(project.Run, representation);

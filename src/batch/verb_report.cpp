@@ -5,7 +5,6 @@
 #include <optional>
 #include <string>
 #include <system_error>
-#include <thread>
 
 #include "batch/distinct_outputs.h"
 #include "batch/input_file.h"
@@ -16,6 +15,7 @@
 #include "batch/search_options.h"
 #include "batch/usage_fault.h"
 #include "batch/verbs.h"
+#include "insight/cores.h"
 #include "insight/report/report.h"
 #include "insight/report/verdict.h"
 #include "selection/margin_answers.h"
@@ -89,9 +89,8 @@ insight::ResultTable verdictTable(const insight::ReportFindings& findings) {
 Answer ask(ReportOptions& options, const ExplainedProject& project) {
     const Interruption interruption;
     ProgressLine progress;
-    insight::ReportWork work{options.Search.limitInSeconds(), options.Search.Nodes,
-                             std::max(1U, std::thread::hardware_concurrency()), &interruption.wanted(),
-                             [&](const std::string& text) { progress.tell(text); }};
+    insight::ReportWork work{options.Search.limitInSeconds(), options.Search.Nodes, insight::coresOfMachine(),
+                             &interruption.wanted(), [&](const std::string& text) { progress.tell(text); }};
     const insight::ReportFindings findings(project.Run, marginAnswers(project.AnswersLeft), work);
     const std::string name = std::filesystem::path(project.Options.Project).filename().string();
     insight::ReportOrigin origin{name, options.ProjectHash, BRENICA_VERSION, project.Options.Answers, work};

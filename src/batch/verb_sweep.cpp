@@ -6,7 +6,6 @@
 #include <limits>
 #include <optional>
 #include <string>
-#include <thread>
 
 #include "batch/command_line.h"
 #include "batch/distinct_outputs.h"
@@ -17,6 +16,7 @@
 #include "batch/project_question.h"
 #include "batch/usage_fault.h"
 #include "batch/verbs.h"
+#include "insight/cores.h"
 #include "insight/sweep/counts_file.h"
 #include "insight/sweep/sweep.h"
 #include "selection/margin_answers.h"
@@ -26,7 +26,7 @@ namespace {
 struct SweepOptions {
     insight::SweepSettings Settings;
     std::vector<std::string> Vary;
-    unsigned Threads = std::max(1U, std::thread::hardware_concurrency());
+    unsigned Threads = insight::coresOfMachine();
     std::string Shard = "1/1";
     std::optional<std::string> Counts;
     std::optional<OutputFile> CountsFile;  ///< of that name, from before the work on

@@ -2,12 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/own/report_maker.h"
 
-#include <algorithm>
 #include <exception>
 #include <string>
 #include <thread>
 #include <utility>
 
+#include "insight/cores.h"
 #include "selection/margin_answers.h"
 
 namespace desktop {
@@ -47,7 +47,7 @@ void ReportMaker::tell(const std::shared_ptr<Work>& work, Told told) {
 void ReportMaker::run(const std::shared_ptr<Work>& work) try {
     const Order& order = work->Ordered;
     insight::ReportWork how = order.Origin.Limits;
-    how.Threads = std::max(1U, std::thread::hardware_concurrency());
+    how.Threads = insight::coresOfMachine();
     how.Stop = &work->Stop;
     how.Progress = [&](const std::string& words) {
         tell(work, [this, words = QString::fromStdString(words)] { emit progressed(words); });

@@ -72,7 +72,8 @@ Markup element(const char* name, std::string_view text) { return element(name, {
 Markup voidElement(const char* name, std::initializer_list<Attribute> attributes) {
     // HTML takes the slash for nothing, XML for the end of the element.
     Markup tag = startTag(name, attributes);
-    tag.text_.insert(tag.text_.size() - 1, "/");
+    tag.text_.pop_back();
+    tag.text_ += "/>";
     return tag;
 }
 

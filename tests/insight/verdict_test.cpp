@@ -69,6 +69,13 @@ TEST(Verdict, SaysWhatWouldBeEnoughAndWhatCouldGo) {
                             "smallest suites."));
 }
 
+TEST(Verdict, NamesTheOnlySuiteThatIsSmaller) {
+    const auto sentences = verdictOf(selected(example("full_landscape.brn")));
+    EXPECT_THAT(sentences, Contains("One suite of nine species covers all that can be covered."));
+    EXPECT_THAT(sentences, Contains(HasSubstr("It is Andean Bear, Lowland Tapir")));
+    EXPECT_THAT(sentences, Not(Contains(HasSubstr("highest total"))));
+}
+
 TEST(Verdict, SaysWhatWasMissed) {
     RunOptions options = example("missed_unit.brn");
     options.ErrorMargin = "30";

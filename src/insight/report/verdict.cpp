@@ -209,7 +209,9 @@ Sentence prunedInstead(const ReportFindings& found) {
 
 Sentence bestInstead(const ReportFindings& found) {
     if (isSmallestKnown(found) || found.Index.units() == 0) return {};
-    const char* what = found.Minimum.isProven()         ? "Of these the one with the highest total: "
+    const bool isOnly = found.Smallest.IsExact && found.Smallest.Count == 1;
+    const char* what = isOnly                           ? "It is "
+                       : found.Minimum.isProven()       ? "Of these the one with the highest total: "
                        : found.Minimum.Known.isProven() ? "One of that size: "
                                                         : "The smallest known: ";
     return Sentence(what).names(speciesNames(found.Run, found.Index, found.Minimum.Known.Suite)).say(".");

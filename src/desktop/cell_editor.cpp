@@ -24,12 +24,6 @@ constexpr double Endless = 1e6;
 
 }  // namespace
 
-void typeInto(ui::Grid& grid, const QString& text) {
-    for (const uint character : text.toUcs4()) {
-        if (ui::isPrintable(static_cast<int>(character))) grid.UserEditKey(static_cast<int>(character));
-    }
-}
-
 CellEditor::CellEditor(ui::Grid& grid, FormLink& link, const GridPainter& painter, QWidget* view,
                        QWidget* viewport)
     : QWidget(viewport),
@@ -88,29 +82,6 @@ void CellEditor::timerEvent(QTimerEvent*) {
     update();
 }
 
-bool CellEditor::key(QKeyEvent* event) {
-    if (listKey(event) || commandKey(event) || caretKey(event) || steppingKey(event)) return true;
-    if (!isTyping(*event)) return false;
-    link_.run([this, typed = event->text()] { typeInto(grid_, typed); });
-    return true;
-}
-
-/// Keys of the open list, and those that open and close it.
-bool CellEditor::listKey(QKeyEvent* event) {
-    const bool alt = event->modifiers() & Qt::AltModifier;
-    const bool toggles = event->key() == Qt::Key_F4 || (alt && event->key() == Qt::Key_Down) ||
-                         (alt && event->key() == Qt::Key_Up);
-    if (!list_->isVisible()) {
-        if (toggles) openList();
-        return toggles;
-    }
-    if (toggles || event->key() == Qt::Key_Escape) return list_->hide(), true;
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-        return chooseItem(list_->currentRow(), true), true;
-    }
-    return list_->move(event->key());
-}
-
 void CellEditor::openList() {
     if (!grid_.Editing() || isHidden()) return;
     const auto offered = grid_.ComboItems();
@@ -151,94 +122,6 @@ QRect CellEditor::button() const {
     if (grid_.ComboList().empty()) return {};
     const int side = std::min(height(), width() / 2) - 2 * FrameWidth;
     return {width() - FrameWidth - side, FrameWidth, side, height() - 2 * FrameWidth};
-}
-
-bool CellEditor::commandKey(QKeyEvent* event) {
-    if (event->matches(QKeySequence::Copy)) return copy(), true;
-    if (event->matches(QKeySequence::Cut)) return cut(), true;
-    if (event->matches(QKeySequence::Paste)) return paste(), true;
-    if (event->matches(QKeySequence::SelectAll)) return selectAll(), true;
-    return false;
-}
-
-bool CellEditor::caretKey(QKeyEvent* event) {
-    const bool extends = event->modifiers() & Qt::ShiftModifier;
-    const bool byWords = event->modifiers() & Qt::ControlModifier;
-    const int end = static_cast<int>(text().toUcs4().size());
-    const auto moveTo = [&](int caret) { select(extends ? anchor_ : caret, caret); };
-    QTextLayout layout(text());
-    const auto next = [&](bool forwards) {
-        const int unit = unitOf(text(), caret_);
-        const auto mode = byWords ? QTextLayout::SkipWords : QTextLayout::SkipCharacters;
-        return characterOf(text(), forwards ? layout.nextCursorPosition(unit, mode)
-                                            : layout.previousCursorPosition(unit, mode));
-    };
-    switch (event->key()) {
-        case Qt::Key_Home: moveTo(0); return true;
-        case Qt::Key_End: moveTo(end); return true;
-        // Bare arrows leave the cell.
-        case Qt::Key_Left:
-            if (extends || byWords) moveTo(next(false));
-            return extends || byWords;
-        case Qt::Key_Right:
-            if (extends || byWords) moveTo(next(true));
-            return extends || byWords;
-        case Qt::Key_Delete: deleteNext(); return true;
-        default: return false;
-    }
-}
-
-bool CellEditor::steppingKey(QKeyEvent* event) {
-    const auto step = [this](int key) { link_.run([=, this] { grid_.UserEditKey(key); }); };
-    const bool shifted = event->modifiers() & Qt::ShiftModifier;
-    if (event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) return false;
-    switch (event->key()) {
-        case Qt::Key_Return:
-        case Qt::Key_Enter:
-            if (shifted) {
-                link_.run([this] {
-                    if (grid_.UserCommitEdit()) grid_.UserStep(ui::UpKey);
-                });
-            } else {
-                step(ui::EnterKey);
-            }
-            return true;
-        case Qt::Key_Escape: step(ui::EscapeKey); return true;
-        case Qt::Key_Backspace: step(ui::BackspaceKey); return true;
-        case Qt::Key_Left: step(ui::LeftKey); return true;
-        case Qt::Key_Right: step(ui::RightKey); return true;
-        case Qt::Key_Up: step(ui::UpKey); return true;
-        case Qt::Key_Down: step(ui::DownKey); return true;
-        default: return false;
-    }
-}
-
-void CellEditor::tab(bool backwards) {
-    const bool chosen = list_->isVisible() && list_->currentItem() != nullptr;
-    const std::string item = chosen ? utf8(list_->currentItem()->text()) : std::string();
-    link_.run([&] {
-        if (chosen && !grid_.UserEditChoose(item)) return;
-        if (!backwards) {
-            grid_.UserEditKey(ui::TabKey);
-        } else if (grid_.UserCommitEdit()) {
-            grid_.UserStepBack();
-        }
-    });
-}
-
-void CellEditor::deleteNext() {
-    if (anchor_ != caret_) return replaceSelection({});
-    const int end = static_cast<int>(text().toUcs4().size());
-    if (caret_ == end) return;
-    link_.run([this] {
-        const int caret = grid_.Editor().SelStart();
-        grid_.UserEditSelect(caret, 1);
-        if (!grid_.UserEditPaste("")) grid_.UserEditSelect(caret, 0);
-    });
-}
-
-void CellEditor::replaceSelection(const QString& text) {
-    link_.run([this, pasted = utf8(text)] { grid_.UserEditPaste(pasted); });
 }
 
 void CellEditor::copy() const {

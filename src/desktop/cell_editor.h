@@ -5,6 +5,7 @@
 #include <QBasicTimer>
 #include <QTextLayout>
 #include <QWidget>
+#include <functional>
 #include <optional>
 #include <utility>
 
@@ -44,6 +45,8 @@ public:
     void preedit(const QString& text);
     QVariant inputMethodValue(Qt::InputMethodQuery query) const;
     void showCaret(bool blinking);
+    /// Says at the cell that it does not accept a text.
+    void tellRefused(const QString& text);
 
     // For screen readers, in Qt's units.
     struct Units {
@@ -72,6 +75,8 @@ private:
     bool commandKey(QKeyEvent* event);
     bool caretKey(QKeyEvent* event);
     bool steppingKey(QKeyEvent* event);
+    void type(const QString& text);
+    void leaveBy(const std::function<bool()>& step);
     void deleteNext();
     void replaceSelection(const QString& text);
     QString selectedText() const;
@@ -100,7 +105,7 @@ private:
     QBasicTimer blinking_;
 };
 
-/// Types each character of a text into the open edit.
-void typeInto(ui::Grid& grid, const QString& text);
+/// Types each character of a text into the open edit; false where one is refused.
+bool typeInto(ui::Grid& grid, const QString& text);
 
 }  // namespace desktop

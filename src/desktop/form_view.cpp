@@ -6,6 +6,7 @@
 #include <QCloseEvent>
 #include <QContextMenuEvent>
 #include <QLabel>
+#include <QPointer>
 #include <QScreen>
 #include <QShortcut>
 #include <QStyle>
@@ -144,7 +145,10 @@ void FormView::turnPage(bool innermost, int by) {
     }
     if (shown.isEmpty()) return;
     TabStripView& strip = innermost ? *shown.last() : *shown.first();
+    const QPointer<QWidget> focused = focusWidget();
     strip.step(by, &strip != shown.first());  // the pages have a first and a last
+    // What has gone with its page would leave the focus to whatever comes next.
+    if (focused != nullptr && !focused->isVisible()) strip.setFocus(Qt::ShortcutFocusReason);
 }
 
 View* FormView::viewOf(const ui::Control& control) const {

@@ -70,7 +70,7 @@ public:
 
 private:
     QList<QAccessibleInterface*> heading(int row, int col) const;
-    bool isCurrent() const { return row_ == view_->grid().Row() && col_ == view_->grid().Col(); }
+    bool isCurrent() const { return view_->grid().KeyCell() == std::pair(row_, col_); }
 
     QPointer<GridView> view_;
     int row_;
@@ -130,7 +130,8 @@ public:
         return cellAt(cell.Row, cell.Col);
     }
     QAccessibleInterface* focusChild() const override {
-        return view().hasFocus() ? cellAt(grid().Row(), grid().Col()) : nullptr;
+        const auto [row, col] = grid().KeyCell();
+        return view().hasFocus() ? cellAt(row, col) : nullptr;
     }
 
     QAccessibleInterface* cellAt(int row, int col) const override;
@@ -197,9 +198,10 @@ QAccessibleInterface* makeGridInterface(const QString&, QObject* object) {
 
 void tell(GridView& view, QAccessible::Event kind) {
     const ui::Grid& grid = view.grid();
-    if (!QAccessible::isActive() || !has(grid, grid.Row(), grid.Col())) return;
+    const auto [row, col] = grid.KeyCell();
+    if (!QAccessible::isActive() || !has(grid, row, col)) return;
     QAccessibleEvent event(&view, kind);
-    event.setChild(grid.Row() * grid.Cols() + grid.Col());
+    event.setChild(row * grid.Cols() + col);
     QAccessible::updateAccessibility(&event);
 }
 

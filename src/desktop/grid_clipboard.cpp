@@ -84,6 +84,15 @@ void GridView::offerForCells(QMenu& menu) {
     offer(menu, ui::window_text::CopyCells, QKeySequence::Copy, true, [this] { copyCells(); });
     offer(menu, own_texts::CopyWithHeadings, CopyWithHeadingsKeys, true, [this] { copyWithHeadings(); });
     offer(menu, ui::window_text::PasteCells, QKeySequence::Paste, canPaste(), [this] { pasteCells(); });
+    menu.addSeparator();
+    if (grid_.MouseDown) offer(menu, own_texts::SortByColumn, {}, true, [this] { sortByColumn(); });
+    offer(menu, own_texts::ExplainCell, QKeySequence::WhatsThis, true, [this] { explainCell(); });
+}
+
+/// As a click on the heading does, for whoever works by keys.
+void GridView::sortByColumn() {
+    hovered_ = {0, grid_.KeyCell().second};
+    act([this] { grid_.UserMouseDown(hovered_.Row, hovered_.Col); });
 }
 
 /// Only one cell at a time can be emptied.

@@ -5,6 +5,7 @@
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QScrollBar>
+#include <QToolTip>
 #include <algorithm>
 
 #include "desktop/cell_editor.h"
@@ -25,6 +26,7 @@ bool isRedo(const QKeyEvent& event) {
 }  // namespace
 
 void GridView::keyPressEvent(QKeyEvent* event) {
+    QToolTip::hideText();  // what was refused before is history
     if (grid_.Editing() && editorKey(event)) return;
     if (clipboardKey(event) || historyKey(event) || moveKey(event) || editKey(event)) return;
     event->ignore();
@@ -54,6 +56,7 @@ bool GridView::goByTab(bool backwards) {
         return true;
     }
     if (grid_.Editable == ui::EditMode::ReadOnly) return false;
+    enterBody();
     if (backwards ? grid_.AtFirstCell() : grid_.AtLastCell()) return false;
     step([=, this] { return backwards ? grid_.UserStepBack() : grid_.UserStep(ui::TabKey); });
     return true;
@@ -82,6 +85,11 @@ void GridView::replay(bool (CellHistory::*way)()) {
     if (additions_.History != nullptr) step([=, this] { return (additions_.History->*way)(); });
 }
 
+/// Keys begin at the cell that has the frame.
+void GridView::enterBody() {
+    act([this] { grid_.UserEnterBody(); });
+}
+
 bool GridView::moveKey(QKeyEvent* event) {
     const bool extends = event->modifiers() & Qt::ShiftModifier;
     const bool toCorner = event->modifiers() & Qt::ControlModifier;
@@ -89,6 +97,7 @@ bool GridView::moveKey(QKeyEvent* event) {
     switch (event->key()) {
         case Qt::Key_Return:
         case Qt::Key_Enter:
+            enterBody();
             step([=, this] { return grid_.UserStep(extends ? ui::UpKey : ui::EnterKey); });
             return true;
         case Qt::Key_Up:
@@ -101,6 +110,7 @@ bool GridView::moveKey(QKeyEvent* event) {
         case Qt::Key_PageDown: break;
         default: return false;
     }
+    enterBody();
     const CellAddress from =
         extends ? CellAddress{grid_.RowSel(), grid_.ColSel()} : CellAddress{grid_.Row(), grid_.Col()};
     const CellAddress to = target(event->key(), toCorner, from);
@@ -119,10 +129,7 @@ CellAddress GridView::target(int key, bool toCorner, CellAddress from) const {
     const int firstCol = geometry_.nextShownCol(geometry_.fixedCols() - 1, 1);
     const int lastCol = geometry_.nextShownCol(grid_.Cols(), -1);
     if (firstRow > lastRow || firstCol < 0) return {};
-    if (from.Row < firstRow || from.Col < geometry_.fixedCols()) {
-        const int col = geometry_.nextShownCol(std::max(from.Col - 1, geometry_.fixedCols() - 1), 1);
-        return {std::max(from.Row, firstRow), col};
-    }
+    if (from.Row < firstRow || from.Col < geometry_.fixedCols()) return {};
     const auto column = [&](int step) {
         const int next = geometry_.nextShownCol(from.Col, step);
         return next < 0 ? from.Col : next;
@@ -177,6 +184,10 @@ bool GridView::editKey(QKeyEvent* event) {
     if (event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) return false;
     switch (event->key()) {
         case Qt::Key_F2: beginEdit(); return true;
+        case Qt::Key_F1:
+            if (!(event->modifiers() & Qt::ShiftModifier)) return false;
+            explainCell();
+            return true;
         case Qt::Key_Delete: act([this] { grid_.UserDelete(); }); return true;
         case Qt::Key_Backspace: edit([this] { grid_.UserEditKey(ui::BackspaceKey); }); return true;
         default: break;
@@ -200,7 +211,9 @@ void GridView::beginEdit() {
 }
 
 void GridView::typeText(const QString& text) {
-    edit([&] { typeInto(grid_, text); });
+    bool isTaken = true;
+    edit([&] { isTaken = typeInto(grid_, text); });
+    if (!isTaken) editor_->tellRefused(text);
 }
 
 void GridView::inputMethodEvent(QInputMethodEvent* event) {

@@ -228,12 +228,13 @@ void GridPainter::paintLines(QPainter& painter, const Area& area, const QColor& 
     painter.drawLines(lines);
 }
 
-/// Shades a range that the user has selected, and frames the current cell of the grid with the focus. A range that code has selected to set its
-/// colours must not change how these look.
+/// Shades a range that the user has selected, and frames the cell that keys begin at in the grid with the focus. A range
+/// that code has selected to set its colours must not change how these look.
 void GridPainter::paintSelection(QPainter& painter, const Area& body, bool focused) const {
-    const CellAddress current{grid_.Row(), grid_.Col()};
-    if (!body.Clip.isValid() || current.Row < geometry_.fixedRows() || current.Col < geometry_.fixedCols())
-        return;
+    const auto [row, col] = grid_.KeyCell();
+    const CellAddress current{row, col};
+    const bool isInBody = row >= geometry_.fixedRows() && row < grid_.Rows() && col >= geometry_.fixedCols();
+    if (!body.Clip.isValid() || !isInBody) return;
     painter.setClipRect(body.Clip);
     const QColor highlight = palette_.color(QPalette::Highlight);
     // The frame covers the line before the cell too.

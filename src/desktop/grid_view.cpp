@@ -218,6 +218,23 @@ void GridView::showToolTip(QHelpEvent* event) {
                        cell.Row < 0 ? QRect() : geometry_.cell(cell.Row, cell.Col));
 }
 
+/// What the pointer would tell of the cell that keys begin at: the name of its column, what that means, and a text that is
+/// cut.
+void GridView::explainCell() {
+    const auto [row, col] = grid_.KeyCell();
+    if (row >= grid_.Rows() || col < 0) return;
+    hovered_ = {0, col};
+    act([this] { grid_.UserMouseMove(hovered_.Row, hovered_.Col); });
+    QStringList lines = {
+        shownText(additions_.HeadingOf ? additions_.HeadingOf(col) : std::string(grid_.TextMatrix(0, col)))};
+    lines << shownText(grid_.ToolTipText());
+    if (painter_.isCut({row, col})) lines << shownText(grid_.TextMatrix(row, col));
+    lines.removeAll({});
+    lines.removeDuplicates();
+    QToolTip::showText(viewport()->mapToGlobal(cellPlace(row, col).bottomLeft()),
+                       plainToolTip(utf8(lines.join('\n'))), viewport());
+}
+
 void GridView::reveal(CellAddress cell) {
     if (cell.Row < geometry_.fixedRows() || cell.Col < geometry_.fixedCols()) return;
     if (cell.Row >= grid_.Rows() || cell.Col >= grid_.Cols()) return;

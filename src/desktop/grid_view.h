@@ -77,6 +77,7 @@ private:
     void paintFrame();
     void reveal(CellAddress cell);
     void showToolTip(QHelpEvent* event);
+    void explainCell();
 
     // Keys, while no editor is open (grid_keys.cpp).
     static bool isOwnShortcut(QKeyEvent& key);
@@ -85,6 +86,7 @@ private:
     bool clipboardKey(QKeyEvent* event);
     bool historyKey(QKeyEvent* event);
     void replay(bool (CellHistory::*way)());
+    void enterBody();
     bool moveKey(QKeyEvent* event);
     bool editKey(QKeyEvent* event);
     CellAddress target(int key, bool toCorner, CellAddress from) const;
@@ -102,6 +104,7 @@ private:
     bool canPaste() const;
     void offerForText(QMenu& menu);
     void offerForCells(QMenu& menu);
+    void sortByColumn();
     void cutCell();
     void copyCells() const;
     void copyWithHeadings() const;

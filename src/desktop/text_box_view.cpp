@@ -69,7 +69,7 @@ void TextBoxView::follow() {
     }
     const int start = unitOf(shown, box_.SelStart());
     const int end = unitOf(shown, box_.SelStart() + box_.SelLength());
-    if (start != end) {
+    if (start != end && hasFocus()) {
         setSelection(start, end - start);
     } else {
         setCursorPosition(start);

@@ -9,6 +9,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "ui/appearance.h"
@@ -245,8 +246,10 @@ public:
     /// Whether Tab, or Tab backwards, finds no further cell.
     bool AtLastCell() const;
     bool AtFirstCell() const;
-    /// Moves from a heading, where a grid's current cell is at first, to the first cell of the body; false where there
-    /// is none.
+    /// The cell that keys begin at: the current one, or, where that is a heading as at first, the one of the body that
+    /// they lead to from there. It may be outside the grid.
+    std::pair<int, int> KeyCell() const;
+    /// Moves from a heading to the cell that keys begin at; false where there is none.
     bool UserEnterBody();
     /// Selects the cells between the current cell and this one of the body, without moving the current cell.
     bool UserSelectTo(int row, int col);
@@ -265,8 +268,9 @@ public:
     void UserFitColumn(int col);
     /// Opens the editor on the current cell with its whole text selected, unless BeforeEdit refuses.
     bool UserBeginEdit();
-    /// Types a key into the editor; Enter, Tab and the arrows commit and move, Escape cancels.
-    void UserEditKey(int key);
+    /// Types a key into the editor; Enter, Tab and the arrows commit and move, Escape cancels. False where the cell
+    /// refuses the key, or what was typed before.
+    bool UserEditKey(int key);
     bool UserEditPaste(std::string_view text);
     /// Selects in the editor by the mouse or the keyboard, in characters.
     void UserEditSelect(int start, int length);
@@ -328,7 +332,6 @@ private:
     }
     int nextShownCol(int col, int step) const;
     bool stepTo(int row, int col);
-    bool stepIntoBody();
     void measure(int firstCol, int lastCol);
     int headingLines(int col) const;
     void printRows(Files& files, int fileNumber) const;

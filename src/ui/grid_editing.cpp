@@ -53,16 +53,20 @@ int Grid::nextShownCol(int col, int step) const {
 
 bool Grid::stepTo(int row, int col) { return isBody(row, col) && UserMoveTo(row, col); }
 
-/// From a heading to the cell of the body that is next to it.
-bool Grid::stepIntoBody() {
+/// From a heading that is the cell of the body next to it.
+std::pair<int, int> Grid::KeyCell() const {
+    if (isBody(row_, col_)) return {row_, col_};
     const int before = row_ < fixedRows_ ? fixedCols_ - 1 : std::max(col_, fixedCols_) - 1;
-    return stepTo(std::max(row_, fixedRows_), nextShownCol(before, 1));
+    return {std::max(row_, fixedRows_), nextShownCol(before, 1)};
 }
 
-bool Grid::UserEnterBody() { return isBody(row_, col_) || stepIntoBody(); }
+bool Grid::UserEnterBody() {
+    const auto [row, col] = KeyCell();
+    return isBody(row_, col_) || stepTo(row, col);
+}
 
 bool Grid::UserStep(int key) {
-    if (!isBody(row_, col_)) return stepIntoBody();
+    if (!isBody(row_, col_)) return UserEnterBody();
     switch (key) {
         case EnterKey:
         case DownKey: return stepTo(row_ + 1, col_);
@@ -202,19 +206,23 @@ bool Grid::UserBeginEdit() {
     return true;
 }
 
-void Grid::UserEditKey(int key) {
-    if (!editing_) return;
-    if (key == EscapeKey) return UserCancelEdit();
-    if (isStep(key)) {
-        if (UserCommitEdit()) UserStep(key);
-        return;
+bool Grid::UserEditKey(int key) {
+    if (!editing_) return false;
+    if (key == EscapeKey) {
+        UserCancelEdit();
+        return true;
     }
-    if (!isPrintable(key) && key != BackspaceKey) return;
+    if (isStep(key)) {
+        if (!UserCommitEdit()) return false;
+        UserStep(key);
+        return true;
+    }
+    if (!isPrintable(key) && key != BackspaceKey) return false;
     KeyPressEdit(row_, col_, key);
-    if (key == 0) return;
+    if (key == 0) return false;
     TextEditor typed = editor_;
     typed.Type(key);
-    accept(std::move(typed));
+    return accept(std::move(typed));
 }
 
 bool Grid::UserEditPaste(std::string_view text) {

@@ -64,6 +64,62 @@ private slots:
         QCOMPARE(w.grid.EditText(), std::string("12"));
     }
 
+    void aKeyThatIsRefusedIsTold() {
+        GridWindow w;
+        w.grid.KeyPressEdit = [&](int, int, int& key) {
+            if (key < '0' || key > '9') key = 0;
+        };
+        w.type("1x");
+        QCOMPARE(w.tip(), QString("“x” is not accepted here."));
+        w.type("2");
+        QVERIFY(w.tip().isEmpty());
+        QCOMPARE(w.grid.EditText(), std::string("12"));
+    }
+
+    void anItemThatTheListHasNotIsToldWithThoseItHas() {
+        GridWindow w;
+        w.grid.BeforeEdit = [&](int, int, bool&) { w.grid.ComboList("0|1|2"); };
+        w.type("9");
+        QCOMPARE(w.tip(), QString("“9” is not accepted here. Choose 0, 1 or 2."));
+        w.key(Qt::Key_Escape);
+        QVERIFY(w.tip().isEmpty());
+        w.key(Qt::Key_Backspace);
+        QVERIFY(w.tip().isEmpty());
+        QApplication::clipboard()->setText("<b>many</b>");
+        w.key(Qt::Key_V, Qt::ControlModifier);
+        QVERIFY2(w.tip().contains("many"), qPrintable(w.tip()));
+        w.type("2");
+        QVERIFY(w.tip().isEmpty());
+    }
+
+    void aTextThatMayNotBeLeftIsTold_data() {
+        QTest::addColumn<int>("key");
+        QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
+        QTest::newRow("Enter") << static_cast<int>(Qt::Key_Return) << Qt::KeyboardModifiers();
+        QTest::newRow("Shift+Enter") << static_cast<int>(Qt::Key_Return)
+                                     << Qt::KeyboardModifiers(Qt::ShiftModifier);
+        QTest::newRow("Tab") << static_cast<int>(Qt::Key_Tab) << Qt::KeyboardModifiers();
+        QTest::newRow("Shift+Tab") << static_cast<int>(Qt::Key_Backtab)
+                                   << Qt::KeyboardModifiers(Qt::ShiftModifier);
+    }
+
+    void aTextThatMayNotBeLeftIsTold() {
+        QFETCH(int, key);
+        QFETCH(Qt::KeyboardModifiers, modifiers);
+        GridWindow w;
+        w.select(2, 2);
+        w.grid.ValidateEdit = [&](int, int, bool& cancel) { cancel = w.grid.EditText() == "1.5"; };
+        w.type("1.5");
+        w.key(key, modifiers);
+        QVERIFY(w.editorShows());
+        QCOMPARE(w.tip(), QString("“1.5” is not accepted here."));
+        w.key(Qt::Key_Backspace);
+        QVERIFY(w.tip().isEmpty());
+        w.key(key, modifiers);
+        QVERIFY(!w.editorShows());
+        QVERIFY(w.tip().isEmpty());
+    }
+
     void commandsReachNoKeyFilter() {
         GridWindow w;
         int keys = 0;

@@ -95,6 +95,14 @@ private slots:
         QCOMPARE(QToolTip::text(), QString("“no” is not accepted here: 2 cells not pasted."));
     }
 
+    void theNextKeyTakesTheTipAway() {
+        PasteWindow w;
+        w.paste("no1");
+        QVERIFY(!PasteWindow::tip().isEmpty());
+        w.key(Qt::Key_Escape);
+        QVERIFY(PasteWindow::tip().isEmpty());
+    }
+
     void aLongTextThatIsRefusedIsShortenedAndPlain() {
         PasteWindow w;
         w.paste("no <b>" + QString(500, 'x'));

@@ -16,6 +16,8 @@ namespace desktop_test {
 /// A window with a grid between two boxes; below and beside one fixed row and column the text of a cell is
 /// "row.column". The grid has the focus and its first cell is the current one.
 struct GridWindow : Window {
+    static constexpr int TipGoes = 400;  // milliseconds
+
     ui::Grid grid{form, "flxTest"};
     QWidget window;
     QLineEdit before{&window};
@@ -83,6 +85,11 @@ struct GridWindow : Window {
     void drag(QPoint place) { movePointer(place, Qt::LeftButton); }
     void hover(QPoint place) { movePointer(place, Qt::NoButton); }
 
+    /// The one on view; a tip that was taken away goes after a moment.
+    static QString tip() {
+        QTest::qWait(TipGoes);
+        return QToolTip::isVisible() ? QToolTip::text() : QString();
+    }
     QString tipAt(QPoint place) {
         for (QWidget* widget : QApplication::topLevelWidgets()) {
             if (widget->inherits("QTipLabel")) delete widget;

@@ -76,13 +76,23 @@ private slots:
         }
     }
 
-    void aHeadingLeadsIntoTheBody() {
+    void keysBeginAtTheFirstCellWhereAHeadingIsCurrent() {
+        const std::pair<int, CellAddress> ways[] = {
+            {Qt::Key_Down, {2, 1}}, {Qt::Key_Right, {1, 2}}, {Qt::Key_Tab, {1, 2}}, {Qt::Key_Return, {2, 1}},
+            {Qt::Key_Home, {1, 1}}, {Qt::Key_End, {1, 3}},   {Qt::Key_Up, {1, 1}}};
         GridWindow w;
-        for (const int key : {Qt::Key_Down, Qt::Key_Right, Qt::Key_Tab, Qt::Key_Return}) {
+        for (const auto& [key, cell] : ways) {
             w.select(0, 0);
             w.key(key);
-            QCOMPARE(w.current(), (CellAddress{1, 1}));
+            QCOMPARE(w.current(), cell);
         }
+        w.select(0, 0);
+        w.key(Qt::Key_End, Qt::ControlModifier);
+        QCOMPARE(w.current(), (CellAddress{5, 3}));
+        w.select(0, 0);
+        w.key(Qt::Key_Down, Qt::ShiftModifier);
+        QCOMPARE(w.current(), (CellAddress{1, 1}));
+        QCOMPARE(w.selectedTo(), (CellAddress{2, 1}));
     }
 
     void tabGoesRoundTheRows() {
@@ -252,15 +262,28 @@ private slots:
         GridWindow w;
         QApplication::clipboard()->setText("pasted");
         const auto actions = openMenu(w);
-        QCOMPARE(actions.size(), 3);
+        QCOMPARE(actions.size(), 5);
         QCOMPARE(actions[0]->text(), QString(ui::window_text::CopyCells));
         QCOMPARE(actions[0]->shortcut(), QKeySequence(QKeySequence::Copy));
         QCOMPARE(actions[2]->shortcut(), QKeySequence(QKeySequence::Paste));
+        QCOMPARE(actions[4]->shortcut(), QKeySequence(QKeySequence::WhatsThis));
         actions[2]->trigger();
         QCOMPARE(w.text(1, 1), std::string("pasted"));
         w.select(2, 2);
         actions[0]->trigger();
         QCOMPARE(QApplication::clipboard()->text(), QString("2.2"));
+    }
+
+    void aTableThatSortsByItsHeadingsSortsByTheMenuToo() {
+        GridWindow w;
+        int col = -1;
+        w.grid.MouseDown = [&] { col = w.grid.MouseRow() == 0 ? w.grid.MouseCol() : -1; };
+        w.select(2, 3);
+        const auto actions = openMenu(w);
+        QCOMPARE(actions[4]->text(), QString("Sort by this column"));
+        actions[4]->trigger();
+        QCOMPARE(col, 3);
+        QCOMPARE(w.current(), (CellAddress{2, 3}));
     }
 
     void nothingIsPastedWhereNothingCanBe() {

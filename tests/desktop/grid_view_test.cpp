@@ -284,6 +284,44 @@ private slots:
                  w.view.palette().color(QPalette::Base));
     }
 
+    void theCellThatKeysBeginAtHasTheFrameBeforeThereIsACurrentOne() {
+        GridWindow w;
+        w.select(1, 1);
+        const QImage first = w.picture();
+        w.select(0, 0);
+        QCOMPARE(w.picture(), first);
+        QAccessibleInterface* view = QAccessible::queryAccessibleInterface(&w.view);
+        QCOMPARE(view->focusChild()->text(QAccessible::Name), QString("1.1"));
+        w.run([&] {
+            w.grid.Rows(1);
+            w.grid.Select(0, 0);
+        });
+        const QImage empty = w.picture();
+        w.after.setFocus();
+        QCOMPARE(w.picture(), empty);
+    }
+
+    void thePointersTipsComeByAKeyToo() {
+        GridWindow w;
+        w.view.add({nullptr, [](int col) { return col == 2 ? "Reed bed" : ""; }});
+        w.grid.MouseMove = [&] {
+            if (w.grid.MouseRow() == 0) w.grid.ToolTipText("of column " + std::to_string(w.grid.MouseCol()));
+        };
+        w.run([&] {
+            w.grid.TextMatrix(2, 2,
+                              "a text that is far too long for the cell that it stands in, and for two");
+            w.grid.Select(2, 2);
+        });
+        w.key(Qt::Key_F1, Qt::ShiftModifier);
+        QString tip = QToolTip::text();
+        QCOMPARE(
+            tip.replace('\n', ' '),
+            QString("Reed bed of column 2 a text that is far too long for the cell that it stands in, and "
+                    "for two"));
+        w.key(Qt::Key_Escape);
+        QVERIFY(GridWindow::tip().isEmpty());
+    }
+
     void aRangeThatCodeSelectsKeepsTheColoursOfItsCells() {
         GridWindow w;
         w.run([&] { w.grid.Select(1, 1); });

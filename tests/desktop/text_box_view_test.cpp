@@ -159,6 +159,23 @@ private slots:
         QCOMPARE(w.selection(), QList<int>({0, 0}));
     }
 
+    void aSelectionShowsInTheBoxWithTheFocusAlone() {
+        BoxWindow w("0");
+        w.focus();
+        const auto selectAll = [&] {
+            w.box.SelStart(0);
+            w.box.SelLength(1);
+        };
+        w.link.run(selectAll);
+        QVERIFY(w.view.hasSelectedText());
+        w.before.setFocus();
+        w.link.run(selectAll);
+        QVERIFY(!w.view.hasSelectedText());
+        QCOMPARE(w.selection(), QList<int>({0, 1}));
+        w.view.setFocus(Qt::ActiveWindowFocusReason);
+        QVERIFY(w.view.hasSelectedText());
+    }
+
     void focusSelectsNothingUnlessTheFormDoes() {
         BoxWindow w("123");
         w.focus();
@@ -217,6 +234,7 @@ private slots:
 
     void theViewShowsCaretAndSelectionOfTheForm() {
         BoxWindow w("a😀bc");
+        w.focus();
         w.select(2, 0);
         QCOMPARE(w.view.cursorPosition(), 3);
         w.select(1, 2);

@@ -43,6 +43,17 @@ TEST_F(GridSteps, AStepFromAHeadingLeadsIntoTheBody) {
     EXPECT_EQ(current(), "3.1");
 }
 
+TEST_F(GridSteps, KeysBeginAtTheCellThatTheyLeadToFromAHeading) {
+    using Cell = std::pair<int, int>;
+    grid.Select(3, 2);
+    EXPECT_EQ(grid.KeyCell(), Cell(3, 2));
+    grid.Select(0, 2);
+    EXPECT_EQ(grid.KeyCell(), Cell(1, 1));
+    grid.ColHidden(1, true);
+    EXPECT_EQ(grid.KeyCell(), Cell(1, 2));
+    EXPECT_EQ(current(), "0.2");
+}
+
 TEST_F(GridSteps, AStepFromAHeadingOfAnEmptyGridLeadsNowhere) {
     grid.Rows(1);
     grid.Select(0, 0);

@@ -17,10 +17,14 @@ inline constexpr const char* HideCopies = "Hide them";
 inline constexpr const char* ShowCopy = "Show it";
 inline constexpr const char* HideCopy = "Hide it";
 
-// The menu of a table, and the tip where pasting stops: the refused text, and how many cells are left.
+// The menu of a table, and the tips at a cell that refuses a text: what it offers, or how many cells are left to paste.
 inline constexpr const char* Undo = "Undo";
 inline constexpr const char* Redo = "Redo";
 inline constexpr const char* CopyWithHeadings = "Copy with headings";
+inline constexpr const char* SortByColumn = "Sort by this column";
+inline constexpr const char* ExplainCell = "What is this?";
+inline constexpr const char* Refused = "“%1” is not accepted here.";
+inline constexpr const char* RefusedByList = "“%1” is not accepted here. Choose %2.";
 inline constexpr const char* PasteRefused = "“%1” is not accepted here: %2 not pasted.";
 inline constexpr const char* PasteTooLarge = "The table ends here: %1 not pasted.";
 
@@ -30,6 +34,9 @@ inline constexpr const char* OkToRest = "OK to the &rest that only tell";
 inline constexpr const char* OneTaken = "1 box of this command was answered with OK at once:";
 inline constexpr const char* SeveralTaken = "%1 boxes of this command were answered with OK at once:";
 inline constexpr const char* CopyAll = "&Copy all";
+
+// Several things of which one is meant.
+inline constexpr const char* LastOfList = "%1 or %2";
 
 // A copy: the project, when it was written, and what it holds.
 inline constexpr const char* NewProject = "A new project";
@@ -82,6 +89,7 @@ inline constexpr const char* MoreCells = "%1 and %2 more";
 inline constexpr const char* NotCarriedKept = "All is kept in the window and in the safety copy.";
 inline constexpr const char* ScoresFirst = "Go to Aggregate Scores first.";
 inline constexpr const char* StatusFirst = "A species has no conservation status (CCS). Enter it first.";
+inline constexpr const char* FirstGap = "The first gap: %1, %2, %3.";
 inline constexpr const char* SpeciesFirst = "There is no species to select from.";
 
 // What the program prints before it has a window.
@@ -109,8 +117,13 @@ inline constexpr const char* MakingReport = "The report on %1 is being made.";
 inline constexpr const char* SoFar = "So far: %1.";
 inline constexpr const char* ShowWhatIsKnown = "Show what is known so far";
 inline constexpr const char* Cancel = "Cancel";
-inline constexpr const char* ReportIsMade = "The report on %1 is made: %2.";
+inline constexpr const char* FinishingReport =
+    "The report on %1 is being finished with what is known so far.";
+inline constexpr const char* ReportCancelled = "The report on %1 was cancelled. Nothing was written.";
+inline constexpr const char* ReportIsMade = "The report on %1 is made: %2, in %3.";
 inline constexpr const char* NoBrowserForReport = "There is no browser to show it in.";
+inline constexpr const char* OpenReport = "Open the report";
+inline constexpr const char* ReportIsGone = "It is no longer there.";
 inline constexpr const char* SaveElsewhere = "Save it elsewhere";
 inline constexpr const char* ReportIsBeingMade =
     "The report on %1 is being made; the line at the edge of the window tells how far it is. Cancel it there before you "
@@ -121,7 +134,6 @@ inline constexpr const char* NotOverProject = "%1 is the project itself. Choose 
 inline constexpr const char* NoReport = "No report can be made. %1";
 inline constexpr const char* RowsNotComplete = "Rows on the page “%1” are not complete.";
 inline constexpr const char* ListsAreEmpty = "The project has no %1.";
-inline constexpr const char* LastOfList = "%1 or %2";
 inline constexpr const char* CalculationFails =
     "The calculation ends in an error, as where a grade is blank or no number:\n%1";
 

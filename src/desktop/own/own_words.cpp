@@ -32,6 +32,19 @@ QString cells(qsizetype count) {
     return count == 1 ? said(own_texts::OneCell) : said(own_texts::SeveralCells).arg(count);
 }
 
+QString oneOf(QStringList names) {
+    const QString last = names.takeLast();
+    return names.isEmpty() ? last : said(own_texts::LastOfList).arg(names.join(", "), last);
+}
+
+QString refused(const QString& text, const std::vector<std::string_view>& items) {
+    const QString shown = shortened(text.simplified(), LongestRefused);
+    if (items.empty()) return said(own_texts::Refused).arg(shown);
+    QStringList names;
+    for (const std::string_view item : items) names << shownText(item);
+    return said(own_texts::RefusedByList).arg(shown, oneOf(names));
+}
+
 QString pasteStopped(const ui::PastedBlock& block) {
     if (!block.Refused) return said(own_texts::PasteTooLarge).arg(cells(block.Left));
     return said(own_texts::PasteRefused)

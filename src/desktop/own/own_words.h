@@ -16,6 +16,10 @@ QString shortened(const QString& text, int longest);
 QString clause(const QString& sentence);
 /// "1 cell", "12 cells".
 QString cells(qsizetype count);
+/// "one, two or three".
+QString oneOf(QStringList names);
+/// That a cell does not accept a text; of its items, which there may be none of, one has to be chosen.
+QString refused(const QString& text, const std::vector<std::string_view>& items);
 /// Where and why pasting a block has stopped.
 QString pasteStopped(const ui::PastedBlock& block);
 

@@ -5,6 +5,7 @@
 #include <ostream>
 
 #include "batch/usage_fault.h"
+#include "project/project_file.h"
 #include "scripted/page_walk.h"
 #include "ui/text.h"
 
@@ -78,8 +79,7 @@ bool ProjectRun::openProject() {
     hasDefaults_ = !platform_.Transcript.empty();
     const auto& fault = files_.LastFault();
     const bool wasRead = !fault || fault->Line > 0;
-    if (wasRead && files_.LinesEnded() == 0)
-        return sayUnreadable("no line ends in CR, as those of a project do");
+    if (wasRead && files_.LinesEnded() == 0) return sayUnreadable(projectfile::NoLineEnds);
     if (fault)
         return sayUnreadable(withBreaks(fault->Error.Description, " "), fault->ReadWhole ? 0 : fault->Line);
     return global_.ProjectFileName == options_.Project || sayUnreadable("cannot be opened");

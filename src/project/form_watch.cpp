@@ -2,8 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "project/form_watch.h"
 
+#include <utility>
+
 #include "project/frmBrenica.h"
 #include "project/pages.h"
+#include "project/project_file.h"
 #include "ui/file_numbers.h"
 
 namespace {
@@ -37,19 +40,28 @@ FormWatch::FormWatch(frmBrenica& form, ui::Files& files) : form_(form), files_(f
         const auto kind = commandOf(mode, number);
         if (kind && kind != Kind::Open) forget(*kind);
     };
-    form_.ProjectStepTaken.Join(this, [this](ProjectStep step, const std::string&) { noteStep(step); });
-    form_.SelectionRefused = [this](SelectionObstacle obstacle) { obstacle_ = obstacle; };
+    form_.ProjectStepTaken.Join(this,
+                                [this](ProjectStep step, const std::string& path) { noteStep(step, path); });
+    form_.GapFound = [this](const ui::Grid& grid, int row, int col) { noteGap(grid, row, col); };
+    form_.SelectionRefused = [this](SelectionObstacle obstacle) {
+        forgetObstacle();
+        noteObstacle(obstacle);
+    };
 }
 
 FormWatch::~FormWatch() {
     files_.Closed = nullptr;
     form_.ProjectStepTaken.Leave(this);
+    form_.GapFound = nullptr;
     form_.SelectionRefused = nullptr;
 }
 
 /// New and Open end what a failed opening has left in the window. What it has left open stays so.
-void FormWatch::noteStep(ProjectStep step) {
+void FormWatch::noteStep(ProjectStep step, const std::string& path) {
+    if (step == ProjectStep::Opened && files_.LinesEnded() == 0)
+        return note({Kind::Open, path, 0, projectfile::NoLineEnds, false, true, path});
     if (step != ProjectStep::Left) return;
+    forgetGap();
     if (!readingIsBlocked()) return forget(Kind::Open);
     for (FailedCommand& failure : failures_) failure.IsInView = false;
 }
@@ -69,6 +81,7 @@ FailedCommand FormWatch::failureOf(const ui::FileFault& fault, Kind kind) const 
 
 void FormWatch::look(bool programEnds) {
     lookAtObstacle();
+    lookAtGap();
     followSavesTo();
     const auto fault = files_.LastFault();
     if (!fault) return;
@@ -91,7 +104,31 @@ void FormWatch::lookAtObstacle() {
     if (!obstacle_) return;
     const int shown = form_.CurrentMainTab;
     if (!form_.Global().ScoresCalculated || shown == page::Scores) obstacle_ = {};
-    if (obstacle_ && shown == page::Results) obstacle_ = form_.FindSelectionObstacle();
+    if (obstacle_ && shown == page::Results) noteObstacle(form_.FindSelectionObstacle());
+}
+
+/// A species without a status is a gap, which is noted once.
+void FormWatch::noteObstacle(std::optional<SelectionObstacle> obstacle) {
+    if (std::exchange(obstacle_, obstacle) == obstacle || obstacle != SelectionObstacle::NoStatus) return;
+    const int species = form_.FirstWithoutStatus();
+    if (species > 0)
+        noteGap(form_.flxSummary(summary::Vulnerability), species, vulnerability::ConservationStatus);
+}
+
+void FormWatch::noteGap(const ui::Grid& grid, int row, int col) {
+    gap_ = Gap{&grid, row, col, std::string(grid.TextMatrix(row, col))};
+}
+
+void FormWatch::lookAtGap() {
+    if (!gap_) return;
+    const ui::Grid& grid = *gap_->Grid;
+    const bool isThere = gap_->Row < grid.Rows() && gap_->Column < grid.Cols();
+    if (!isThere || grid.TextMatrix(gap_->Row, gap_->Column) != gap_->Text) forgetGap();
+}
+
+std::optional<CellInWords> FormWatch::gap() const {
+    if (!gap_) return {};
+    return form_.InWords(*gap_->Grid, gap_->Row, gap_->Column);
 }
 
 void FormWatch::forget(Kind kind) {

@@ -9,6 +9,7 @@
 #include "project/project_copy.h"
 #include "project/selection_obstacle.h"
 #include "ui/files.h"
+#include "ui/grid.h"
 
 class frmBrenica;
 
@@ -53,8 +54,23 @@ public:
     std::optional<SelectionObstacle> selectionObstacle() const { return obstacle_; }
     void forgetObstacle() { obstacle_ = {}; }
 
+    /// The first cell that still has to be filled before there are scores or a suite, until something else stands there or
+    /// somebody forgets it.
+    std::optional<CellInWords> gap() const;
+    void forgetGap() { gap_ = {}; }
+
 private:
-    void noteStep(ProjectStep step);
+    struct Gap {
+        const ui::Grid* Grid;
+        int Row;
+        int Column;
+        std::string Text;  ///< that stands there and does not do
+    };
+
+    void noteStep(ProjectStep step, const std::string& path);
+    void noteObstacle(std::optional<SelectionObstacle> obstacle);
+    void noteGap(const ui::Grid& grid, int row, int col);
+    void lookAtGap();
     void followSavesTo();
     void lookAtObstacle();
     FailedCommand failureOf(const ui::FileFault& fault, FailedCommand::Kind kind) const;
@@ -63,4 +79,5 @@ private:
     ui::Files& files_;
     std::vector<FailedCommand> failures_;
     std::optional<SelectionObstacle> obstacle_;
+    std::optional<Gap> gap_;
 };

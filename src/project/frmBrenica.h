@@ -81,6 +81,7 @@ public:
     /// again that of `path`, empty for none, with changes to be saved. A cell that there is not is passed over.
     void RestoreCopy(const ProjectCopy& copy, const std::string& path);
     std::vector<CellInWords> LostInWords(const ProjectCopy& copy) const;
+    CellInWords InWords(const ui::Grid& grid, int row, int col) const;
 
     // project/page_navigation.cpp
     void tabBrenica_Click();
@@ -157,6 +158,9 @@ public:
     bool ValidateMainTab(int tab);
     bool ValidateLandChar(int index);
     bool ValidateScoreValues();
+    /// Fires when a cell that still has to be filled keeps the scores from being calculated, before the form tells what is
+    /// missing. It does not tell where; whoever watches may.
+    ui::Event<const ui::Grid&, int, int> GapFound;
     void GetFlexGridsUpdated(int index);
 
     // scoring/unit_use.cpp
@@ -210,6 +214,8 @@ public:
     ui::Event<SelectionObstacle> SelectionRefused;
     /// What would keep a selection with the levels that were asked for last from running to its end.
     std::optional<SelectionObstacle> FindSelectionObstacle() const;
+    /// The number of the first species without a conservation status, 0 where each has one.
+    int FirstWithoutStatus() const;
     void InitComplementarity();
 
     // selection/selection_run.cpp
@@ -399,6 +405,7 @@ private:
     bool validateHumanActivities();
     bool allUnitsInUse(int member, const ui::Grid& units, int count, const char* kind);
     bool allFilled(int member, int firstCol, int lastCol, const char* message);
+    bool refuseGap(const ui::Grid& grid, int row, int col, const char* message);
     void showInvalidValue(const std::string& message);
 
     // scoring/unit_use.cpp

@@ -242,8 +242,14 @@ CellInWords frmBrenica::inWords(const UncarriedCell& cell) const {
         const ui::TextBox* box = const_cast<frmBrenica*>(this)->levelNamed(cell.Grid);
         return {box != nullptr ? box->AccessibleName() : cell.Grid, "", "", cell.Text};
     }
-    return {grid->AccessibleName(), rowInWords(*grid, cell.Row),
-            std::string(grid->TextMatrix(0, cell.Column)), cell.Text};
+    CellInWords words = InWords(*grid, cell.Row, cell.Column);
+    words.Text = cell.Text;
+    return words;
+}
+
+CellInWords frmBrenica::InWords(const ui::Grid& grid, int row, int col) const {
+    return {grid.AccessibleName(), rowInWords(grid, row), std::string(grid.TextMatrix(0, col)),
+            std::string(grid.TextMatrix(row, col))};
 }
 
 /// A row of a list by its number; one of a table by the species and, where there is one row for each, by the unit.

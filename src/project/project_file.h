@@ -38,6 +38,8 @@ inline constexpr const char* SocioEcon = "Socio-Econ";
 inline constexpr const char* DataQuality = "Data Quality";
 
 inline constexpr const char* Extension = ".brn";
+/// Why a file is no project, although it was read without a fault: it is one line, of which nothing is taken.
+inline constexpr const char* NoLineEnds = "no line ends in CR, as those of a project do";
 inline constexpr const char* CurrentVersion = "VERSION2";
 /// The texts of the home range types, in the order of their buttons.
 inline constexpr std::array HomeRangeTypes = {"continuous", "default bins", "user-defined bins"};

@@ -24,12 +24,13 @@ constexpr AreaRule AreaRules[] = {
     {area::Occupied, "0", "Enter propotion of the landscape occupied by each species before proceeding."},
 };
 
-bool passes(const ui::Grid& grid, const AreaRule& rule) {
+/// The first row that breaks the rule, 0 for none.
+int firstRefused(const ui::Grid& grid, const AreaRule& rule) {
     for (int row = 1; row <= grid.Rows() - 1; ++row) {
         const std::string_view text = ui::trim(grid.TextMatrix(row, rule.Column));
-        if (text.empty() || ui::equalsIgnoringCase(text, rule.Refused)) return false;
+        if (text.empty() || ui::equalsIgnoringCase(text, rule.Refused)) return row;
     }
-    return true;
+    return 0;
 }
 
 /// The first unit that no species has a level for, 0 where each has one. A level of 0 counts.
@@ -146,10 +147,10 @@ bool frmBrenica::ValidateScoreValues() try {
                        "management zone")) {
         return false;
     }
+    const ui::Grid& areas = flxSummary(summary::Area);
     for (const AreaRule& rule : AreaRules) {
-        if (passes(flxSummary(summary::Area), rule)) continue;
-        showInvalidValue(rule.Message);
-        return false;
+        const int row = firstRefused(areas, rule);
+        if (row > 0) return refuseGap(areas, row, rule.Column, rule.Message);
     }
     return allFilled(summary::ThreatsBySpecies, threat::Severity, threat::Severity,
                      "Enter a severity value for each human activity by species before proceeding.") &&
@@ -178,12 +179,16 @@ bool frmBrenica::allFilled(int member, int firstCol, int lastCol, const char* me
     const ui::Grid& grid = flxSummary(member);
     for (int row = 1; row <= grid.Rows() - 1; ++row) {
         for (int col = firstCol; col <= lastCol; ++col) {
-            if (!ui::isBlank(grid.TextMatrix(row, col))) continue;
-            showInvalidValue(message);
-            return false;
+            if (ui::isBlank(grid.TextMatrix(row, col))) return refuseGap(grid, row, col, message);
         }
     }
     return true;
+}
+
+bool frmBrenica::refuseGap(const ui::Grid& grid, int row, int col, const char* message) {
+    GapFound(grid, row, col);
+    showInvalidValue(message);
+    return false;
 }
 
 void frmBrenica::showInvalidValue(const std::string& message) {

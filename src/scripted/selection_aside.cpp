@@ -65,18 +65,19 @@ void putLevels(frmBrenica& form, const modGlobal& levels) {
     form.txtCCSRep.Text(ui::toText(levels.ConservationStatusRepresentation));
 }
 
-/// It would only show in an error of the calculation.
-bool lacksStatus(const frmBrenica& form) {
-    const ui::Grid& statuses = form.flxSummary(summary::Vulnerability);
-    for (int species = 1; species <= form.Global().TotalSpecies; ++species) {
-        if (ui::isBlank(statuses.TextMatrix(species, vulnerability::ConservationStatus))) return true;
-    }
-    return false;
+/// A missing status would only show in an error of the calculation.
+void lookForStatus(const frmBrenica& form, SelectionAside& told) {
+    const int species = form.FirstWithoutStatus();
+    if (species == 0) return;
+    told.Obstacle = SelectionObstacle::NoStatus;
+    told.Gap =
+        form.InWords(form.flxSummary(summary::Vulnerability), species, vulnerability::ConservationStatus);
 }
 
 void walkAndSelect(FormAside& aside, const std::vector<std::string>& answers, SelectionAside& told) {
     frmBrenica& form = aside.Form;
     form.SelectionRefused = [&told](SelectionObstacle obstacle) { told.Obstacle = obstacle; };
+    form.GapFound = [&](const ui::Grid& grid, int row, int col) { told.Gap = form.InWords(grid, row, col); };
     aside.Platform.Transcript.clear();
     try {
         told.Walk = walkToSelection(form);
@@ -87,8 +88,7 @@ void walkAndSelect(FormAside& aside, const std::vector<std::string>& answers, Se
     }
     if (!aside.Platform.Transcript.empty()) told.Told = aside.Platform.Transcript.back().Text;
     told.Run = form.TakeSelectionRun();
-    if (!told.Run && told.Walk.EmptyLists.empty() && lacksStatus(form))
-        told.Obstacle = SelectionObstacle::NoStatus;
+    if (!told.Run && told.Walk.EmptyLists.empty() && !told.Gap) lookForStatus(form, told);
 }
 
 bool sayTheSame(const ui::Grid& one, const ui::Grid& other) {

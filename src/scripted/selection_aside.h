@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "project/project_copy.h"
 #include "project/selection_obstacle.h"
 #include "scripted/page_walk.h"
 #include "selection/selection_run.h"
@@ -21,8 +22,9 @@ struct SelectionAside {
     // Why there is no run.
     PageWalk Walk{};
     std::optional<SelectionObstacle> Obstacle{};
-    std::string Told{};   ///< by the last box that the form showed
-    std::string Error{};  ///< describes what ended it
+    std::optional<CellInWords> Gap{};  ///< the first cell that still has to be filled
+    std::string Told{};                ///< by the last box that the form showed
+    std::string Error{};               ///< describes what ended it
 };
 
 /// Files that are read and written meanwhile.

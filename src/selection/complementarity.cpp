@@ -19,6 +19,14 @@ CellPlace startCell(const frmBrenica& form, const method::Failure& failure) {
     return {form.flxSummary(summary::Vulnerability), row, vulnerability::ConservationStatus};
 }
 
+/// The first of the rows from 1 to `last` that has nothing in the column, 0 for none.
+int firstBlank(const ui::Grid& grid, int col, int last) {
+    for (int row = 1; row <= last; ++row) {
+        if (ui::isBlank(grid.TextMatrix(row, col))) return row;
+    }
+    return 0;
+}
+
 }  // namespace
 
 /// The levels and ratings are those of the tables by species.
@@ -37,6 +45,11 @@ method::Landscape frmBrenica::selectionLandscape() const {
     return landscape;
 }
 
+int frmBrenica::FirstWithoutStatus() const {
+    return firstBlank(flxSummary(summary::Vulnerability), vulnerability::ConservationStatus,
+                      global_.TotalSpecies);
+}
+
 std::optional<SelectionObstacle> frmBrenica::FindSelectionObstacle() const {
     return obstacleIn(selectionLandscape(), threatScoresOf(flxSummary(summary::Vulnerability),
                                                            global_.TotalSpecies, global_.TotalLandUses));
@@ -46,15 +59,9 @@ std::optional<SelectionObstacle> frmBrenica::FindSelectionObstacle() const {
 std::optional<SelectionObstacle> frmBrenica::obstacleIn(const method::Landscape& landscape,
                                                         const method::Table& threatScores) const {
     if (global_.TotalSpecies < 1) return SelectionObstacle::NoSpecies;
-    const auto blankIn = [&](const ui::Grid& grid, int col) {
-        for (int species = 1; species <= global_.TotalSpecies; ++species) {
-            if (ui::isBlank(grid.TextMatrix(species, col))) return true;
-        }
-        return false;
-    };
-    if (blankIn(flxScores(0), score::Aggregate)) return SelectionObstacle::OldScores;
-    if (blankIn(flxSummary(summary::Vulnerability), vulnerability::ConservationStatus))
-        return SelectionObstacle::NoStatus;
+    if (firstBlank(flxScores(0), score::Aggregate, global_.TotalSpecies) > 0)
+        return SelectionObstacle::OldScores;
+    if (FirstWithoutStatus() > 0) return SelectionObstacle::NoStatus;
     if (method::lacksGrades(landscape, threatScores, askedLevels_)) return SelectionObstacle::OldScores;
     return {};
 }

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "project/form_watch.h"
 
+#include <fstream>
+
 #include "support/form_test.h"
 
 using testing::IsEmpty;
@@ -52,6 +54,19 @@ TEST_F(FormWatching, NothingIsKeptWhileAllGoesWell) {
     EXPECT_FALSE(watch.savingIsBlocked());
     EXPECT_FALSE(watch.readingIsBlocked());
     EXPECT_FALSE(watch.selectionObstacle());
+}
+
+TEST_F(FormWatching, AFileWithoutLineEndsIsNotTakenForAProject) {
+    std::ofstream(path_) << "Project Version = VERSION2\nCommon Name = Newt\n";
+    openFrom(path_);
+    EXPECT_EQ(only().What, Kind::Open);
+    EXPECT_EQ(only().Path, path_);
+    EXPECT_EQ(only().Reason, "no line ends in CR, as those of a project do");
+    EXPECT_EQ(only().SavesTo, path_);
+    EXPECT_FALSE(watch.readingIsBlocked());
+    form.mnuNewProject.UserClick();
+    watch.look();
+    EXPECT_THAT(watch.failures(), IsEmpty());
 }
 
 TEST_F(FormWatching, ASaveThatCannotBeginBlocksNothing) {
@@ -222,6 +237,74 @@ TEST_F(FormWatching, AFailureCanBeForgotten) {
 }
 
 /// A selection that was refused since a species was added after the scores.
+/// A project in which the second species has no dispersal.
+class GapInEntries : public FormWatching {
+protected:
+    void SetUp() override {
+        open(ProjectText(3, 1, 1, 1).set("Area Dispersal", "Y,N/A,N/A"));
+        walkTo(6);
+        watch.look();
+        ASSERT_TRUE(watch.gap());
+    }
+};
+
+TEST_F(GapInEntries, IsNamed) {
+    EXPECT_EQ(watch.gap()->Table, "Area");
+    EXPECT_EQ(watch.gap()->Row, "Species 2");
+    EXPECT_EQ(watch.gap()->Column, "Dispersal > 10 km");
+}
+
+TEST_F(GapInEntries, StaysUntilSomethingElseStandsThere) {
+    goTo(1);
+    watch.look();
+    EXPECT_TRUE(watch.gap());
+    form.flxSummary(summary::Area).TextMatrix(2, area::Dispersal, "Y");
+    watch.look();
+    EXPECT_FALSE(watch.gap());
+    goTo(6);
+    watch.look();
+    EXPECT_EQ(watch.gap()->Row, "Species 3");
+}
+
+TEST_F(GapInEntries, GoesWhenItIsForgottenOrItsRowIs) {
+    form.flxSummary(summary::Area).Rows(2);
+    watch.look();
+    EXPECT_FALSE(watch.gap());
+    goTo(6);
+    watch.forgetGap();
+    EXPECT_FALSE(watch.gap());
+}
+
+TEST_F(GapInEntries, GoesWithItsProject) {
+    form.ProjectChanged = false;
+    form.mnuNewProject.UserClick();
+    watch.look();
+    EXPECT_FALSE(watch.gap());
+}
+
+TEST_F(FormWatching, AGapInAGradeIsNamedByItsSpeciesAndActivity) {
+    open(ProjectText(2, 1, 1, 2).set("VulnerabilitybySpecies Recovery", "1,1,1,"));
+    walkTo(6);
+    watch.look();
+    ASSERT_TRUE(watch.gap());
+    EXPECT_EQ(watch.gap()->Row, "Species 2, Activity 2");
+    EXPECT_EQ(watch.gap()->Column, "Recovery");
+}
+
+TEST_F(FormWatching, ASpeciesWithoutAStatusIsAGap) {
+    open(ProjectText(2, 1, 1, 1).set("Conservation Status", "0.5,0.5"));
+    walkTo(7);
+    form.flxSummary(summary::Vulnerability).TextMatrix(2, vulnerability::ConservationStatus, "");
+    form.cmdComplement.UserClick();
+    watch.look();
+    EXPECT_EQ(watch.selectionObstacle(), SelectionObstacle::NoStatus);
+    ASSERT_TRUE(watch.gap());
+    EXPECT_EQ(watch.gap()->Row, "Species 2");
+    watch.forgetGap();
+    watch.look();
+    EXPECT_FALSE(watch.gap());
+}
+
 class RefusedSelection : public FormWatching {
 protected:
     void SetUp() override {

@@ -166,6 +166,8 @@ TEST_F(AsideTest, AGapInTheGradesIsToldAsTheFormTellsIt) {
     const SelectionAside told = aside();
     EXPECT_FALSE(told.Run);
     EXPECT_EQ(told.Told, "Enter a dispersion value for each species before proceeding.");
+    ASSERT_TRUE(told.Gap);
+    EXPECT_EQ(told.Gap->Row, "Species 2");
 }
 
 TEST_F(AsideTest, DropsNoRowWithoutAName) {
@@ -183,6 +185,8 @@ TEST_F(AsideTest, ASpeciesWithoutAStatusIsAnObstacle) {
     const SelectionAside told = aside();
     EXPECT_FALSE(told.Run);
     EXPECT_EQ(told.Obstacle, SelectionObstacle::NoStatus);
+    ASSERT_TRUE(told.Gap);
+    EXPECT_EQ(told.Gap->Row, "Species 2");
 }
 
 TEST_F(AsideTest, AnErrorOnTheWayIsDescribed) {

@@ -51,6 +51,7 @@ void StripLines::tellOfReport(std::optional<StripLine> line) {
 void StripLines::follow() {
     std::vector<StripLine> lines;
     addFailures(lines);
+    addObstacles(lines);
     addKeeping(lines);
     if (report_) lines.push_back(*report_);
     addOffers(lines);
@@ -100,12 +101,19 @@ void StripLines::addFailures(std::vector<StripLine>& lines) {
                  follow();
              }});
     }
-    const auto obstacle = watch_.selectionObstacle();
-    if (!obstacle) return;
-    lines.push_back({strip_words::notSelected(*obstacle), {}, StripTone::Note, {}, [this] {
-                         watch_.forgetObstacle();
-                         follow();
-                     }});
+}
+
+/// What is still to be done before there are scores or a suite.
+void StripLines::addObstacles(std::vector<StripLine>& lines) {
+    const auto add = [&](const QString& text, void (FormWatch::*forget)()) {
+        lines.push_back({text, {}, StripTone::Note, {}, [this, forget] {
+                             (watch_.*forget)();
+                             follow();
+                         }});
+    };
+    if (const auto obstacle = watch_.selectionObstacle())
+        add(strip_words::notSelected(*obstacle), &FormWatch::forgetObstacle);
+    if (const auto gap = watch_.gap()) add(strip_words::gap(*gap), &FormWatch::forgetGap);
 }
 
 void StripLines::addKeeping(std::vector<StripLine>& lines) {

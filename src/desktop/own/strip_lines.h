@@ -36,6 +36,7 @@ public:
 
 private:
     void addFailures(std::vector<StripLine>& lines);
+    void addObstacles(std::vector<StripLine>& lines);
     void addKeeping(std::vector<StripLine>& lines);
     void addOffers(std::vector<StripLine>& lines);
     void addGroup(std::vector<StripLine>& lines, const QList<CopyOffer>& offers, const QString& heading,

@@ -121,6 +121,10 @@ QString notSelected(SelectionObstacle obstacle) {
     return {};
 }
 
+QString gap(const CellInWords& cell) {
+    return said(own_texts::FirstGap).arg(shownText(cell.Table), shownText(cell.Row), shownText(cell.Column));
+}
+
 QString notKept(const QString& reason) { return said(own_texts::NotKept).arg(clause(reason)); }
 
 QString notCarried(const QList<LostText>& cellsLost) {

@@ -22,6 +22,8 @@ QString details(const CopyOffer& offer);
 QString failure(const FailedCommand& failed, bool blocked);
 QString notKept(const QString& reason);
 QString notSelected(SelectionObstacle obstacle);
+/// Where a cell is that still has to be filled.
+QString gap(const CellInWords& cell);
 /// The first cells by name, the others by number.
 QString notCarried(const QList<LostText>& cells);
 /// All cells, one a line.

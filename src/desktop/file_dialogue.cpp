@@ -11,6 +11,7 @@
 #include <QStandardPaths>
 
 #include "desktop/dialogues.h"
+#include "desktop/program_files.h"
 #include "desktop/texts.h"
 #include "ui/window_texts.h"
 
@@ -48,12 +49,28 @@ bool mayBeWritten(QWidget* parent, const QString& path, bool asksBeforeOverwriti
     return showQuestionBox(parent, utf8(question), ui::ApplicationTitle);
 }
 
+QString documents() {
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return QDir(folder).exists() ? folder : QDir::homePath();
+}
+
+/// In the folder of the file that is proposed, else in the one that is asked for, else in the last one; but to save where
+/// files are taken.
+QString folderToBeginIn(const ui::FileDialogRequest& request, const QString& lastFolder) {
+    const QFileInfo proposed(QString::fromStdString(request.FileName));
+    const bool namesFolder = !request.FileName.empty() && proposed.isAbsolute();
+    for (const QString& folder : {namesFolder ? proposed.absolutePath() : QString(),
+                                  QString::fromStdString(request.InitDir), lastFolder}) {
+        const bool serves = request.Kind == ui::FileDialogKind::Open || takesFiles(folder);
+        if (!folder.isEmpty() && serves) return folder;
+    }
+    return documents();
+}
+
 void openWhereProposed(QFileDialog& dialogue, const ui::FileDialogRequest& request,
                        const QString& lastFolder) {
+    dialogue.setDirectory(folderToBeginIn(request, lastFolder));
     const QFileInfo proposed(QString::fromStdString(request.FileName));
-    const QString wanted = QString::fromStdString(request.InitDir);
-    const bool namesFolder = !request.FileName.empty() && proposed.isAbsolute();
-    dialogue.setDirectory(namesFolder ? proposed.absolutePath() : wanted.isEmpty() ? lastFolder : wanted);
     if (!request.FileName.empty()) dialogue.selectFile(proposed.fileName());
 }
 
@@ -84,9 +101,6 @@ std::optional<std::string> showFileDialogue(QWidget* parent, const ui::FileDialo
     const bool saves = request.Kind == ui::FileDialogKind::Save;
     QString extension = QString::fromStdString(request.DefaultExt);
     if (extension.startsWith('.')) extension.remove(0, 1);
-    if (lastFolder.isEmpty()) {
-        lastFolder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    }
     QFileDialog dialogue(parent);
     takeAwayHarm(dialogue);
     dialogue.setAcceptMode(saves ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);

@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFileInfo>
 #include <initializer_list>
 
 namespace desktop {
@@ -24,6 +25,10 @@ QString firstFolder(std::initializer_list<const char*> places) {
 QString examplesFolder() {
     const QString found = firstFolder({"../share/brenica/examples", "../../../../examples"});
     return found.isEmpty() ? QCoreApplication::applicationDirPath() : found;
+}
+
+bool takesFiles(const QString& folder) {
+    return QFileInfo(folder).isWritable() && QDir(folder) != QDir(examplesFolder());
 }
 
 QString guideFolder() { return firstFolder({"../share/brenica/guide", "../../docs/guide"}); }

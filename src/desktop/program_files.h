@@ -10,6 +10,9 @@ namespace desktop {
 
 /// The program's own folder where there are no examples.
 QString examplesFolder();
+/// Whether a user may want to save in a folder: one that can be written, and is not that of the examples, which lie among
+/// what was installed.
+bool takesFiles(const QString& folder);
 /// The guide as web pages; empty where there are none.
 QString guideFolder();
 

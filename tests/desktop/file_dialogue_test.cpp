@@ -7,11 +7,15 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QMessageBox>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 
 #include "desktop/box_user.h"
 #include "desktop/desktop_test.h"
+#include "desktop/program_files.h"
+#include "desktop/texts.h"
 
+using desktop::utf8;
 using desktop_test::click;
 using desktop_test::press;
 using desktop_test::User;
@@ -148,6 +152,25 @@ private slots:
         QVERIFY(!w.show().has_value());
         QCOMPARE(w.directory, QDir(w.folder.path()).absolutePath());
         QCOMPARE(w.lastFolder, QDir(w.folder.path()).absolutePath());
+    }
+
+    void filesAreNotSavedAmongTheExamples() {
+        FileBox w;
+        const QString examples = desktop::examplesFolder();
+        const auto begunIn = [&w] {
+            User user({w.look(), FileBox::cancel()});
+            w.show();
+            return w.directory;
+        };
+        w.lastFolder = w.folder.path();
+        w.request.FileName = utf8(QDir(examples).filePath("small_landscape.brn"));
+        w.request.InitDir = utf8(examples);
+        QCOMPARE(begunIn(), QDir(w.folder.path()).absolutePath());
+        w.lastFolder = examples;
+        const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+        QCOMPARE(begunIn(), QDir(documents).exists() ? documents : QDir::homePath());
+        w.request.Kind = ui::FileDialogKind::Open;
+        QCOMPARE(begunIn(), QDir(examples).absolutePath());
     }
 
     void aCancelledDialogueKeepsTheFolder() {

@@ -18,18 +18,12 @@ namespace {
 
 using own_words::said;
 
-QString listed(const std::vector<const char*>& names) {
-    QStringList list;
-    for (const char* name : names) list << said(name);
-    const QString last = list.takeLast();
-    return list.isEmpty() ? last : said(own_texts::LastOfList).arg(list.join(", "), last);
-}
-
-QString reasonIn(const SelectionAside& aside) {
+QString whatIsMissing(const SelectionAside& aside) {
     if (aside.Walk.RefusedPage > 0)
         return said(own_texts::RowsNotComplete).arg(shownText(aside.Walk.RefusedTab));
     if (!aside.Walk.EmptyLists.empty())
-        return said(own_texts::ListsAreEmpty).arg(listed(aside.Walk.EmptyLists));
+        return said(own_texts::ListsAreEmpty)
+            .arg(own_words::oneOf({aside.Walk.EmptyLists.begin(), aside.Walk.EmptyLists.end()}));
     if (aside.Obstacle) return strip_words::notSelected(*aside.Obstacle);
     if (!aside.Error.empty()) return said(own_texts::CalculationFails).arg(shownText(aside.Error));
     return shownText(aside.Told);
@@ -37,7 +31,10 @@ QString reasonIn(const SelectionAside& aside) {
 
 }  // namespace
 
-QString whyNone(const SelectionAside& aside) { return whyNone(reasonIn(aside)); }
+QString whyNone(const SelectionAside& aside) {
+    const QString missing = whatIsMissing(aside);
+    return whyNone(aside.Gap ? missing + ' ' + strip_words::gap(*aside.Gap) : missing);
+}
 
 QString whyNone(const QString& reason) { return said(own_texts::NoReport).arg(reason); }
 
@@ -49,9 +46,7 @@ QString proposedFile(const QString& projectPath) {
     const QFileInfo project(projectPath);
     const QString name = projectPath.isEmpty() ? said(own_texts::NewProject) : project.completeBaseName();
     const QString file = said(own_texts::ReportFile).arg(name);
-    // The examples lie among what was installed.
-    const bool ofUser = !projectPath.isEmpty() && project.absoluteDir() != QDir(examplesFolder());
-    const bool beside = ofUser && QFileInfo(project.absolutePath()).isWritable();
+    const bool beside = !projectPath.isEmpty() && takesFiles(project.absolutePath());
     return beside ? project.absoluteDir().filePath(file) : file;
 }
 

@@ -2,7 +2,7 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 #
 # Gives each heading of a page the name by which links lead to it, lets links to other documents lead to their pages, and
-# writes page-N.html into `folder` for a heading "Page N: ...".
+# writes page-N.html into `folder` for a heading "Page N: ...", and page-report.html for what a report says.
 
 function anchorOf(heading) {
     gsub(/<[^>]*>|&[a-z]+;/, "", heading)
@@ -43,6 +43,7 @@ function leadTo(anchor, page,    file) {
         gsub(/^page-|-.*/, "", page)
         leadTo(anchor, page)
     }
+    if (anchor == "what-a-report-says") leadTo(anchor, "report")
 }
 
 { print withPageLinks($0) }

@@ -65,6 +65,10 @@ bool isTyping(const QKeyEvent& event) {
     return !text.isEmpty() && ui::isPrintable(static_cast<int>(text.toUcs4().first()));
 }
 
+bool isPress(const QKeyEvent& event) {
+    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter || event.key() == Qt::Key_Space;
+}
+
 int unitOf(const QString& text, int character) {
     int unit = 0;
     for (; character > 0 && unit < text.size(); --character) {

@@ -23,6 +23,8 @@ QString plainToolTip(std::string_view text);
 std::string utf8(const QString& text);
 /// Whether a key types its text, rather than being a command.
 bool isTyping(const QKeyEvent& event);
+/// Whether a key presses the button that has the focus: Enter as well as the blank.
+bool isPress(const QKeyEvent& event);
 /// Where a character begins in Qt's text, whose units are halves of some characters, and the character at a unit.
 int unitOf(const QString& text, int character);
 int characterOf(const QString& text, int unit);

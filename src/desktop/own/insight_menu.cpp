@@ -15,7 +15,7 @@ OwnEntry insightMenu(WindowReport& report, QWidget& ownerOfBoxes) {
             {},
             {{"ownReport", own_texts::ReportOnSuite, [&report] { report.make(); }},
              {"ownInsightPage", own_texts::WhatReportSays,
-              [&ownerOfBoxes] { showGuide(&ownerOfBoxes, "insight.html"); }}}};
+              [&ownerOfBoxes] { showGuide(&ownerOfBoxes, "page-report.html"); }}}};
 }
 
 }  // namespace desktop

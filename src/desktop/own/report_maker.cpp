@@ -3,8 +3,6 @@
 #include "desktop/own/report_maker.h"
 
 #include <exception>
-#include <string>
-#include <thread>
 #include <utility>
 
 #include "insight/cores.h"
@@ -43,15 +41,22 @@ void ReportMaker::tell(const std::shared_ptr<Work>& work, Told told) {
         Qt::QueuedConnection);
 }
 
+/// Work may be faster than a window that is busy: what it has not shown yet is not followed by more.
+void ReportMaker::tellProgress(const std::shared_ptr<Work>& work, const std::string& words) {
+    if (work->Telling.exchange(true)) return;
+    tell(work, [this, work = work.get(), words = QString::fromStdString(words)] {
+        work->Telling = false;
+        if (!work->Stop) emit progressed(words);
+    });
+}
+
 /// On the other thread.
 void ReportMaker::run(const std::shared_ptr<Work>& work) try {
     const Order& order = work->Ordered;
     insight::ReportWork how = order.Origin.Limits;
     how.Threads = insight::coresOfMachine();
     how.Stop = &work->Stop;
-    how.Progress = [&](const std::string& words) {
-        tell(work, [this, words = QString::fromStdString(words)] { emit progressed(words); });
-    };
+    how.Progress = [&](const std::string& words) { tellProgress(work, words); };
     const insight::ReportFindings findings(order.Run, marginAnswers(order.Origin.Answers), how);
     tell(work, [this, page = QByteArray::fromStdString(reportPage(findings, order.Origin))] {
         work_.reset();

@@ -7,6 +7,7 @@
 #include <QThreadPool>
 #include <atomic>
 #include <memory>
+#include <string>
 
 #include "insight/report/report.h"
 #include "selection/selection_run.h"
@@ -32,7 +33,7 @@ public:
     /// Begins with another report. One that is being made is dropped.
     void start(Order order);
     bool isMaking() const { return work_ != nullptr; }
-    /// The page is then made of what is known by now.
+    /// The page is then made of what is known by now; no more progress is told.
     void hurry();
     /// Nothing more is told of it.
     void drop();
@@ -48,9 +49,11 @@ private:
     struct Work {
         Order Ordered;
         std::atomic<bool> Stop = false;
+        std::atomic<bool> Telling = false;  ///< of progress, which waits for the window's thread
     };
 
     void run(const std::shared_ptr<Work>& work);
+    void tellProgress(const std::shared_ptr<Work>& work, const std::string& words);
     template <class Told>
     void tell(const std::shared_ptr<Work>& work, Told told);
 

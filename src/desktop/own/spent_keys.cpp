@@ -6,17 +6,9 @@
 #include <QApplication>
 #include <QKeyEvent>
 
+#include "desktop/texts.h"
+
 namespace desktop {
-
-namespace {
-
-bool pressesButton(const QObject* target, const QKeyEvent& key) {
-    const bool presses =
-        key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter || key.key() == Qt::Key_Space;
-    return presses && qobject_cast<const QAbstractButton*>(target) != nullptr;
-}
-
-}  // namespace
 
 SpentKeys::SpentKeys(QObject& application) {
     rest_.setSingleShot(true);
@@ -35,7 +27,8 @@ bool SpentKeys::eventFilter(QObject* watched, QEvent* event) {
     if (!resting_ || event->type() != QEvent::KeyPress || QApplication::activeModalWidget() != nullptr) {
         return false;
     }
-    if (!pressesButton(watched, static_cast<QKeyEvent&>(*event))) return false;
+    const bool presses = isPress(static_cast<QKeyEvent&>(*event));
+    if (!presses || qobject_cast<const QAbstractButton*>(watched) == nullptr) return false;
     rest_.start();
     return true;
 }

@@ -13,6 +13,7 @@
 #include "desktop/accessible_role.h"
 #include "desktop/own/own_texts.h"
 #include "desktop/own/strip_row.h"
+#include "desktop/texts.h"
 
 namespace desktop {
 
@@ -20,6 +21,16 @@ namespace {
 
 constexpr int MostTextLines = 12;  // high; what is more is scrolled
 constexpr int EdgeLine = 1;        // between the form and the strip
+
+/// Of a button, by the mouse or by a key.
+bool isPressOf(const QEvent& event) {
+    switch (event.type()) {
+        case QEvent::MouseButtonPress:
+        case QEvent::MouseButtonDblClick: return true;
+        case QEvent::KeyPress: return isPress(static_cast<const QKeyEvent&>(event));
+        default: return false;
+    }
+}
 
 }  // namespace
 
@@ -80,6 +91,7 @@ void Strip::show(std::vector<StripLine> lines) {
     setVisible(!rows_.empty());
     for (StripRow* row : gone) {
         if (row == nullptr) continue;
+        rest_.setRemainingTime(TimeToRest);
         row->hide();
         row->deleteLater();  // its button may be the one that was pressed
     }
@@ -146,6 +158,7 @@ void Strip::leave() {
 }
 
 bool Strip::eventFilter(QObject* watched, QEvent* event) {
+    if (!rest_.hasExpired() && isPressOf(*event)) return true;
     if (event->type() == QEvent::KeyPress &&
         takesKey(static_cast<QKeyEvent*>(event)->key(), *static_cast<QAbstractButton*>(watched)))
         return true;

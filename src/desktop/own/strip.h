@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QDeadlineTimer>
 #include <QFrame>
 #include <QPointer>
 #include <functional>
@@ -37,12 +38,16 @@ class StripRow;
 /// The line, or the few lines, at the window's edge that tell what the form does not tell. It is on view while it has
 /// lines. It asks nothing and takes no focus: neither its coming, nor a click on it, nor Tab move the focus here.
 /// `enter` does, for whoever works by keys; Tab and the arrows then go from button to button, Enter and Space press,
-/// Escape and F6 lead back to where the focus was. A line that is new is announced to screen readers.
+/// Escape and F6 lead back to where the focus was. A line that is new is announced to screen readers. When a line has gone,
+/// nothing can be pressed for a moment, since another button may have come under the finger.
 class Strip : public QFrame {
     Q_OBJECT
 
 public:
     explicit Strip(QWidget* parent = nullptr);
+
+    /// Milliseconds in which nothing can be pressed after a line has gone.
+    int TimeToRest = 500;
 
     /// Shows these lines in place of those before. A line that was there already keeps its widgets and its focus.
     void show(std::vector<StripLine> lines);
@@ -79,6 +84,7 @@ private:
     QVBoxLayout* layout_;
     std::vector<StripRow*> rows_;
     QPointer<QWidget> cameFrom_;  // had the focus before the strip was entered
+    QDeadlineTimer rest_{0};      // of the buttons
 };
 
 }  // namespace desktop

@@ -29,6 +29,8 @@ namespace {
 
 using own_words::said;
 
+constexpr int LongestFolder = 60;  // characters, in the strip
+
 /// The project's file as it is now, put where nobody else writes.
 struct SavedProject {
     explicit SavedProject(const QString& project);
@@ -156,7 +158,6 @@ void WindowReport::save() {
                               {}}));
     }
     page_.clear();
-    show(lineOfFile());
     open();
 }
 
@@ -169,37 +170,48 @@ void WindowReport::saveElsewhere() {
     });
 }
 
+/// A browser would not tell that the file has gone.
 void WindowReport::open() {
-    if (QDesktopServices::openUrl(QUrl::fromLocalFile(file_))) return;
+    const bool isThere = QFileInfo::exists(file_);
     StripLine line = lineOfFile();
-    line.Text += ' ' + said(own_texts::NoBrowserForReport);
+    if (!isThere || !QDesktopServices::openUrl(QUrl::fromLocalFile(file_)))
+        line.Text += ' ' + said(isThere ? own_texts::NoBrowserForReport : own_texts::ReportIsGone);
     show(line);
 }
 
 void WindowReport::hurry() {
     maker_.hurry();
-    line_.Actions.erase(line_.Actions.begin());
-    lines_.tellOfReport(line_);
+    show(lineOfHurry());
 }
 
 void WindowReport::drop() {
     maker_.drop();
-    lines_.tellOfReport(std::nullopt);
+    show(closable({said(own_texts::ReportCancelled).arg(project_), {}, StripTone::Note, {}, {}}));
 }
 
 StripLine WindowReport::lineOfWork() {
     return {said(own_texts::MakingReport).arg(project_),
             file_,
             StripTone::Note,
-            {{own_texts::ShowWhatIsKnown, [this] { hurry(); }}, {own_texts::Cancel, [this] { drop(); }}},
+            {{own_texts::ShowWhatIsKnown, [this] { hurry(); }}, cancel()},
             {}};
 }
 
+StripLine WindowReport::lineOfHurry() {
+    return {said(own_texts::FinishingReport).arg(project_), file_, StripTone::Note, {cancel()}, {}};
+}
+
+StripAction WindowReport::cancel() {
+    return {own_texts::Cancel, [this] { drop(); }};
+}
+
 StripLine WindowReport::lineOfFile() {
-    return closable({said(own_texts::ReportIsMade).arg(project_, QFileInfo(file_).fileName()),
+    const QFileInfo file(file_);
+    const QString folder = own_words::shortened(file.absolutePath(), LongestFolder);
+    return closable({said(own_texts::ReportIsMade).arg(project_, file.fileName(), folder),
                      file_,
                      StripTone::Offer,
-                     {{own_texts::OpenIt, [this] { open(); }}},
+                     {{own_texts::OpenReport, [this] { open(); }}},
                      {}});
 }
 

@@ -41,7 +41,9 @@ private:
     void tell(const QString& text);
     void show(StripLine line);
     StripLine lineOfWork();
+    StripLine lineOfHurry();
     StripLine lineOfFile();
+    StripAction cancel();
     StripLine closable(StripLine line);
 
     FormLink& link_;

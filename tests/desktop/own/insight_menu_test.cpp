@@ -10,6 +10,8 @@
 
 #include "desktop/box_user.h"
 #include "desktop/own/browser.h"
+#include "desktop/own/own_words.h"
+#include "desktop/own/strip.h"
 #include "desktop/own/strip_reader.h"
 #include "desktop/own/windowed_program.h"
 #include "support/project_text.h"
@@ -55,10 +57,12 @@ struct Planner {
     QStringList told;  ///< by boxes
     QString proposed;  ///< by the dialogue for files
 
+    Planner() { strip().TimeToRest = 0; }
+
     QString path(const QString& name) const { return folder.filePath(name); }
     QString report() const { return path("landscape report.html"); }
     frmBrenica& form() { return program.form(); }
-    const QWidget& strip() { return *program.desktop().mainWindow()->findChild<QWidget*>("ownStrip"); }
+    desktop::Strip& strip() { return *program.desktop().mainWindow()->findChild<desktop::Strip*>(); }
     QStringList lines() { return desktop_test::linesOf(strip()); }
 
     void open(const QByteArray& project) {
@@ -108,6 +112,10 @@ struct Planner {
         };
     }
     User::Step read() { return answer(QDialogButtonBox::Ok); }
+    QString isMade() const {
+        const QString said = "The report on landscape.brn is made: landscape report.html, in %1.";
+        return said.arg(desktop::own_words::shortened(folder.path(), 60));
+    }
     void pressOnStrip(const QString& line, const QString& caption) {
         QAbstractButton* button = desktop_test::buttonOf(strip(), line, caption);
         QVERIFY2(button != nullptr, qPrintable(lines().join('\n')));
@@ -147,7 +155,7 @@ private slots:
         Planner planner;
         planner.trigger("ownInsightPage");
         QVERIFY(QFile::exists(planner.browser.Opened.value(0).toLocalFile()));
-        QCOMPARE(planner.browser.Opened.value(0).fileName(), QString("insight.html"));
+        QCOMPARE(planner.browser.Opened.value(0).fileName(), QString("page-report.html"));
     }
 
     void aProjectThatWasOnlyOpenedIsExplained() {
@@ -171,9 +179,13 @@ private slots:
         QVERIFY(planner.form().TakeCopy().isSameProjectAs(before));
         QVERIFY(!planner.form().Global().ScoresCalculated);
         QCOMPARE(planner.form().CurrentMainTab, 1);
-        QCOMPARE(planner.lines(), QStringList("The report on landscape.brn is made: landscape report.html."));
-        planner.pressOnStrip("The report", "Open it");
+        QCOMPARE(planner.lines(), QStringList(planner.isMade()));
+        planner.pressOnStrip("The report", "Open the report");
         QCOMPARE(planner.browser.Opened.size(), 2);
+        QVERIFY(QFile::remove(planner.report()));
+        planner.pressOnStrip("The report", "Open the report");
+        QCOMPARE(planner.browser.Opened.size(), 2);
+        QCOMPARE(planner.lines(), QStringList(planner.isMade() + " It is no longer there."));
         planner.pressOnStrip("The report", "Close this message");
         QVERIFY(planner.lines().isEmpty());
     }
@@ -220,9 +232,11 @@ private slots:
         QTest::newRow("no zones") << textOf(ProjectText(2, 1, 1, 1).remove("Jurisdictional Unit"))
                                   << "The project has no management zones.";
         QTest::newRow("not graded") << textOf(ProjectText(2, 1, 1, 1).set("Area Dispersal", "Y,N/A"))
-                                    << "Enter a dispersion value for each species before proceeding.";
+                                    << "Enter a dispersion value for each species before proceeding. The "
+                                       "first gap: Area, Species 2, Dispersal > 10 km.";
         QTest::newRow("status") << textOf(ProjectText(2, 1, 1, 1).set("Conservation Status", "0.5,"))
-                                << "A species has no conservation status (CCS). Enter it first.";
+                                << "A species has no conservation status (CCS). Enter it first. The first "
+                                   "gap: Vulnerability, Species 2, CCS.";
     }
 
     void aProjectThatCannotBeExplainedIsToldWhy() {
@@ -280,6 +294,8 @@ private slots:
         QVERIFY(planner.program.desktop().mainWindow()->windowTitle().endsWith("small_landscape.brn"));
         QVERIFY(planner.program.desktop().report().isMaking());
         planner.pressOnStrip("The report", "Show what is known so far");
+        QCOMPARE(planner.lines(),
+                 QStringList("The report on landscape.brn is being finished with what is known so far."));
         QVERIFY(planner.waitForPage());
         QVERIFY(planner.page().contains("The work was stopped before its end"));
         QVERIFY(planner.page().contains("<bdi>landscape</bdi>"));
@@ -291,7 +307,8 @@ private slots:
         planner.open(longWork());
         planner.ask();
         planner.pressOnStrip("The report", "Cancel");
-        QVERIFY(planner.lines().isEmpty());
+        QCOMPARE(planner.lines(),
+                 QStringList("The report on landscape.brn was cancelled. Nothing was written."));
         planner.program.desktop().report().end();
         QCoreApplication::processEvents();
         QVERIFY(!QFile::exists(planner.report()));
@@ -336,10 +353,8 @@ private slots:
         QDesktopServices::unsetUrlHandler("file");
         planner.openExample("small_landscape.brn");
         planner.ask();
-        QTRY_COMPARE_WITH_TIMEOUT(planner.lines(),
-                                  QStringList("The report on landscape.brn is made: landscape report.html. "
-                                              "There is no browser to show it in."),
-                                  Patience);
+        QTRY_COMPARE_WITH_TIMEOUT(
+            planner.lines(), QStringList(planner.isMade() + " There is no browser to show it in."), Patience);
     }
 };
 

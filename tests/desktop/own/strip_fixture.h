@@ -78,6 +78,7 @@ struct StripWindow : MainWindow {
     StripWindow() {
         view->activateWindow();
         (void)QTest::qWaitForWindowActive(view.get());
+        strip().TimeToRest = 0;
     }
 
     void run(const std::function<void()>& action) override {

@@ -127,6 +127,23 @@ private slots:
         QCOMPARE(w.form->flxCandidateSpecies.TextMatrix(1, 1), std::string("Ant"));
     }
 
+    void nothingIsPressedForAMomentWhenALineHasGone() {
+        StripWindow w;
+        w.strip().TimeToRest = 60000;
+        w.copies.give({copyOf("/a/one.brn", "1"), copyOf("/a/two.brn", "2")});
+        w.copies.give({copyOf("/a/two.brn", "2")});
+        w.click("two.brn", "Open it");
+        w.key(Qt::Key_F6);
+        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Space}) w.key(key);
+        QVERIFY(w.copies.Log.isEmpty());
+        w.key(Qt::Key_Tab);
+        QVERIFY(w.button("two.brn", "Drop it")->hasFocus());
+        w.strip().TimeToRest = 0;
+        w.copies.give({copyOf("/a/three.brn", "3")});
+        w.click("three.brn", "Open it");
+        QCOMPARE(w.copies.Log, QStringList("open 3"));
+    }
+
     void keysLeadInAroundAndBack() {
         StripWindow w;
         QWidget& box = w.widgetOf(w.form->txtTotalSpecies);

@@ -3,11 +3,10 @@
 
 // The keys of an open editor.
 #include <QKeyEvent>
-#include <QToolTip>
-#include <algorithm>
 
 #include "desktop/cell_editor.h"
 #include "desktop/cell_list.h"
+#include "desktop/cell_tip.h"
 #include "desktop/own/own_words.h"
 #include "desktop/texts.h"
 
@@ -54,8 +53,7 @@ void CellEditor::type(const QString& text) {
 /// Below the cell: a beep alone says neither what was refused nor what would do.
 void CellEditor::tellRefused(const QString& text) {
     if (!isVisible() || text.isEmpty()) return;
-    const QString tip = own_words::refused(text, grid_.ComboItems());
-    QToolTip::showText(mapToGlobal(rect().bottomLeft()), plainToolTip(utf8(tip)), this);
+    showTip(*this, rect().bottomLeft(), own_words::refused(text, grid_.ComboItems()));
 }
 
 bool CellEditor::commandKey(QKeyEvent* event) {

@@ -84,28 +84,32 @@ ChartNumbersTable::ChartNumbersTable(ChartNumbersModel* model, QWidget* parent) 
     if (model->rowCount() > 0) setCurrentIndex(model->index(0, 0));
 }
 
-QString ChartNumbersTable::textOf(const QItemSelectionRange& cells) const {
+QString ChartNumbersTable::textOf(const QItemSelectionRange& cells, bool withHeadings) const {
     QStringList lines;
-    const auto line = [&cells](const auto& textAt) {
+    const auto line = [&](const auto& textAt) {
         QStringList texts;
+        if (withHeadings && cells.left() > 0) texts << cell(textAt(0));
         for (int column = cells.left(); column <= cells.right(); ++column) texts << cell(textAt(column));
         return texts.join('\t');
     };
     const bool whole = cells.width() == model()->columnCount() && cells.height() == model()->rowCount();
-    if (whole) lines << line([this](int column) { return model()->headerData(column, Qt::Horizontal); });
+    if (whole || withHeadings)
+        lines << line([this](int column) { return model()->headerData(column, Qt::Horizontal); });
     for (int row = cells.top(); row <= cells.bottom(); ++row) {
         lines << line([this, row](int column) { return model()->index(row, column).data(); });
     }
     return lines.join('\n');
 }
 
-void ChartNumbersTable::copySelected() const {
+void ChartNumbersTable::copySelected(bool withHeadings) const {
     const QItemSelection selection = selectionModel()->selection();
-    if (!selection.isEmpty()) QGuiApplication::clipboard()->setText(textOf(selection.first()));
+    if (selection.isEmpty()) return;
+    QGuiApplication::clipboard()->setText(textOf(selection.first(), withHeadings));
 }
 
 void ChartNumbersTable::keyPressEvent(QKeyEvent* event) {
-    if (event->matches(QKeySequence::Copy)) return copySelected();
+    if (event->matches(QKeySequence::Copy)) return copySelected(false);
+    if (event->keyCombination() == CopyWithHeadingsKeys) return copySelected(true);
     QTableView::keyPressEvent(event);
 }
 
@@ -118,7 +122,7 @@ ChartNumbersWindow::ChartNumbersWindow(const ui::Chart& chart, const ChartNumber
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
     QPushButton* copy = buttons->addButton(ui::window_text::CopyCells, QDialogButtonBox::ActionRole);
     copy->setAutoDefault(false);
-    connect(copy, &QPushButton::clicked, table, &ChartNumbersTable::copySelected);
+    connect(copy, &QPushButton::clicked, table, [table] { table->copySelected(false); });
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(table);

@@ -37,14 +37,15 @@ class ChartNumbersTable : public QTableView {
 public:
     ChartNumbersTable(ChartNumbersModel* model, QWidget* parent);
 
-    /// Puts the selected cells on the clipboard, columns divided by tabs; the whole table takes its headings along.
-    void copySelected() const;
+    /// Puts the selected cells on the clipboard, columns divided by tabs. The whole table takes its headings along; asked
+    /// to, so does any other part, and the names in the first column.
+    void copySelected(bool withHeadings) const;
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    QString textOf(const QItemSelectionRange& cells) const;
+    QString textOf(const QItemSelectionRange& cells, bool withHeadings) const;
 };
 
 /// The numbers behind a chart's picture, for who cannot see it or wants to read them off.

@@ -7,10 +7,10 @@
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QMenu>
-#include <QToolTip>
 #include <algorithm>
 
 #include "desktop/cell_editor.h"
+#include "desktop/cell_tip.h"
 #include "desktop/grid_view.h"
 #include "desktop/own/cell_history.h"
 #include "desktop/own/own_texts.h"
@@ -45,17 +45,18 @@ void GridView::moveToClicked(QPoint place) {
 }
 
 void GridView::contextMenuEvent(QContextMenuEvent* event) {
-    if (event->reason() == QContextMenuEvent::Mouse) moveToClicked(event->pos());
+    const bool byMouse = event->reason() == QContextMenuEvent::Mouse;
+    if (byMouse) moveToClicked(event->pos());
     auto* menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
+    const CellAddress cell = byMouse ? geometry_.cellAt(event->pos()) : keyCell();
     if (grid_.Editing()) {
         offerForText(*menu);
     } else {
-        offerForCells(*menu);
+        offerForCells(*menu, cell);
     }
     const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
-    const QPoint current = cellPlace(grid_.Row(), grid_.Col()).center();
-    menu->popup(byKey ? viewport()->mapToGlobal(current) : event->globalPos());
+    menu->popup(byKey ? viewport()->mapToGlobal(cellPlace(cell.Row, cell.Col).center()) : event->globalPos());
 }
 
 bool GridView::canPaste() const {
@@ -72,7 +73,8 @@ void GridView::offerForText(QMenu& menu) {
           [this] { editor_->selectAll(); });
 }
 
-void GridView::offerForCells(QMenu& menu) {
+/// `cell` is what the menu was opened at, which may be a heading.
+void GridView::offerForCells(QMenu& menu, CellAddress cell) {
     const CellHistory* history = additions_.History;
     if (history != nullptr && grid_.Editable != ui::EditMode::ReadOnly) {
         offer(menu, own_texts::Undo, QKeySequence::Undo, history->canUndo(),
@@ -85,31 +87,36 @@ void GridView::offerForCells(QMenu& menu) {
     offer(menu, own_texts::CopyWithHeadings, CopyWithHeadingsKeys, true, [this] { copyWithHeadings(); });
     offer(menu, ui::window_text::PasteCells, QKeySequence::Paste, canPaste(), [this] { pasteCells(); });
     menu.addSeparator();
-    if (grid_.MouseDown) offer(menu, own_texts::SortByColumn, {}, true, [this] { sortByColumn(); });
-    offer(menu, own_texts::ExplainCell, QKeySequence::WhatsThis, true, [this] { explainCell(); });
+    const bool isCell = cell.Row >= 0 && cell.Row < grid_.Rows() && cell.Col >= 0;
+    if (grid_.MouseDown)
+        offer(menu, own_texts::SortByColumn, {}, isCell, [=, this] { sortByColumn(cell.Col); });
+    offer(menu, own_texts::ExplainCell, QKeySequence::WhatsThis, isCell, [=, this] { explain(cell); });
 }
 
 /// As a click on the heading does, for whoever works by keys.
-void GridView::sortByColumn() {
-    hovered_ = {0, grid_.KeyCell().second};
+void GridView::sortByColumn(int col) {
+    hovered_ = {0, col};
     act([this] { grid_.UserMouseDown(hovered_.Row, hovered_.Col); });
 }
 
 /// Only one cell at a time can be emptied.
 void GridView::cutCell() {
     if (grid_.Editable == ui::EditMode::ReadOnly) return;
+    enterBody();
     const bool oneCell = grid_.Row() == grid_.RowSel() && grid_.Col() == grid_.ColSel();
     copyCells();
     if (oneCell) act([this] { grid_.UserDelete(); });
 }
 
-void GridView::copyCells() const {
+void GridView::copyCells() {
     if (grid_.Editing()) return editor_->copy();
+    enterBody();
     QApplication::clipboard()->setText(QString::fromStdString(grid_.SelectedText()));
 }
 
-void GridView::copyWithHeadings() const {
+void GridView::copyWithHeadings() {
     if (grid_.Editing()) return;
+    enterBody();
     QApplication::clipboard()->setText(
         QString::fromStdString(grid_.SelectedTextWithHeadings(additions_.HeadingOf)));
 }
@@ -130,8 +137,7 @@ void GridView::pasteCells() {
 /// At the cell that refused, or at the last one that there was.
 void GridView::tellWherePastingStopped(const ui::PastedBlock& block) {
     const QRect cell = geometry_.cell(grid_.RowSel(), grid_.ColSel());
-    QToolTip::showText(viewport()->mapToGlobal(cell.bottomLeft()),
-                       plainToolTip(utf8(own_words::pasteStopped(block))), viewport());
+    showTip(*viewport(), cell.bottomLeft(), own_words::pasteStopped(block));
 }
 
 }  // namespace desktop

@@ -5,10 +5,10 @@
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QScrollBar>
-#include <QToolTip>
 #include <algorithm>
 
 #include "desktop/cell_editor.h"
+#include "desktop/cell_tip.h"
 #include "desktop/grid_view.h"
 #include "desktop/own/cell_history.h"
 #include "desktop/texts.h"
@@ -26,7 +26,7 @@ bool isRedo(const QKeyEvent& event) {
 }  // namespace
 
 void GridView::keyPressEvent(QKeyEvent* event) {
-    QToolTip::hideText();  // what was refused before is history
+    hideTip();
     if (grid_.Editing() && editorKey(event)) return;
     if (clipboardKey(event) || historyKey(event) || moveKey(event) || editKey(event)) return;
     event->ignore();
@@ -83,6 +83,11 @@ bool GridView::historyKey(QKeyEvent* event) {
 
 void GridView::replay(bool (CellHistory::*way)()) {
     if (additions_.History != nullptr) step([=, this] { return (additions_.History->*way)(); });
+}
+
+CellAddress GridView::keyCell() const {
+    const auto [row, col] = grid_.KeyCell();
+    return {row, col};
 }
 
 /// Keys begin at the cell that has the frame.
@@ -186,9 +191,9 @@ bool GridView::editKey(QKeyEvent* event) {
         case Qt::Key_F2: beginEdit(); return true;
         case Qt::Key_F1:
             if (!(event->modifiers() & Qt::ShiftModifier)) return false;
-            explainCell();
+            explain(keyCell());
             return true;
-        case Qt::Key_Delete: act([this] { grid_.UserDelete(); }); return true;
+        case Qt::Key_Delete: act([this] { grid_.UserEnterBody() && grid_.UserDelete(); }); return true;
         case Qt::Key_Backspace: edit([this] { grid_.UserEditKey(ui::BackspaceKey); }); return true;
         default: break;
     }

@@ -10,6 +10,7 @@
 #include <algorithm>
 
 #include "desktop/cell_editor.h"
+#include "desktop/cell_tip.h"
 #include "desktop/grid_accessible.h"
 #include "desktop/texts.h"
 
@@ -218,21 +219,18 @@ void GridView::showToolTip(QHelpEvent* event) {
                        cell.Row < 0 ? QRect() : geometry_.cell(cell.Row, cell.Col));
 }
 
-/// What the pointer would tell of the cell that keys begin at: the name of its column, what that means, and a text that is
-/// cut.
-void GridView::explainCell() {
-    const auto [row, col] = grid_.KeyCell();
-    if (row >= grid_.Rows() || col < 0) return;
-    hovered_ = {0, col};
+/// What the pointer would tell of a cell: the name of its column, what that means, and a text that is cut.
+void GridView::explain(CellAddress cell) {
+    if (cell.Row >= grid_.Rows() || cell.Col < 0) return;
+    hovered_ = {0, cell.Col};
     act([this] { grid_.UserMouseMove(hovered_.Row, hovered_.Col); });
-    QStringList lines = {
-        shownText(additions_.HeadingOf ? additions_.HeadingOf(col) : std::string(grid_.TextMatrix(0, col)))};
+    QStringList lines = {shownText(additions_.HeadingOf ? additions_.HeadingOf(cell.Col)
+                                                        : std::string(grid_.TextMatrix(0, cell.Col)))};
     lines << shownText(grid_.ToolTipText());
-    if (painter_.isCut({row, col})) lines << shownText(grid_.TextMatrix(row, col));
+    if (painter_.isCut(cell)) lines << shownText(grid_.TextMatrix(cell.Row, cell.Col));
     lines.removeAll({});
     lines.removeDuplicates();
-    QToolTip::showText(viewport()->mapToGlobal(cellPlace(row, col).bottomLeft()),
-                       plainToolTip(utf8(lines.join('\n'))), viewport());
+    showTip(*viewport(), cellPlace(cell.Row, cell.Col).bottomLeft(), lines.join('\n'));
 }
 
 void GridView::reveal(CellAddress cell) {

@@ -77,7 +77,7 @@ private:
     void paintFrame();
     void reveal(CellAddress cell);
     void showToolTip(QHelpEvent* event);
-    void explainCell();
+    void explain(CellAddress cell);
 
     // Keys, while no editor is open (grid_keys.cpp).
     static bool isOwnShortcut(QKeyEvent& key);
@@ -86,6 +86,7 @@ private:
     bool clipboardKey(QKeyEvent* event);
     bool historyKey(QKeyEvent* event);
     void replay(bool (CellHistory::*way)());
+    CellAddress keyCell() const;
     void enterBody();
     bool moveKey(QKeyEvent* event);
     bool editKey(QKeyEvent* event);
@@ -99,15 +100,14 @@ private:
     void typeText(const QString& text);
 
     // The clipboard, and the menu (grid_clipboard.cpp).
-    static constexpr QKeyCombination CopyWithHeadingsKeys = Qt::CTRL | Qt::SHIFT | Qt::Key_C;
     void moveToClicked(QPoint place);
     bool canPaste() const;
     void offerForText(QMenu& menu);
-    void offerForCells(QMenu& menu);
-    void sortByColumn();
+    void offerForCells(QMenu& menu, CellAddress cell);
+    void sortByColumn(int col);
     void cutCell();
-    void copyCells() const;
-    void copyWithHeadings() const;
+    void copyCells();
+    void copyWithHeadings();
     void pasteCells();
     void tellWherePastingStopped(const ui::PastedBlock& block);
 

@@ -21,6 +21,8 @@ QString captionWithAccessKey(const ui::Control& control);
 /// A tool tip that Qt does not take for marked-up text.
 QString plainToolTip(std::string_view text);
 std::string utf8(const QString& text);
+/// The key of all tables that copies cells with what stands above and before them.
+inline constexpr QKeyCombination CopyWithHeadingsKeys = Qt::CTRL | Qt::SHIFT | Qt::Key_C;
 /// Whether a key types its text, rather than being a command.
 bool isTyping(const QKeyEvent& event);
 /// Whether a key presses the button that has the focus: Enter as well as the blank.

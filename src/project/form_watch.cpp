@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "project/form_watch.h"
 
-#include <utility>
-
 #include "project/frmBrenica.h"
 #include "project/pages.h"
 #include "project/project_file.h"
@@ -43,10 +41,7 @@ FormWatch::FormWatch(frmBrenica& form, ui::Files& files) : form_(form), files_(f
     form_.ProjectStepTaken.Join(this,
                                 [this](ProjectStep step, const std::string& path) { noteStep(step, path); });
     form_.GapFound = [this](const ui::Grid& grid, int row, int col) { noteGap(grid, row, col); };
-    form_.SelectionRefused = [this](SelectionObstacle obstacle) {
-        forgetObstacle();
-        noteObstacle(obstacle);
-    };
+    form_.SelectionRefused = [this](SelectionObstacle obstacle) { obstacle_ = obstacle; };
 }
 
 FormWatch::~FormWatch() {
@@ -104,31 +99,23 @@ void FormWatch::lookAtObstacle() {
     if (!obstacle_) return;
     const int shown = form_.CurrentMainTab;
     if (!form_.Global().ScoresCalculated || shown == page::Scores) obstacle_ = {};
-    if (obstacle_ && shown == page::Results) noteObstacle(form_.FindSelectionObstacle());
-}
-
-/// A species without a status is a gap, which is noted once.
-void FormWatch::noteObstacle(std::optional<SelectionObstacle> obstacle) {
-    if (std::exchange(obstacle_, obstacle) == obstacle || obstacle != SelectionObstacle::NoStatus) return;
-    const int species = form_.FirstWithoutStatus();
-    if (species > 0)
-        noteGap(form_.flxSummary(summary::Vulnerability), species, vulnerability::ConservationStatus);
+    if (obstacle_ && shown == page::Results) obstacle_ = form_.FindSelectionObstacle();
 }
 
 void FormWatch::noteGap(const ui::Grid& grid, int row, int col) {
-    gap_ = Gap{&grid, row, col, std::string(grid.TextMatrix(row, col))};
+    gap_ = Gap{&grid, row, col, form_.InWords(grid, row, col)};
 }
 
 void FormWatch::lookAtGap() {
     if (!gap_) return;
     const ui::Grid& grid = *gap_->Grid;
     const bool isThere = gap_->Row < grid.Rows() && gap_->Column < grid.Cols();
-    if (!isThere || grid.TextMatrix(gap_->Row, gap_->Column) != gap_->Text) forgetGap();
+    if (!isThere || grid.TextMatrix(gap_->Row, gap_->Column) != gap_->Words.Text) forgetGap();
 }
 
 std::optional<CellInWords> FormWatch::gap() const {
     if (!gap_) return {};
-    return form_.InWords(*gap_->Grid, gap_->Row, gap_->Column);
+    return gap_->Words;
 }
 
 void FormWatch::forget(Kind kind) {

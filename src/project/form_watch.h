@@ -64,11 +64,10 @@ private:
         const ui::Grid* Grid;
         int Row;
         int Column;
-        std::string Text;  ///< that stands there and does not do
+        CellInWords Words;  ///< as it was when it was found
     };
 
     void noteStep(ProjectStep step, const std::string& path);
-    void noteObstacle(std::optional<SelectionObstacle> obstacle);
     void noteGap(const ui::Grid& grid, int row, int col);
     void lookAtGap();
     void followSavesTo();

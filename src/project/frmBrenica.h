@@ -159,7 +159,7 @@ public:
     bool ValidateLandChar(int index);
     bool ValidateScoreValues();
     /// Fires when a cell that still has to be filled keeps the scores from being calculated, before the form tells what is
-    /// missing. It does not tell where; whoever watches may.
+    /// missing, or a selection from running. The form does not tell where; whoever watches may.
     ui::Event<const ui::Grid&, int, int> GapFound;
     void GetFlexGridsUpdated(int index);
 
@@ -445,6 +445,7 @@ private:
 
     // selection/complementarity.cpp
     method::Levels askedLevels_;  ///< by the last press, which may have been refused
+    void refuseSelection(SelectionObstacle obstacle);
     std::optional<SelectionObstacle> obstacleIn(const method::Landscape& landscape,
                                                 const method::Table& threatScores) const;
     method::Landscape selectionLandscape() const;

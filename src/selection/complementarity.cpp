@@ -66,6 +66,12 @@ std::optional<SelectionObstacle> frmBrenica::obstacleIn(const method::Landscape&
     return {};
 }
 
+void frmBrenica::refuseSelection(SelectionObstacle obstacle) {
+    if (obstacle == SelectionObstacle::NoStatus)
+        GapFound(flxSummary(summary::Vulnerability), FirstWithoutStatus(), vulnerability::ConservationStatus);
+    SelectionRefused(obstacle);
+}
+
 /// Runs one whole selection, from the levels in the boxes to the report.
 void frmBrenica::cmdComplement_Click() try {
     const ui::WaitPointer wait(platform());
@@ -76,7 +82,7 @@ void frmBrenica::cmdComplement_Click() try {
     const method::Landscape landscape = selectionLandscape();
     method::Table threatScores =
         threatScoresOf(flxSummary(summary::Vulnerability), global_.TotalSpecies, global_.TotalLandUses);
-    if (const auto obstacle = obstacleIn(landscape, threatScores)) return SelectionRefused(*obstacle);
+    if (const auto obstacle = obstacleIn(landscape, threatScores)) return refuseSelection(*obstacle);
     global_.ErrorMargin = askedLevels_.Margin;
     global_.ThreatRepresentation = askedLevels_.ThreatRepresentation;
     global_.ConservationStatusRepresentation = askedLevels_.ConservationStatus;

@@ -53,7 +53,7 @@ int Grid::nextShownCol(int col, int step) const {
 
 bool Grid::stepTo(int row, int col) { return isBody(row, col) && UserMoveTo(row, col); }
 
-/// From a heading that is the cell of the body next to it.
+/// Where a heading is current, the cell of the body that is next to it.
 std::pair<int, int> Grid::KeyCell() const {
     if (isBody(row_, col_)) return {row_, col_};
     const int before = row_ < fixedRows_ ? fixedCols_ - 1 : std::max(col_, fixedCols_) - 1;

@@ -90,6 +90,10 @@ private slots:
         QVERIFY2(w.tip().contains("many"), qPrintable(w.tip()));
         w.type("2");
         QVERIFY(w.tip().isEmpty());
+        for (const char* key : {"7", "7"}) {
+            w.type(key);
+            QVERIFY(w.tip().startsWith("“7”"));
+        }
     }
 
     void aTextThatMayNotBeLeftIsTold_data() {

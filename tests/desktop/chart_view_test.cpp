@@ -574,8 +574,16 @@ private slots:
                                         QItemSelectionModel::ClearAndSelect);
         QTest::keyClick(table, Qt::Key_C, Qt::ControlModifier);
         QCOMPARE(QApplication::clipboard()->text(), QString("Species 1\t1\nSpecies 2\t2"));
+        QTest::keyClick(table, Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(QApplication::clipboard()->text(),
+                 QString("Species common name\tCriterion 1\nSpecies 1\t1\nSpecies 2\t2"));
+        table->selectionModel()->select(table->model()->index(1, 2), QItemSelectionModel::ClearAndSelect);
+        QTest::keyClick(table, Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
+        QVERIFY2(
+            QApplication::clipboard()->text().startsWith("Species common name\tCriterion 2\nSpecies 1\t"),
+            qPrintable(QApplication::clipboard()->text()));
         table->selectAll();
-        table->copySelected();
+        table->copySelected(false);
         QVERIFY(QApplication::clipboard()->text().startsWith(
             "Species common name\tCriterion 1\tCriterion 2\nSpecies 0\t0\t1\n"));
         QTest::keyClick(window, Qt::Key_Escape);

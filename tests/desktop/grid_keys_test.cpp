@@ -284,6 +284,19 @@ private slots:
         actions[4]->trigger();
         QCOMPARE(col, 3);
         QCOMPARE(w.current(), (CellAddress{2, 3}));
+        openMenu(w, QContextMenuEvent::Mouse, w.middle(0, 2))[4]->trigger();
+        QCOMPARE(col, 2);
+    }
+
+    void deletingAndCopyingBeginAtTheFirstCellToo() {
+        GridWindow w;
+        w.select(0, 0);
+        w.key(Qt::Key_C, Qt::ControlModifier);
+        QCOMPARE(QApplication::clipboard()->text(), QString("1.1"));
+        w.select(0, 0);
+        w.key(Qt::Key_Delete);
+        QCOMPARE(w.text(1, 1), std::string());
+        QCOMPARE(w.text(0, 0), std::string("0.0"));
     }
 
     void nothingIsPastedWhereNothingCanBe() {
@@ -324,9 +337,11 @@ private slots:
 
 private:
     static QList<QAction*> openMenu(GridWindow& w) {
+        return openMenu(w, QContextMenuEvent::Keyboard, w.middle(1, 1));
+    }
+    static QList<QAction*> openMenu(GridWindow& w, QContextMenuEvent::Reason reason, QPoint place) {
         for (QMenu* old : w.view.findChildren<QMenu*>()) delete old;
-        QContextMenuEvent event(QContextMenuEvent::Keyboard, w.middle(1, 1),
-                                w.view.viewport()->mapToGlobal(w.middle(1, 1)));
+        QContextMenuEvent event(reason, place, w.view.viewport()->mapToGlobal(place));
         QApplication::sendEvent(w.view.viewport(), &event);
         const auto* menu = w.view.findChild<QMenu*>();
         return menu != nullptr ? menu->actions() : QList<QAction*>();

@@ -138,7 +138,7 @@ class Journey(unittest.TestCase):
             report = session.home / "report.html"
             window.menu("Insight", "Report on the suite…")
             window.chooseFile(report)
-            window.stripLine("The report on moor of the heron.brn is made: report.html.")
+            window.stripLine("The report on moor of the heron.brn is made: report.html, in ")
             session.picture("report_made")
             waitFor(lambda: shown.read_text().split()[-1].endswith("/report.html"), "the report in the browser")
             self.assertIn("moor of the heron", report.read_text(encoding="utf-8"))

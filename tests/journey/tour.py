@@ -1,7 +1,8 @@
 #!/usr/bin/python3
 # SPDX-FileCopyrightText: 2026 The Brenica developers
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""Pictures of every page with the full example, on screens of several sizes, for somebody to look at."""
+"""Pictures of every page with the full example, or of what comes and goes beside the pages, on screens of several sizes,
+for somebody to look at."""
 
 import argparse
 import os
@@ -12,6 +13,7 @@ HERE = Path(__file__).resolve().parent
 sys.path[:0] = [str(HERE)]
 
 from keyboard import KeyboardRoad
+from pieces import walkPieces
 from road import CRITERIA, GRAPHS, LISTS, PAGES, SUMMARIES, VIEWS
 from session import Session, waitFor
 from window import Window
@@ -105,6 +107,7 @@ def main():
     parser.add_argument("--screen", choices=SCREENS, action="append", help="default: all")
     parser.add_argument("--dark", action="store_true", help="a desktop with dark colours")
     parser.add_argument("--points", type=int, default=POINTS, help="of the desktop's font; default: %(default)s")
+    parser.add_argument("--pieces", action="store_true", help="the full example's tips, menus, boxes and strip instead")
     parser.add_argument("--output", type=Path, default=TOP / "build/journey")
     options = parser.parse_args()
     for screen in options.screen or SCREENS:
@@ -114,7 +117,10 @@ def main():
         with dressed(size, pictures, options.dark, options.points, **SCREENS[screen]) as session:
             window = start(session, options.program.resolve(), byKey=True)
             KeyboardRoad(window).open(options.project.resolve())
-            walkPages(window)
+            if options.pieces:
+                walkPieces(window, session.home)
+            else:
+                walkPages(window)
 
 
 if __name__ == "__main__":

@@ -236,7 +236,6 @@ TEST_F(FormWatching, AFailureCanBeForgotten) {
     EXPECT_THAT(watch.failures(), IsEmpty());
 }
 
-/// A selection that was refused since a species was added after the scores.
 /// A project in which the second species has no dispersal.
 class GapInEntries : public FormWatching {
 protected:
@@ -268,6 +267,7 @@ TEST_F(GapInEntries, StaysUntilSomethingElseStandsThere) {
 
 TEST_F(GapInEntries, GoesWhenItIsForgottenOrItsRowIs) {
     form.flxSummary(summary::Area).Rows(2);
+    EXPECT_EQ(watch.gap()->Row, "Species 2");  // as by the strip, while a command goes on
     watch.look();
     EXPECT_FALSE(watch.gap());
     goTo(6);
@@ -305,6 +305,7 @@ TEST_F(FormWatching, ASpeciesWithoutAStatusIsAGap) {
     EXPECT_FALSE(watch.gap());
 }
 
+/// A selection that was refused since a species was added after the scores.
 class RefusedSelection : public FormWatching {
 protected:
     void SetUp() override {

@@ -17,7 +17,7 @@ inline constexpr const char* HideCopies = "Hide them";
 inline constexpr const char* ShowCopy = "Show it";
 inline constexpr const char* HideCopy = "Hide it";
 
-// The menu of a table, and the tips at a cell that refuses a text: what it offers, or how many cells are left to paste.
+// The menu of a table, and the tips at a cell that refuses a text: what the cell offers, or how many are left to paste.
 inline constexpr const char* Undo = "Undo";
 inline constexpr const char* Redo = "Redo";
 inline constexpr const char* CopyWithHeadings = "Copy with headings";

@@ -41,12 +41,18 @@ void ReportMaker::tell(const std::shared_ptr<Work>& work, Told told) {
         Qt::QueuedConnection);
 }
 
-/// Work may be faster than a window that is busy: what it has not shown yet is not followed by more.
+/// On the other thread. Work may be faster than a window that is busy, which is then told the newest.
 void ReportMaker::tellProgress(const std::shared_ptr<Work>& work, const std::string& words) {
-    if (work->Telling.exchange(true)) return;
-    tell(work, [this, work = work.get(), words = QString::fromStdString(words)] {
-        work->Telling = false;
-        if (!work->Stop) emit progressed(words);
+    {
+        const std::lock_guard lock(work->Telling);
+        const std::string before = std::exchange(work->Progress, words);
+        if (!before.empty()) return;  // those who wait find the new words
+    }
+    tell(work, [this, told = work.get()] {
+        std::unique_lock lock(told->Telling);
+        const std::string newest = std::exchange(told->Progress, {});
+        lock.unlock();
+        if (!told->Stop) emit progressed(QString::fromStdString(newest));
     });
 }
 

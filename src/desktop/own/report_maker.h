@@ -7,6 +7,7 @@
 #include <QThreadPool>
 #include <atomic>
 #include <memory>
+#include <mutex>
 #include <string>
 
 #include "insight/report/report.h"
@@ -49,7 +50,8 @@ private:
     struct Work {
         Order Ordered;
         std::atomic<bool> Stop = false;
-        std::atomic<bool> Telling = false;  ///< of progress, which waits for the window's thread
+        std::mutex Telling;
+        std::string Progress;  ///< that the window's thread has still to tell
     };
 
     void run(const std::shared_ptr<Work>& work);

@@ -158,7 +158,10 @@ void Strip::leave() {
 }
 
 bool Strip::eventFilter(QObject* watched, QEvent* event) {
-    if (!rest_.hasExpired() && isPressOf(*event)) return true;
+    if (!rest_.hasExpired() && isPressOf(*event)) {
+        rest_.setRemainingTime(TimeToRest);  // a key that is held goes on
+        return true;
+    }
     if (event->type() == QEvent::KeyPress &&
         takesKey(static_cast<QKeyEvent*>(event)->key(), *static_cast<QAbstractButton*>(watched)))
         return true;

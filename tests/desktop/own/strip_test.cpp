@@ -144,6 +144,22 @@ private slots:
         QCOMPARE(w.copies.Log, QStringList("open 3"));
     }
 
+    void aKeyThatIsHeldPressesNothingThatComesNext() {
+        StripWindow w;
+        w.strip().TimeToRest = 300;
+        w.copies.give({copyOf("/a/one.brn", "1"), copyOf("/a/two.brn", "2")});
+        w.key(Qt::Key_F6);
+        w.copies.give({copyOf("/a/two.brn", "2")});
+        for (int i = 0; i < 6; ++i) {
+            w.key(Qt::Key_Return);
+            QTest::qWait(100);
+        }
+        QVERIFY(w.copies.Log.isEmpty());
+        QTest::qWait(400);
+        w.key(Qt::Key_Return);
+        QCOMPARE(w.copies.Log, QStringList("open 2"));
+    }
+
     void keysLeadInAroundAndBack() {
         StripWindow w;
         QWidget& box = w.widgetOf(w.form->txtTotalSpecies);

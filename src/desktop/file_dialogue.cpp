@@ -8,6 +8,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QScreen>
+#include <QShortcut>
 #include <QStandardPaths>
 
 #include "desktop/dialogues.h"
@@ -80,8 +81,11 @@ void takeAwayHarm(QFileDialog& dialogue) {
     for (const char* name : {"qt_rename_action", "qt_delete_action"}) {
         if (auto* action = dialogue.findChild<QAction*>(name)) action->setVisible(false);
     }
-    for (auto* files : dialogue.findChildren<QAbstractItemView*>())
+    for (auto* files : dialogue.findChildren<QAbstractItemView*>()) {
         files->setEditTriggers(QAbstractItemView::NoEditTriggers);
+        for (auto* shortcut : files->findChildren<QShortcut*>())
+            shortcut->setEnabled(shortcut->key() != QKeySequence(QKeySequence::Delete));
+    }
 }
 
 /// Wide enough for a name, a size, a type and a date beside the places.

@@ -43,8 +43,6 @@ double lightness(const QColor& colour) {
 
 bool isDisabled(const QPalette& palette) { return palette.currentColorGroup() == QPalette::Disabled; }
 
-}  // namespace
-
 /// A text in as many lines as there are, word by word; each is cut where it is longer than `longest`.
 QStringList brokenIntoLines(const QString& text, int room, int longest, int lines,
                             const QFontMetricsF& metrics) {
@@ -66,6 +64,8 @@ QStringList brokenIntoLines(const QString& text, int room, int longest, int line
     for (QString& shown : broken) shown = metrics.elidedText(shown, Qt::ElideRight, longest);
     return broken;
 }
+
+}  // namespace
 
 QString cellText(const ui::Grid& grid, CellAddress cell) {
     QString text = shortText(grid.TextMatrix(cell.Row, cell.Col));

@@ -13,6 +13,19 @@ namespace {
 
 constexpr int LongestLine = 4096;  // characters: more than there are pixels
 
+/// The line in lines of at most `width` characters, where its words allow that.
+QString broken(const QString& line, qsizetype width) {
+    QString text;
+    qsizetype column = 0;
+    for (const QString& word : line.split(' ')) {
+        const bool fits = text.isEmpty() || column + 1 + word.size() <= width;
+        if (!text.isEmpty()) text += fits ? ' ' : '\n';
+        column = fits && !text.isEmpty() ? column + 1 + word.size() : word.size();
+        text += word;
+    }
+    return text;
+}
+
 }  // namespace
 
 QString shownText(std::string_view text) {
@@ -32,19 +45,6 @@ QString captionWithAccessKey(const ui::Control& control) {
     const qsizetype place = control.AccessKey() == 0 ? -1 : caption.indexOf(QChar(control.AccessKey()));
     if (place < 0) return caption.replace('&', "&&");
     return caption.left(place).replace('&', "&&") + '&' + caption.mid(place).replace('&', "&&");
-}
-
-/// The line in lines of at most `width` characters, where its words allow that.
-QString broken(const QString& line, qsizetype width) {
-    QString text;
-    qsizetype column = 0;
-    for (const QString& word : line.split(' ')) {
-        const bool fits = text.isEmpty() || column + 1 + word.size() <= width;
-        if (!text.isEmpty()) text += fits ? ' ' : '\n';
-        column = fits && !text.isEmpty() ? column + 1 + word.size() : word.size();
-        text += word;
-    }
-    return text;
 }
 
 /// Qt would break the lines of marked-up text only, and those at a width of its own.

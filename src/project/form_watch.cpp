@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "project/form_watch.h"
 
+#include <utility>
+
 #include "project/frmBrenica.h"
 #include "project/pages.h"
 #include "project/project_file.h"
@@ -40,14 +42,12 @@ FormWatch::FormWatch(frmBrenica& form, ui::Files& files) : form_(form), files_(f
     };
     form_.ProjectStepTaken.Join(this,
                                 [this](ProjectStep step, const std::string& path) { noteStep(step, path); });
-    form_.GapFound = [this](const ui::Grid& grid, int row, int col) { noteGap(grid, row, col); };
     form_.SelectionRefused = [this](SelectionObstacle obstacle) { obstacle_ = obstacle; };
 }
 
 FormWatch::~FormWatch() {
     files_.Closed = nullptr;
     form_.ProjectStepTaken.Leave(this);
-    form_.GapFound = nullptr;
     form_.SelectionRefused = nullptr;
 }
 
@@ -102,20 +102,18 @@ void FormWatch::lookAtObstacle() {
     if (obstacle_ && shown == page::Results) obstacle_ = form_.FindSelectionObstacle();
 }
 
-void FormWatch::noteGap(const ui::Grid& grid, int row, int col) {
-    gap_ = Gap{&grid, row, col, form_.InWords(grid, row, col)};
-}
-
+/// A row that was removed, or whose species has another name, is none that was found.
 void FormWatch::lookAtGap() {
-    if (!gap_) return;
-    const ui::Grid& grid = *gap_->Grid;
-    const bool isThere = gap_->Row < grid.Rows() && gap_->Column < grid.Cols();
-    if (!isThere || grid.TextMatrix(gap_->Row, gap_->Column) != gap_->Words.Text) forgetGap();
-}
-
-std::optional<CellInWords> FormWatch::gap() const {
-    if (!gap_) return {};
-    return gap_->Words;
+    const auto& missing = form_.FirstMissing();
+    const bool isThere =
+        missing && missing->Row < missing->Grid->Rows() && missing->Column < missing->Grid->Cols();
+    std::optional<CellInWords> words;
+    if (isThere) words = form_.InWords(*missing->Grid, missing->Row, missing->Column);
+    if (std::exchange(missing_, missing) != missing) {
+        gap_ = std::move(words);
+    } else if (gap_ != words) {
+        forgetGap();
+    }
 }
 
 void FormWatch::forget(Kind kind) {

@@ -56,19 +56,11 @@ public:
 
     /// The first cell that still has to be filled before there are scores or a suite, until something else stands there or
     /// somebody forgets it.
-    std::optional<CellInWords> gap() const;
+    const std::optional<CellInWords>& gap() const { return gap_; }
     void forgetGap() { gap_ = {}; }
 
 private:
-    struct Gap {
-        const ui::Grid* Grid;
-        int Row;
-        int Column;
-        CellInWords Words;  ///< as it was when it was found
-    };
-
     void noteStep(ProjectStep step, const std::string& path);
-    void noteGap(const ui::Grid& grid, int row, int col);
     void lookAtGap();
     void followSavesTo();
     void lookAtObstacle();
@@ -78,5 +70,6 @@ private:
     ui::Files& files_;
     std::vector<FailedCommand> failures_;
     std::optional<SelectionObstacle> obstacle_;
-    std::optional<Gap> gap_;
+    std::optional<MissingCell> missing_;  ///< that was last looked at
+    std::optional<CellInWords> gap_;
 };

@@ -158,9 +158,9 @@ public:
     bool ValidateMainTab(int tab);
     bool ValidateLandChar(int index);
     bool ValidateScoreValues();
-    /// Fires when a cell that still has to be filled keeps the scores from being calculated, before the form tells what is
-    /// missing, or a selection from running. The form does not tell where; whoever watches may.
-    ui::Event<const ui::Grid&, int, int> GapFound;
+    /// The cell that kept the scores from being calculated, or a selection from running, when that was last tried; nothing
+    /// where something else did, or nothing. The form tells what is missing, not where; whoever watches may.
+    const std::optional<MissingCell>& FirstMissing() const { return firstMissing_; }
     void GetFlexGridsUpdated(int index);
 
     // scoring/unit_use.cpp
@@ -405,7 +405,8 @@ private:
     bool validateHumanActivities();
     bool allUnitsInUse(int member, const ui::Grid& units, int count, const char* kind);
     bool allFilled(int member, int firstCol, int lastCol, const char* message);
-    bool refuseGap(const ui::Grid& grid, int row, int col, const char* message);
+    bool refuseMissing(const ui::Grid& grid, int row, int col, const char* message);
+    void noteMissing(const ui::Grid& grid, int row, int col);
     void showInvalidValue(const std::string& message);
 
     // scoring/unit_use.cpp
@@ -451,6 +452,8 @@ private:
     method::Landscape selectionLandscape() const;
     void runSelection(method::Selection& selection);
     std::optional<SelectionOutcome> outcome_;  ///< of the selection on view
+    std::optional<MissingCell> firstMissing_;
+    int missingFound_ = 0;
 
     // selection/results_export.cpp
     void printResult(std::string_view line);

@@ -41,6 +41,8 @@ struct CellInWords {
     std::string Row;
     std::string Column;
     std::string Text;
+
+    bool operator==(const CellInWords&) const = default;
 };
 
 /// What a project command has come to, told to whoever keeps copies of the project. Told from within the command.

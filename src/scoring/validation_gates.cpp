@@ -135,6 +135,7 @@ bool frmBrenica::removeBlankRows(ui::Grid& grid, int column, const char* prompt,
 }
 
 bool frmBrenica::ValidateScoreValues() try {
+    firstMissing_.reset();
     if (global_.TotalSpecies < 1 || global_.TotalHabitatTypes < 1 || global_.TotalJurisUnits < 1 ||
         global_.TotalLandUses < 1) {
         return false;
@@ -150,7 +151,7 @@ bool frmBrenica::ValidateScoreValues() try {
     const ui::Grid& areas = flxSummary(summary::Area);
     for (const AreaRule& rule : AreaRules) {
         const int row = firstRefused(areas, rule);
-        if (row > 0) return refuseGap(areas, row, rule.Column, rule.Message);
+        if (row > 0) return refuseMissing(areas, row, rule.Column, rule.Message);
     }
     return allFilled(summary::ThreatsBySpecies, threat::Severity, threat::Severity,
                      "Enter a severity value for each human activity by species before proceeding.") &&
@@ -179,16 +180,20 @@ bool frmBrenica::allFilled(int member, int firstCol, int lastCol, const char* me
     const ui::Grid& grid = flxSummary(member);
     for (int row = 1; row <= grid.Rows() - 1; ++row) {
         for (int col = firstCol; col <= lastCol; ++col) {
-            if (ui::isBlank(grid.TextMatrix(row, col))) return refuseGap(grid, row, col, message);
+            if (ui::isBlank(grid.TextMatrix(row, col))) return refuseMissing(grid, row, col, message);
         }
     }
     return true;
 }
 
-bool frmBrenica::refuseGap(const ui::Grid& grid, int row, int col, const char* message) {
-    GapFound(grid, row, col);
+bool frmBrenica::refuseMissing(const ui::Grid& grid, int row, int col, const char* message) {
+    noteMissing(grid, row, col);
     showInvalidValue(message);
     return false;
+}
+
+void frmBrenica::noteMissing(const ui::Grid& grid, int row, int col) {
+    firstMissing_ = MissingCell{&grid, row, col, ++missingFound_};
 }
 
 void frmBrenica::showInvalidValue(const std::string& message) {

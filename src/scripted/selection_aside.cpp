@@ -74,10 +74,16 @@ void lookForStatus(const frmBrenica& form, SelectionAside& told) {
         form.InWords(form.flxSummary(summary::Vulnerability), species, vulnerability::ConservationStatus);
 }
 
+void lookForGap(const frmBrenica& form, SelectionAside& told) {
+    if (const auto& missing = form.FirstMissing())
+        told.Gap = form.InWords(*missing->Grid, missing->Row, missing->Column);
+    else if (!told.Error.empty())
+        lookForStatus(form, told);
+}
+
 void walkAndSelect(FormAside& aside, const std::vector<std::string>& answers, SelectionAside& told) {
     frmBrenica& form = aside.Form;
     form.SelectionRefused = [&told](SelectionObstacle obstacle) { told.Obstacle = obstacle; };
-    form.GapFound = [&](const ui::Grid& grid, int row, int col) { told.Gap = form.InWords(grid, row, col); };
     aside.Platform.Transcript.clear();
     try {
         told.Walk = walkToSelection(form);
@@ -88,7 +94,7 @@ void walkAndSelect(FormAside& aside, const std::vector<std::string>& answers, Se
     }
     if (!aside.Platform.Transcript.empty()) told.Told = aside.Platform.Transcript.back().Text;
     told.Run = form.TakeSelectionRun();
-    if (!told.Run && told.Walk.EmptyLists.empty() && !told.Gap) lookForStatus(form, told);
+    if (!told.Run) lookForGap(form, told);
 }
 
 bool sayTheSame(const ui::Grid& one, const ui::Grid& other) {

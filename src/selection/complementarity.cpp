@@ -67,8 +67,10 @@ std::optional<SelectionObstacle> frmBrenica::obstacleIn(const method::Landscape&
 }
 
 void frmBrenica::refuseSelection(SelectionObstacle obstacle) {
+    firstMissing_.reset();
     if (obstacle == SelectionObstacle::NoStatus)
-        GapFound(flxSummary(summary::Vulnerability), FirstWithoutStatus(), vulnerability::ConservationStatus);
+        noteMissing(flxSummary(summary::Vulnerability), FirstWithoutStatus(),
+                    vulnerability::ConservationStatus);
     SelectionRefused(obstacle);
 }
 

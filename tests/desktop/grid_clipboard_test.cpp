@@ -95,6 +95,13 @@ private slots:
         QCOMPARE(QToolTip::text(), QString("“no” is not accepted here: 2 cells not pasted."));
     }
 
+    void aCellThatTakesNothingIsToldSo() {
+        PasteWindow w;
+        w.grid.BeforeEdit = [](int, int, bool& cancel) { cancel = true; };
+        w.paste(" ");
+        QCOMPARE(QToolTip::text(), QString("Nothing can be entered here: 1 cell not pasted."));
+    }
+
     void theNextKeyTakesTheTipAway() {
         PasteWindow w;
         w.paste("no1");

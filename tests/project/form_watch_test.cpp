@@ -275,6 +275,24 @@ TEST_F(GapInEntries, GoesWhenItIsForgottenOrItsRowIs) {
     EXPECT_FALSE(watch.gap());
 }
 
+TEST_F(GapInEntries, IsNotTakenForTheOneBelowWhenItsRowIsRemoved) {
+    goTo(1);
+    type(form.txtRemoveSpeciesIndex, "2");
+    form.cmdRemoveSpecies.UserClick();
+    watch.look();
+    EXPECT_FALSE(watch.gap());
+}
+
+TEST_F(GapInEntries, GoesWhenSomethingElseKeepsTheScores) {
+    goTo(2);
+    type(form.txtTotalHabitatTypes, "1");
+    form.cmdUpdateHabitatTypes.UserClick();
+    form.flxHabitatTypes.UserEditCell(2, list::Name, "Moor");
+    goTo(6);
+    watch.look();
+    EXPECT_FALSE(watch.gap());
+}
+
 TEST_F(GapInEntries, GoesWithItsProject) {
     form.ProjectChanged = false;
     form.mnuNewProject.UserClick();

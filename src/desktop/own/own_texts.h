@@ -26,6 +26,7 @@ inline constexpr const char* ExplainCell = "What is this?";
 inline constexpr const char* Refused = "“%1” is not accepted here.";
 inline constexpr const char* RefusedByList = "“%1” is not accepted here. Choose %2.";
 inline constexpr const char* PasteRefused = "“%1” is not accepted here: %2 not pasted.";
+inline constexpr const char* PasteNotTaken = "Nothing can be entered here: %1 not pasted.";
 inline constexpr const char* PasteTooLarge = "The table ends here: %1 not pasted.";
 
 // A box among many of one command, and the list of those that were answered at once.

@@ -47,8 +47,9 @@ QString refused(const QString& text, const std::vector<std::string_view>& items)
 
 QString pasteStopped(const ui::PastedBlock& block) {
     if (!block.Refused) return said(own_texts::PasteTooLarge).arg(cells(block.Left));
-    return said(own_texts::PasteRefused)
-        .arg(shortened(shownText(*block.Refused), LongestRefused), cells(block.Left));
+    const QString refused = shortened(shownText(*block.Refused).simplified(), LongestRefused);
+    if (refused.isEmpty()) return said(own_texts::PasteNotTaken).arg(cells(block.Left));
+    return said(own_texts::PasteRefused).arg(refused, cells(block.Left));
 }
 
 }  // namespace desktop::own_words

@@ -55,8 +55,9 @@ void GridView::contextMenuEvent(QContextMenuEvent* event) {
     } else {
         offerForCells(*menu, cell);
     }
-    const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
-    menu->popup(byKey ? viewport()->mapToGlobal(cellPlace(cell.Row, cell.Col).center()) : event->globalPos());
+    const bool atCell = event->reason() == QContextMenuEvent::Keyboard && isThere(cell);
+    menu->popup(atCell ? viewport()->mapToGlobal(cellPlace(cell.Row, cell.Col).center())
+                       : event->globalPos());
 }
 
 bool GridView::canPaste() const {
@@ -87,7 +88,7 @@ void GridView::offerForCells(QMenu& menu, CellAddress cell) {
     offer(menu, own_texts::CopyWithHeadings, CopyWithHeadingsKeys, true, [this] { copyWithHeadings(); });
     offer(menu, ui::window_text::PasteCells, QKeySequence::Paste, canPaste(), [this] { pasteCells(); });
     menu.addSeparator();
-    const bool isCell = cell.Row >= 0 && cell.Row < grid_.Rows() && cell.Col >= 0;
+    const bool isCell = isThere(cell);
     if (grid_.MouseDown)
         offer(menu, own_texts::SortByColumn, {}, isCell, [=, this] { sortByColumn(cell.Col); });
     offer(menu, own_texts::ExplainCell, QKeySequence::WhatsThis, isCell, [=, this] { explain(cell); });

@@ -219,9 +219,13 @@ void GridView::showToolTip(QHelpEvent* event) {
                        cell.Row < 0 ? QRect() : geometry_.cell(cell.Row, cell.Col));
 }
 
+bool GridView::isThere(CellAddress cell) const {
+    return cell.Row >= 0 && cell.Row < grid_.Rows() && cell.Col >= 0 && cell.Col < grid_.Cols();
+}
+
 /// What the pointer would tell of a cell: the name of its column, what that means, and a text that is cut.
 void GridView::explain(CellAddress cell) {
-    if (cell.Row >= grid_.Rows() || cell.Col < 0) return;
+    if (!isThere(cell)) return;
     hovered_ = {0, cell.Col};
     act([this] { grid_.UserMouseMove(hovered_.Row, hovered_.Col); });
     QStringList lines = {shownText(additions_.HeadingOf ? additions_.HeadingOf(cell.Col)

@@ -288,6 +288,21 @@ private slots:
         QCOMPARE(col, 2);
     }
 
+    void aTableWithoutACellOfItsBodyTakesKeysAndMenus() {
+        for (const bool hasRows : {false, true}) {
+            GridWindow w;
+            w.run([&] {
+                w.grid.Select(0, 0);
+                hasRows ? w.grid.Cols(1) : w.grid.Rows(1);
+            });
+            QCOMPARE(openMenu(w).size(), 5);
+            QVERIFY(!openMenu(w)[4]->isEnabled());
+            w.key(Qt::Key_F1, Qt::ShiftModifier);
+            for (const int key : {Qt::Key_Down, Qt::Key_Delete, Qt::Key_End, Qt::Key_F2}) w.key(key);
+            QCOMPARE(w.current(), (CellAddress{0, 0}));
+        }
+    }
+
     void deletingAndCopyingBeginAtTheFirstCellToo() {
         GridWindow w;
         w.select(0, 0);

@@ -254,13 +254,13 @@ CellInWords frmBrenica::InWords(const ui::Grid& grid, int row, int col) const {
 
 /// A row of a list by its number; one of a table by the species and, where there is one row for each, by the unit.
 std::string frmBrenica::rowInWords(const ui::Grid& grid, int row) const {
-    const auto nameOf = [](const ui::Grid& names, int at) {
-        return std::string(names.TextMatrix(at, list::Name));
+    const auto nameOf = [](const ui::Grid& names, int at) {  // the lists may be shorter than the tables
+        return at < names.Rows() ? std::string(names.TextMatrix(at, list::Name)) : std::string();
     };
     if (!grid.Name().starts_with("flxSummary")) return ui::toText(row);
     for (const ParameterList& list : parameterLists_) {
         if (list.LongMember == ParameterList::NoMember || &grid != &flxSummary(list.LongMember)) continue;
-        const int units = global_.*list.Total;
+        const int units = std::max(global_.*list.Total, 1);
         return nameOf(flxCandidateSpecies, (row - 1) / units + 1) + ", " +
                nameOf(*list.Grid, (row - 1) % units + 1);
     }

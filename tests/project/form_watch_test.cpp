@@ -309,6 +309,16 @@ TEST_F(FormWatching, AGapInAGradeIsNamedByItsSpeciesAndActivity) {
     EXPECT_EQ(watch.gap()->Column, "Recovery");
 }
 
+TEST_F(FormWatching, AGapIsLookedForInListsThatAreShorterThanTheTables) {
+    open(ProjectText(2, 1, 1, 2).set("VulnerabilitybySpecies Recovery", "1,1,1,"));
+    walkTo(6);
+    watch.look();
+    form.flxLandUses.Rows(2);
+    form.flxCandidateSpecies.Rows(1);
+    watch.look();
+    EXPECT_FALSE(watch.gap());
+}
+
 TEST_F(FormWatching, ASpeciesWithoutAStatusIsAGap) {
     open(ProjectText(2, 1, 1, 1).set("Conservation Status", "0.5,0.5"));
     walkTo(7);

@@ -123,6 +123,7 @@ inline constexpr const char* FinishingReport =
 inline constexpr const char* ReportCancelled = "The report on %1 was cancelled. Nothing was written.";
 inline constexpr const char* ReportIsMade = "The report on %1 is made: %2, in %3.";
 inline constexpr const char* NoBrowserForReport = "There is no browser to show it in.";
+inline constexpr const char* HomeFolder = "your home folder";
 inline constexpr const char* OpenReport = "Open the report";
 inline constexpr const char* ReportIsGone = "It is no longer there.";
 inline constexpr const char* SaveElsewhere = "Save it elsewhere";

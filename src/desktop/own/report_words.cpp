@@ -18,6 +18,8 @@ namespace {
 
 using own_words::said;
 
+constexpr int LongestFolder = 60;  // characters
+
 QString whatIsMissing(const SelectionAside& aside) {
     if (aside.Walk.RefusedPage > 0)
         return said(own_texts::RowsNotComplete).arg(shownText(aside.Walk.RefusedTab));
@@ -40,6 +42,12 @@ QString whyNone(const QString& reason) { return said(own_texts::NoReport).arg(re
 
 QString projectName(const QString& path) {
     return path.isEmpty() ? said(own_texts::NewProject) : QFileInfo(path).fileName();
+}
+
+QString folderName(const QString& path) {
+    const QString fromHome = QDir::home().relativeFilePath(path);
+    if (fromHome == ".") return said(own_texts::HomeFolder);
+    return own_words::shortened(fromHome.startsWith("..") ? path : fromHome, LongestFolder);
 }
 
 QString proposedFile(const QString& projectPath) {

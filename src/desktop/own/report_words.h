@@ -15,6 +15,8 @@ QString whyNone(const QString& reason);
 
 /// The name of a project's file for people; there may be none.
 QString projectName(const QString& path);
+/// The name of a folder for people, as seen from their own.
+QString folderName(const QString& path);
 /// The file that a report of the project is proposed to be saved in: beside it where that folder can be written.
 QString proposedFile(const QString& projectPath);
 

@@ -29,8 +29,6 @@ namespace {
 
 using own_words::said;
 
-constexpr int LongestFolder = 60;  // characters, in the strip
-
 /// The project's file as it is now, put where nobody else writes.
 struct SavedProject {
     explicit SavedProject(const QString& project);
@@ -207,7 +205,7 @@ StripAction WindowReport::cancel() {
 
 StripLine WindowReport::lineOfFile() {
     const QFileInfo file(file_);
-    const QString folder = own_words::shortened(file.absolutePath(), LongestFolder);
+    const QString folder = report_words::folderName(file.absolutePath());
     return closable({said(own_texts::ReportIsMade).arg(project_, file.fileName(), folder),
                      file_,
                      StripTone::Offer,

@@ -10,7 +10,7 @@
 
 #include "desktop/box_user.h"
 #include "desktop/own/browser.h"
-#include "desktop/own/own_words.h"
+#include "desktop/own/report_words.h"
 #include "desktop/own/strip.h"
 #include "desktop/own/strip_reader.h"
 #include "desktop/own/windowed_program.h"
@@ -114,7 +114,7 @@ struct Planner {
     User::Step read() { return answer(QDialogButtonBox::Ok); }
     QString isMade() const {
         const QString said = "The report on landscape.brn is made: landscape report.html, in %1.";
-        return said.arg(desktop::own_words::shortened(folder.path(), 60));
+        return said.arg(desktop::report_words::folderName(folder.path()));
     }
     void pressOnStrip(const QString& line, const QString& caption) {
         QAbstractButton* button = desktop_test::buttonOf(strip(), line, caption);
@@ -259,6 +259,15 @@ private slots:
             planner.told,
             QStringList("No report can be made. Rows on the page “Candidate Species” are not complete."));
         QCOMPARE(planner.form().flxCandidateSpecies.Rows(), 3);
+    }
+
+    void foldersAreNamedAsSeenFromHome() {
+        const QDir home = QDir::home();
+        using desktop::report_words::folderName;
+        QCOMPARE(folderName(home.path()), QString("your home folder"));
+        QCOMPARE(folderName(home.filePath("Documents/moors")), QString("Documents/moors"));
+        QCOMPARE(folderName("/srv/landscapes"), QString("/srv/landscapes"));
+        QVERIFY(folderName('/' + QString(200, 'a')).size() <= 60);
     }
 
     void theDialogueForFilesCanBeCancelled() {

@@ -18,10 +18,6 @@ constexpr qsizetype MostCellsKept = 20'000;
 
 GridView* viewOf(QObject* object) { return static_cast<GridView*>(object); }
 
-bool has(const ui::Grid& grid, int row, int col) {
-    return row >= 0 && row < grid.Rows() && col >= 0 && col < grid.Cols();
-}
-
 QAccessibleInterface* tableOf(GridView& view) { return QAccessible::queryAccessibleInterface(&view); }
 
 /// One cell, found anew at every question, since rows come and go.
@@ -29,7 +25,7 @@ class CellInterface : public QAccessibleInterface, public QAccessibleTableCellIn
 public:
     CellInterface(GridView& view, int row, int col) : view_(&view), row_(row), col_(col) {}
 
-    bool isValid() const override { return view_ != nullptr && has(view_->grid(), row_, col_); }
+    bool isValid() const override { return view_ != nullptr && view_->grid().HasCell(row_, col_); }
     QObject* object() const override { return nullptr; }
     QWindow* window() const override { return view_ ? view_->window()->windowHandle() : nullptr; }
     QAccessibleInterface* parent() const override { return view_ ? tableOf(*view_) : nullptr; }
@@ -163,7 +159,7 @@ private:
     GridView& view() const { return *viewOf(object()); }
     const ui::Grid& grid() const { return view().grid(); }
     QString textOf(int row, int col) const {
-        return has(grid(), row, col) ? shownText(grid().TextMatrix(row, col)) : QString();
+        return grid().HasCell(row, col) ? shownText(grid().TextMatrix(row, col)) : QString();
     }
     void dropCells() const {
         for (const QAccessible::Id id : std::as_const(cells_)) QAccessible::deleteAccessibleInterface(id);
@@ -174,7 +170,7 @@ private:
 };
 
 QAccessibleInterface* GridInterface::cellAt(int row, int col) const {
-    if (!has(grid(), row, col)) return nullptr;
+    if (!grid().HasCell(row, col)) return nullptr;
     if (const auto known = cells_.constFind({row, col}); known != cells_.cend()) {
         return QAccessible::accessibleInterface(*known);
     }
@@ -199,7 +195,7 @@ QAccessibleInterface* makeGridInterface(const QString&, QObject* object) {
 void tell(GridView& view, QAccessible::Event kind) {
     const ui::Grid& grid = view.grid();
     const auto [row, col] = grid.KeyCell();
-    if (!QAccessible::isActive() || !has(grid, row, col)) return;
+    if (!QAccessible::isActive() || !grid.HasCell(row, col)) return;
     QAccessibleEvent event(&view, kind);
     event.setChild(row * grid.Cols() + col);
     QAccessible::updateAccessibility(&event);

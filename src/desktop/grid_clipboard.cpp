@@ -55,7 +55,8 @@ void GridView::contextMenuEvent(QContextMenuEvent* event) {
     } else {
         offerForCells(*menu, cell);
     }
-    const bool atCell = event->reason() == QContextMenuEvent::Keyboard && isThere(cell);
+    const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
+    const bool atCell = byKey && grid_.HasCell(cell.Row, cell.Col);
     menu->popup(atCell ? viewport()->mapToGlobal(cellPlace(cell.Row, cell.Col).center())
                        : event->globalPos());
 }
@@ -88,7 +89,7 @@ void GridView::offerForCells(QMenu& menu, CellAddress cell) {
     offer(menu, own_texts::CopyWithHeadings, CopyWithHeadingsKeys, true, [this] { copyWithHeadings(); });
     offer(menu, ui::window_text::PasteCells, QKeySequence::Paste, canPaste(), [this] { pasteCells(); });
     menu.addSeparator();
-    const bool isCell = isThere(cell);
+    const bool isCell = grid_.HasCell(cell.Row, cell.Col);
     if (grid_.MouseDown)
         offer(menu, own_texts::SortByColumn, {}, isCell, [=, this] { sortByColumn(cell.Col); });
     offer(menu, own_texts::ExplainCell, QKeySequence::WhatsThis, isCell, [=, this] { explain(cell); });

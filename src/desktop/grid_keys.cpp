@@ -92,7 +92,7 @@ CellAddress GridView::keyCell() const {
 
 /// Keys begin at the cell that has the frame.
 void GridView::enterBody() {
-    act([this] { grid_.UserEnterBody(); });
+    if (!grid_.IsBody(grid_.Row(), grid_.Col())) act([this] { grid_.UserEnterBody(); });
 }
 
 bool GridView::moveKey(QKeyEvent* event) {
@@ -193,7 +193,10 @@ bool GridView::editKey(QKeyEvent* event) {
             if (!(event->modifiers() & Qt::ShiftModifier)) return false;
             explain(keyCell());
             return true;
-        case Qt::Key_Delete: act([this] { grid_.UserEnterBody() && grid_.UserDelete(); }); return true;
+        case Qt::Key_Delete:
+            enterBody();
+            act([this] { grid_.UserDelete(); });
+            return true;
         case Qt::Key_Backspace: edit([this] { grid_.UserEditKey(ui::BackspaceKey); }); return true;
         default: break;
     }

@@ -233,8 +233,7 @@ void GridPainter::paintLines(QPainter& painter, const Area& area, const QColor& 
 void GridPainter::paintSelection(QPainter& painter, const Area& body, bool focused) const {
     const auto [row, col] = grid_.KeyCell();
     const CellAddress current{row, col};
-    const bool isInBody = row >= geometry_.fixedRows() && row < grid_.Rows() && col >= geometry_.fixedCols();
-    if (!body.Clip.isValid() || !isInBody) return;
+    if (!body.Clip.isValid() || !grid_.IsBody(row, col)) return;
     painter.setClipRect(body.Clip);
     const QColor highlight = palette_.color(QPalette::Highlight);
     // The frame covers the line before the cell too.

@@ -69,7 +69,7 @@ void GridView::follow() {
 
 void GridView::tellListeners() {
     const CellAddress current{grid_.Row(), grid_.Col()};
-    const bool any = current.Row < grid_.Rows() && current.Col < grid_.Cols();
+    const bool any = grid_.HasCell(current.Row, current.Col);
     std::string text(any ? grid_.TextMatrix(current.Row, current.Col) : std::string_view());
     const bool closed = std::exchange(toldEditing_, grid_.Editing()) && !grid_.Editing();
     const bool moved = current != toldCell_;
@@ -219,13 +219,9 @@ void GridView::showToolTip(QHelpEvent* event) {
                        cell.Row < 0 ? QRect() : geometry_.cell(cell.Row, cell.Col));
 }
 
-bool GridView::isThere(CellAddress cell) const {
-    return cell.Row >= 0 && cell.Row < grid_.Rows() && cell.Col >= 0 && cell.Col < grid_.Cols();
-}
-
 /// What the pointer would tell of a cell: the name of its column, what that means, and a text that is cut.
 void GridView::explain(CellAddress cell) {
-    if (!isThere(cell)) return;
+    if (!grid_.HasCell(cell.Row, cell.Col)) return;
     hovered_ = {0, cell.Col};
     act([this] { grid_.UserMouseMove(hovered_.Row, hovered_.Col); });
     QStringList lines = {shownText(additions_.HeadingOf ? additions_.HeadingOf(cell.Col)
@@ -238,8 +234,7 @@ void GridView::explain(CellAddress cell) {
 }
 
 void GridView::reveal(CellAddress cell) {
-    if (cell.Row < geometry_.fixedRows() || cell.Col < geometry_.fixedCols()) return;
-    if (cell.Row >= grid_.Rows() || cell.Col >= grid_.Cols()) return;
+    if (!grid_.IsBody(cell.Row, cell.Col)) return;
     QScrollBar* rows = verticalScrollBar();
     const int row = cell.Row - geometry_.fixedRows();
     const int page = std::max(1, geometry_.wholeRows(viewport()->height()));

@@ -77,7 +77,6 @@ private:
     void paintFrame();
     void reveal(CellAddress cell);
     void showToolTip(QHelpEvent* event);
-    bool isThere(CellAddress cell) const;
     void explain(CellAddress cell);
 
     // Keys, while no editor is open (grid_keys.cpp).

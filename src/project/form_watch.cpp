@@ -105,10 +105,9 @@ void FormWatch::lookAtObstacle() {
 /// A row that was removed, or whose species has another name, is none that was found.
 void FormWatch::lookAtGap() {
     const auto& missing = form_.FirstMissing();
-    const bool isThere =
-        missing && missing->Row < missing->Grid->Rows() && missing->Column < missing->Grid->Cols();
     std::optional<CellInWords> words;
-    if (isThere) words = form_.InWords(*missing->Grid, missing->Row, missing->Column);
+    if (missing && missing->Grid->HasCell(missing->Row, missing->Column))
+        words = form_.InWords(*missing->Grid, missing->Row, missing->Column);
     if (std::exchange(missing_, missing) != missing) {
         gap_ = std::move(words);
     } else if (gap_ != words) {

@@ -9,7 +9,6 @@
 #include "project/project_copy.h"
 #include "project/selection_obstacle.h"
 #include "ui/files.h"
-#include "ui/grid.h"
 
 class frmBrenica;
 

@@ -98,7 +98,7 @@ public:
     /// how many that was.
     template <class Read>
     int ReadColumn(int col, int row, int count, Read read) const {
-        if (!contains(row, col)) return 0;
+        if (!HasCell(row, col)) return 0;
         const int inside = std::min(count, Rows() - row);
         cells_.readColumn(size(col), size(row), size(inside), read);
         return inside;
@@ -106,7 +106,7 @@ public:
     /// The same for the cells of a row.
     template <class Read>
     int ReadRow(int row, int col, int count, Read read) const {
-        if (!contains(row, col)) return 0;
+        if (!HasCell(row, col)) return 0;
         const int inside = std::min(count, Cols() - col);
         cells_.readRow(size(row), size(col), size(inside), read);
         return inside;
@@ -232,6 +232,12 @@ public:
     /// Whether the watch is told of each write and change of shape, too. Without it these cost what they always did.
     void TellChanges(bool tells) { changeWatch_ = tells ? watch_ : nullptr; }
 
+    bool HasCell(int row, int col) const { return size(row) < cells_.rows() && size(col) < cells_.cols(); }
+    /// Whether that is a cell, and no heading.
+    bool IsBody(int row, int col) const {
+        return HasCell(row, col) && row >= fixedRows_ && col >= fixedCols_;
+    }
+
     // The cell under the mouse, -1 where it is over none.
     int MouseRow() const { return mouseRow_; }
     int MouseCol() const { return mouseCol_; }
@@ -303,9 +309,8 @@ private:
     void tellReshape();
     static std::size_t size(int value) { return static_cast<std::size_t>(value); }
     /// A negative number is beyond every size.
-    bool contains(int row, int col) const { return size(row) < cells_.rows() && size(col) < cells_.cols(); }
     void requireCell(int row, int col) const {
-        if (!contains(row, col)) raise(ErrorNumber::SubscriptOutOfRange);
+        if (!HasCell(row, col)) raise(ErrorNumber::SubscriptOutOfRange);
     }
     void requireRoomFor(int rows, int cols) const;
     const CellFormat& format(int row, int col) const;
@@ -327,9 +332,6 @@ private:
     CellTable::Range selection() const;
     void changeFormats(const std::function<void(CellFormat&)>& change);
     bool mayLeaveFor(int row, int col);
-    bool isBody(int row, int col) const {
-        return contains(row, col) && row >= fixedRows_ && col >= fixedCols_;
-    }
     int nextShownCol(int col, int step) const;
     bool stepTo(int row, int col);
     void measure(int firstCol, int lastCol);

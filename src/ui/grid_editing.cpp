@@ -38,7 +38,7 @@ void appendLine(std::string& lines, const std::vector<int>& cols, TextOf textOf)
 }  // namespace
 
 bool Grid::UserMoveTo(int row, int col) {
-    if (!acceptsUserAction() || !contains(row, col)) return false;
+    if (!acceptsUserAction() || !HasCell(row, col)) return false;
     Select(row, col);
     return row_ == row && col_ == col;
 }
@@ -51,22 +51,22 @@ int Grid::nextShownCol(int col, int step) const {
     return -1;
 }
 
-bool Grid::stepTo(int row, int col) { return isBody(row, col) && UserMoveTo(row, col); }
+bool Grid::stepTo(int row, int col) { return IsBody(row, col) && UserMoveTo(row, col); }
 
 /// Where a heading is current, the cell of the body that is next to it.
 std::pair<int, int> Grid::KeyCell() const {
-    if (isBody(row_, col_)) return {row_, col_};
+    if (IsBody(row_, col_)) return {row_, col_};
     const int before = row_ < fixedRows_ ? fixedCols_ - 1 : std::max(col_, fixedCols_) - 1;
     return {std::max(row_, fixedRows_), nextShownCol(before, 1)};
 }
 
 bool Grid::UserEnterBody() {
     const auto [row, col] = KeyCell();
-    return isBody(row_, col_) || stepTo(row, col);
+    return IsBody(row_, col_) || stepTo(row, col);
 }
 
 bool Grid::UserStep(int key) {
-    if (!isBody(row_, col_)) return UserEnterBody();
+    if (!IsBody(row_, col_)) return UserEnterBody();
     switch (key) {
         case EnterKey:
         case DownKey: return stepTo(row_ + 1, col_);
@@ -92,11 +92,11 @@ bool Grid::AtLastCell() const {
 }
 
 bool Grid::AtFirstCell() const {
-    return !isBody(row_, col_) || (row_ <= fixedRows_ && nextShownCol(col_, -1) < 0);
+    return !IsBody(row_, col_) || (row_ <= fixedRows_ && nextShownCol(col_, -1) < 0);
 }
 
 bool Grid::UserSelectTo(int row, int col) {
-    if (!acceptsUserAction() || !isBody(row_, col_) || !isBody(row, col)) return false;
+    if (!acceptsUserAction() || !IsBody(row_, col_) || !IsBody(row, col)) return false;
     change(rowSel_, row);
     change(colSel_, col);
     change(userSelected_, true);
@@ -106,7 +106,7 @@ bool Grid::UserSelectTo(int row, int col) {
 /// Without hidden ones.
 std::vector<int> Grid::selectedCols() const {
     std::vector<int> cols;
-    for (int col = std::min(col_, colSel_); contains(row_, col_) && col <= std::max(col_, colSel_); ++col) {
+    for (int col = std::min(col_, colSel_); HasCell(row_, col_) && col <= std::max(col_, colSel_); ++col) {
         if (!column(col).Hidden) cols.push_back(col);
     }
     return cols;
@@ -116,7 +116,7 @@ std::string Grid::SelectedText() const {
     const std::vector<int> cols = selectedCols();
     std::string lines;
     const int firstRow = std::min(row_, rowSel_);
-    const int lastRow = contains(row_, col_) ? std::max(row_, rowSel_) : firstRow - 1;
+    const int lastRow = HasCell(row_, col_) ? std::max(row_, rowSel_) : firstRow - 1;
     for (int row = firstRow; row <= lastRow; ++row) {
         if (row > firstRow) lines += '\n';
         appendLine(lines, cols, [&](int col) { return TextMatrix(row, col); });
@@ -138,7 +138,7 @@ std::string Grid::SelectedTextWithHeadings(const std::function<std::string(int c
                    [&](int col) { return named ? headingOf(col) : std::string(TextMatrix(row, col)); });
     };
     for (int row = 0; row < std::min(fixedRows_, Rows()); ++row) append(row);
-    const int lastRow = contains(row_, col_) ? std::max(row_, rowSel_) : -1;
+    const int lastRow = HasCell(row_, col_) ? std::max(row_, rowSel_) : -1;
     for (int row = std::max(fixedRows_, std::min(row_, rowSel_)); row <= lastRow; ++row) append(row);
     return lines;
 }
@@ -161,7 +161,7 @@ std::optional<PastedBlock> Grid::UserPasteBlock(std::string_view lines) {
                 lastRow = row;
                 lastCol = std::max(lastCol, col);
                 col = nextShownCol(col, 1);
-            } else if (block.Left++ == 0 && isBody(row, col)) {
+            } else if (block.Left++ == 0 && IsBody(row, col)) {
                 block.Refused = text;
             }
         }
@@ -173,7 +173,7 @@ std::optional<PastedBlock> Grid::UserPasteBlock(std::string_view lines) {
 }
 
 bool Grid::pasteCell(int row, int col, std::string_view text) {
-    if (!isBody(row, col) || !UserMoveTo(row, col) || !UserBeginEdit()) return false;
+    if (!IsBody(row, col) || !UserMoveTo(row, col) || !UserBeginEdit()) return false;
     const bool leavesItem = isBlank(text) && !comboList_.empty();
     if (!leavesItem && UserEditPaste(text) && UserCommitEdit()) return true;
     UserCancelEdit();
@@ -195,7 +195,7 @@ std::vector<std::string_view> Grid::ComboItems() const {
 
 bool Grid::UserBeginEdit() {
     if (!acceptsUserAction() || Editable == EditMode::ReadOnly) return false;
-    if (!isBody(row_, col_)) return false;
+    if (!IsBody(row_, col_)) return false;
     bool cancel = false;
     BeforeEdit(row_, col_, cancel);
     if (cancel) return false;
@@ -263,7 +263,7 @@ void Grid::commit(int row, int col, std::string_view text) {
 }
 
 bool Grid::UserPutBack(int row, int col, std::string_view text) {
-    if (!acceptsUserAction() || Editable == EditMode::ReadOnly || !isBody(row, col)) return false;
+    if (!acceptsUserAction() || Editable == EditMode::ReadOnly || !IsBody(row, col)) return false;
     commit(row, col, text);
     return true;
 }
@@ -295,7 +295,7 @@ void Grid::UserMouseDown(int row, int col) {
     mouseCol_ = col;
     if (!acceptsUserAction()) return;
     MouseDown();
-    if (isBody(row, col)) Select(row, col);
+    if (IsBody(row, col)) Select(row, col);
 }
 
 /// Takes over what was typed or pasted, unless the cell has a list and the text is none of its items; an item is taken

@@ -40,6 +40,10 @@ protected:
         form.cmdExportResults.UserClick();
         watch.look();
     }
+    void removeSpecies(const char* number) {
+        type(form.txtRemoveSpeciesIndex, number);
+        form.cmdRemoveSpecies.UserClick();
+    }
     const FailedCommand& only() const {
         EXPECT_THAT(watch.failures(), SizeIs(1));
         return watch.failures().at(0);
@@ -275,10 +279,19 @@ TEST_F(GapInEntries, GoesWhenItIsForgottenOrItsRowIs) {
     EXPECT_FALSE(watch.gap());
 }
 
+TEST_F(GapInEntries, IsNotToldAgainOnceItIsForgotten) {
+    watch.forgetGap();
+    goTo(1);
+    watch.look();
+    EXPECT_FALSE(watch.gap());
+    goTo(6);
+    watch.look();
+    EXPECT_TRUE(watch.gap());  // it was found anew
+}
+
 TEST_F(GapInEntries, IsNotTakenForTheOneBelowWhenItsRowIsRemoved) {
     goTo(1);
-    type(form.txtRemoveSpeciesIndex, "2");
-    form.cmdRemoveSpecies.UserClick();
+    removeSpecies("2");
     watch.look();
     EXPECT_FALSE(watch.gap());
 }
@@ -354,8 +367,7 @@ TEST_F(RefusedSelection, IsNamedUntilTheScoresPageIsShown) {
     watch.look();
     EXPECT_TRUE(watch.selectionObstacle());
     goTo(1);
-    type(form.txtRemoveSpeciesIndex, "3");
-    form.cmdRemoveSpecies.UserClick();
+    removeSpecies("3");
     goTo(6);
     watch.look();
     EXPECT_FALSE(watch.selectionObstacle());
@@ -363,8 +375,7 @@ TEST_F(RefusedSelection, IsNamedUntilTheScoresPageIsShown) {
 
 TEST_F(RefusedSelection, IsNamedUntilTheResultsPageFindsNothingInItsWay) {
     goTo(1);
-    type(form.txtRemoveSpeciesIndex, "3");
-    form.cmdRemoveSpecies.UserClick();
+    removeSpecies("3");
     watch.look();
     EXPECT_TRUE(watch.selectionObstacle());
     goTo(4);
@@ -376,8 +387,7 @@ TEST_F(RefusedSelection, IsNamedUntilTheResultsPageFindsNothingInItsWay) {
 TEST_F(RefusedSelection, TellsTheReasonThatThereIsNow) {
     goTo(1);
     for (int i = 0; i < 3; ++i) {
-        type(form.txtRemoveSpeciesIndex, "1");
-        form.cmdRemoveSpecies.UserClick();
+        removeSpecies("1");
     }
     goTo(4);
     goTo(7);

@@ -16,7 +16,7 @@ QString shortened(const QString& text, int longest);
 QString clause(const QString& sentence);
 /// "1 cell", "12 cells".
 QString cells(qsizetype count);
-/// "one, two or three".
+/// "one, two or three", of one name at least.
 QString oneOf(QStringList names);
 /// That a cell does not accept a text; of its items, which there may be none of, one has to be chosen.
 QString refused(const QString& text, const std::vector<std::string_view>& items);

@@ -18,6 +18,7 @@ struct SuiteList {
     std::size_t Count = 0;
     bool IsExact = false;
 
+    bool isOneOnly() const { return IsExact && Count == 1; }
     bool isComplete() const { return IsExact && Count == Suites.size(); }
 };
 

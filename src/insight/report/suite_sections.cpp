@@ -38,7 +38,7 @@ std::string howManySuites(const ReportFindings& found) {
     if (!found.Minimum.BestIsProven)
         return "This is one suite of the smallest size; whether there are more, and whether another has a "
                "higher total, is not settled.";
-    if (list.Count == 1 && list.IsExact) return "There is one suite of the smallest size.";
+    if (list.isOneOnly()) return "There is one suite of the smallest size.";
     const std::string count = (list.IsExact ? "There are " : "There are at least ") +
                               counted(list.Count, "suite", "suites") + " of the smallest size.";
     if (list.isComplete()) return count;

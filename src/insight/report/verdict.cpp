@@ -209,8 +209,7 @@ Sentence prunedInstead(const ReportFindings& found) {
 
 Sentence bestInstead(const ReportFindings& found) {
     if (isSmallestKnown(found) || found.Index.units() == 0) return {};
-    const bool isOnly = found.Smallest.IsExact && found.Smallest.Count == 1;
-    const char* what = isOnly                           ? "It is "
+    const char* what = found.Smallest.isOneOnly()       ? "It is "
                        : found.Minimum.isProven()       ? "Of these the one with the highest total: "
                        : found.Minimum.Known.isProven() ? "One of that size: "
                                                         : "The smallest known: ";
@@ -219,7 +218,7 @@ Sentence bestInstead(const ReportFindings& found) {
 
 Sentence inAll(const ReportFindings& found) {
     const std::vector<std::string> names = speciesInAll(found);
-    if (names.empty() || (found.Smallest.IsExact && found.Smallest.Count == 1)) return {};
+    if (names.empty() || found.Smallest.isOneOnly()) return {};
     return Sentence("At these levels ")
         .names(names)
         .say(names.size() == 1 ? " is in every one of the smallest suites."
